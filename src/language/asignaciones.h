@@ -1,0 +1,34 @@
+// The statements that give a name a value: SER, ESC, OBS, CAL and SER FICTIC, and the store operations behind them.
+#pragma once
+
+#include "language/evaluador.h"
+
+// The names that the running assignment writes to; set by the parse of the statement, or by the procedures that
+// compute with formulas, before the store operation is called.
+struct DestinosAsignacion {
+    char serie[AnchoCodigo];
+    char escalar[AnchoCodigo];
+};
+
+extern DestinosAsignacion Destinos;
+
+// SER, ESC, OBS, CAL, SER FICTIC and MAT from behind the first word: parses target and "=", groups priorities,
+// evaluates and stores. `codigo` is the CodigoOrden of the first word and becomes OrdenFICTIC for a SER FICTIC.
+// 1 to go on, 0 to stop.
+int EjecutarAsignacion(LineasSentencia &lineas, int &posicion, Ventana *ventana, int primera, int ultima, int &codigo);
+
+// Stores the top column as the series Destinos.serie, over PrimeraEval to UltimaEval. 1, or 0 without a message when
+// the name is taken by another table or no more series fit.
+int GuardarSerie();
+
+// Stores the top column's first row as the scalar Destinos.escalar. 0 when stored, else above 0 (PonerEscalar).
+int GuardarEscalar();
+
+// Stores the top column's first row at the row of Destinos.serie that `periodo` names; the second form doesn't look
+// outside the sample. 1 (also when no row has this name), or 0 when the series doesn't exist or its name is taken.
+int GuardarObservacion(std::string_view periodo, Ventana *ventana);
+int GuardarObservacionMuestra(std::string_view periodo, Ventana *ventana);
+
+// Fills the series with the one column of a matrix from row InicioRegresion on, up to FinRegresion: the form
+// SER serie = {matriz}, `texto` from behind the "{" on. 1, or 0 after a message.
+int SerieDesdeMatriz(std::string_view serie, const std::string &texto, int posicion, Ventana *ventana);

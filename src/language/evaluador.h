@@ -1,0 +1,84 @@
+// The evaluator of series formulas: one pass over the text, left to right, on a stack of whole columns.
+#pragma once
+
+#include "platform/plataforma.h"
+#include "store/limites.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+// The text buffers of a statement: 0 holds the statement, 1 to 11 the pieces in parentheses while a formula is
+// evaluated. They belong to a batch, so that no statement allocates.
+using LineasSentencia = std::array<std::string, MaxNiveles>;
+
+// One column of the evaluation stack. Only the rows PrimeraEval to UltimaEval are written and read.
+struct ColumnaPila {
+    double valor[MaxObservaciones];
+    std::uint8_t presente[MaxObservaciones];
+};
+
+enum EstadosElemento { ElementoInicio = 0, ElementoOperando = 1, ElementoOperador = 2 };
+
+struct EstadoEvaluador {
+    ColumnaPila *PilaColumnas; // MaxColumnasPila columns, allocated for a batch; null outside one
+    std::int32_t profundidad;  // columns in use; the top one is profundidad - 1
+    std::int32_t NivelLinea;   // current buffer of LineasSentencia
+    std::array<std::array<char, 3>, MaxOperadoresPendientes> OperadoresPendientes;
+    std::int32_t numOperadores;
+    std::array<std::array<char, 7>, MaxFuncionesPendientes> FuncionesPendientes;
+    std::int32_t numFunciones;
+    std::int32_t EstadoElemento;
+    char OperadorLogico[4];     // the last AND or OR seen; one for the whole statement
+    std::int32_t MarcaRetardo;  // 1 once a lag was applied in this statement
+    std::int32_t ValorRetardo;  // the last lag applied, negative for past values
+    std::int32_t PrimeraEval, UltimaEval;
+    Ventana *ventana;           // owner of the messages
+};
+
+extern EstadoEvaluador Evaluador;
+
+// Clears the state of a statement (everything but the stack's memory, the bounds and the window).
+void LimpiarEvaluador();
+
+// Allocates PilaColumnas, or frees it. False when there is no memory.
+bool AbrirPilaColumnas();
+void CerrarPilaColumnas();
+
+// Evaluates buffer NivelLinea of `lineas` from `posicion` to where the text stops, over the rows `primera` to
+// `ultima`. 1 with the value in the top column and `posicion` advanced, or 0 after a message "%s. Pto %d" for each
+// level. With a negative bound or NumObs above 4,000 nothing is computed and the result is 1. A bound beyond the
+// tables, or a formula that leaves nothing on the stack, fails with point 88 or 1119.
+int EvaluarFormula(LineasSentencia &lineas, int &posicion, int primera, int ultima);
+
+// The top column. Only after an EvaluarFormula that gave 1 and left something (profundidad above 0).
+ColumnaPila &ColumnaSuperior();
+
+// Value of the top column at row PrimeraEval: what a scalar takes. 0.0 with an empty stack or a bound outside.
+double ValorSuperior();
+
+// Writes the parentheses that give multiplicative operators behind a plus or minus their priority, in `texto` from
+// `desde` up to `hasta` (not included) and not beyond the end.
+void AgruparPrioridades(std::string &texto, int desde, int hasta);
+
+// Pushes a constant column or the rows of a series. False when the stack is full (50 columns).
+bool ApilarNumero(double valor);
+bool ApilarSerie(int serie);
+
+// ----- Characters and tokens, shared with the matrix evaluator and the regression statements
+
+// The character at a position, NUL at or behind the end.
+inline char CaracterEn(const std::string &texto, int posicion) {
+    return posicion >= 0 && posicion < static_cast<int>(texto.size()) ? texto[static_cast<std::size_t>(posicion)] : '\0';
+}
+
+inline void SaltarBlancos(const std::string &texto, int &posicion) {
+    while (CaracterEn(texto, posicion) == ' ') ++posicion;
+}
+
+// True for a blank and what stands from "(" to "|", without , ; [ \ ] _ and the backquote. Bytes above 127 are not.
+bool EsCaracterFormula(char c);
+
+// Index of the ")" that closes the "(" at `abre`, or the text's length when none does.
+int ParentesisCierre(const std::string &texto, int abre);

@@ -1,0 +1,61 @@
+// Reading and writing whole files.
+#include "platform/archivos.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <system_error>
+#include <unistd.h>
+
+namespace {
+
+struct CerrarAlSalir {
+    void operator()(std::FILE *f) const { std::fclose(f); }
+};
+using Flujo = std::unique_ptr<std::FILE, CerrarAlSalir>;
+
+bool LeerTodo(std::FILE *f, std::string &contenido) {
+    contenido.clear();
+    char trozo[65536];
+    std::size_t n = 0;
+    while ((n = std::fread(trozo, 1, sizeof trozo, f)) > 0) contenido.append(trozo, n);
+    return std::ferror(f) == 0;
+}
+
+} // namespace
+
+bool LeerArchivo(const std::string &ruta, std::string &contenido) {
+    const Flujo f(std::fopen(ruta.c_str(), "rb"));
+    return f != nullptr && LeerTodo(f.get(), contenido);
+}
+
+bool LeerEntradaEstandar(std::string &contenido) { return LeerTodo(stdin, contenido); }
+
+bool EscribirArchivo(const std::string &ruta, std::string_view contenido) {
+    std::error_code error;
+    // What stands under the name keeps its name: a link is followed, and a device or a pipe is written in place.
+    std::filesystem::path destino = std::filesystem::weakly_canonical(ruta, error);
+    if (error) destino = ruta;
+    const bool especial = std::filesystem::exists(destino, error) && !std::filesystem::is_regular_file(destino, error);
+    const std::string nuevo = especial ? destino.string() : destino.string() + ".nuevo" + std::to_string(getpid());
+    std::FILE *f = std::fopen(nuevo.c_str(), "wb");
+    if (f == nullptr) return false;
+    bool bien = std::fwrite(contenido.data(), 1, contenido.size(), f) == contenido.size();
+    if (!especial) bien = std::fflush(f) == 0 && fsync(fileno(f)) == 0 && bien;
+    bien = std::fclose(f) == 0 && bien;
+    if (especial) return bien;
+    if (bien) {
+        const auto permisos = std::filesystem::status(destino, error).permissions();
+        if (!error && permisos != std::filesystem::perms::unknown)
+            std::filesystem::permissions(nuevo, permisos, error);
+        std::filesystem::rename(nuevo, destino, error);
+        bien = !error;
+    }
+    if (!bien) std::filesystem::remove(nuevo, error);
+    return bien;
+}
+
+bool ExisteArchivo(const std::string &ruta) {
+    std::error_code error;
+    return std::filesystem::exists(ruta, error);
+}

@@ -1,0 +1,64 @@
+// Start and reset of the work file.
+#include "store/archivo.h"
+
+#include "platform/numeros.h"
+#include "platform/strstr.h"
+#include "store/periodos.h"
+
+#include <cstring>
+
+TablaDeEcuaciones TablaEcuaciones;
+
+void PonerTextoPeriodo(int fila, std::string_view texto) {
+    PonerCampo(ArchivoTrabajo.TextosPeriodo[fila], texto, AnchoPeriodo);
+    ArchivoTrabajo.ValoresPeriodo[fila] = LeerDecimal(ArchivoTrabajo.TextosPeriodo[fila]);
+}
+
+std::string_view TextoPeriodo(int fila) {
+    if (fila < 0 || fila >= MaxObservaciones) return {};
+    return Recortado(ArchivoTrabajo.TextosPeriodo[fila]);
+}
+
+namespace {
+
+// Empties the tables of observations; codes, labels and period texts become blank.
+void VaciarTablas() {
+    CabeceraArchivo &a = ArchivoTrabajo;
+    a.NumSeries = 0;
+    std::memset(a.ValoresObs, 0, sizeof a.ValoresObs);
+    std::memset(a.PresenciaObs, 0, sizeof a.PresenciaObs);
+    for (auto &codigo : a.Codigos) RellenarCadena(codigo, ' ', AnchoCodigo - 1);
+    for (auto &etiqueta : a.EtiquetasObs) RellenarCadena(etiqueta, ' ', AnchoEtiqueta - 1);
+    for (int i = 0; i < MaxObservaciones; ++i) PonerTextoPeriodo(i, "");
+    TablaEscalares.numero = 0;
+    TablaMatrices.numero = 0;
+    LimpiarLimitesMuestra();
+    LimpiarBufferMatriz();
+}
+
+} // namespace
+
+void IniciarArchivoTrabajo() {
+    VaciarTablas();
+    LiberarMatrices();
+    CabeceraArchivo &a = ArchivoTrabajo;
+    PonerCampo(a.NombreProyecto, "Proyec01", AnchoProyecto);
+    a.TipoDatos = SinTipoDatos;
+    PonerCampo(a.TextoIntervalo, "", AnchoIntervalo);
+    a.NumObs = 0;
+    a.ConEtiquetas = 0;
+    std::memset(a.PrimeraObs, 0, sizeof a.PrimeraObs);
+    std::memset(a.UltimaObs, 0, sizeof a.UltimaObs);
+    for (auto &codigo : a.Codigos) codigo[0] = '\0'; // empty until the first reset
+    TablaEscalares = {};
+    TablaEcuaciones = {};
+    DescripcionPanel = {};
+    for (auto &etiqueta : DescripcionPanel.EtiquetasIndividuo) RellenarCadena(etiqueta, ' ', AnchoEtiqueta - 1);
+    Muestra = {};
+}
+
+void VaciarArchivoTrabajo() {
+    VaciarTablas();
+    ConstruirPeriodos();
+    RefrescarEditor();
+}

@@ -1,0 +1,140 @@
+// The table of matrices and their blocks.
+#include "platform/strstr.h"
+#include "platform/texto.h"
+#include "store/archivo.h"
+
+#include <algorithm>
+#include <cstring>
+#include <new>
+
+TablaDeMatrices TablaMatrices;
+MatrizDeTrabajo BufferMatriz;
+
+namespace {
+
+// A block for `elementos` doubles. What it holds beyond the elements of its matrix is never read, so it isn't cleared.
+bool ReservarBloque(int matriz, int elementos) {
+    double *bloque = new (std::nothrow) double[static_cast<std::size_t>(std::max(elementos, 1))];
+    if (bloque == nullptr) return false;
+    TablaMatrices.bloque[matriz] = bloque;
+    TablaMatrices.capacidad[matriz] = std::max(elementos, 1);
+    TablaMatrices.EstadoBloque[matriz] = BloqueSuelto;
+    return true;
+}
+
+void LiberarBloque(int matriz) {
+    delete[] TablaMatrices.bloque[matriz];
+    TablaMatrices.bloque[matriz] = nullptr;
+    TablaMatrices.capacidad[matriz] = 0;
+    TablaMatrices.registro[matriz].Datos = nullptr;
+    TablaMatrices.EstadoBloque[matriz] = SinBloque;
+}
+
+int Elementos(int matriz) {
+    return TablaMatrices.registro[matriz].Filas * TablaMatrices.registro[matriz].Columnas;
+}
+
+// Moves matrix j to slot j - 1, whose block is gone, through BufferMatriz.
+int BajarMatriz(Ventana *ventana, int j) {
+    const auto falla = [&](const std::string &texto) {
+        MostrarMensaje(ventana, texto);
+        return 0;
+    };
+    RegistroMatriz &origen = TablaMatrices.registro[j];
+    RegistroMatriz &destino = TablaMatrices.registro[j - 1];
+    if (TablaMatrices.EstadoBloque[j] == SinBloque) return falla("No hay suficiente Memoria. P21");
+    if (TablaMatrices.bloque[j] == nullptr) return falla("No hay suficiente Memoria. P26");
+    LimpiarBufferMatriz();
+    if (!FijarMatriz(j)) return falla("No hay suficiente Memoria. P24");
+    const int n = Elementos(j);
+    std::copy_n(origen.Datos, n, BufferMatriz.datos);
+    std::fill_n(BufferMatriz.presencia, n, 1);
+    std::memcpy(BufferMatriz.Codigo, origen.Codigo, AnchoCodigo);
+    BufferMatriz.Filas = origen.Filas;
+    BufferMatriz.Columnas = origen.Columnas;
+    BufferMatriz.enUso = n;
+    LiberarBloque(j);
+    if (TablaMatrices.EstadoBloque[j - 1] == SinBloque && !ReservarBloque(j - 1, n))
+        return falla("No hay suficiente memoria. P1");
+    if (!FijarMatriz(j - 1)) return falla("No hay suficiente memoria. P2");
+    if (j - 1 >= TablaMatrices.numero) return falla(Formatear("Error en Memoria. P3. %d", j - 1));
+    if (destino.Datos == nullptr) return falla("No hay suficiente Memoria. P3");
+    std::copy_n(BufferMatriz.datos, n, destino.Datos);
+    std::memcpy(destino.Codigo, BufferMatriz.Codigo, AnchoCodigo);
+    destino.Filas = BufferMatriz.Filas;
+    destino.Columnas = BufferMatriz.Columnas;
+    SoltarMatriz(j - 1);
+    return 1;
+}
+
+} // namespace
+
+int BuscarMatriz(std::string_view codigo) {
+    ::Codigo buscado;
+    PonerCampo(buscado, codigo, AnchoCodigo);
+    for (int m = 0; m < TablaMatrices.numero; ++m)
+        if (std::memcmp(TablaMatrices.registro[m].Codigo, buscado, AnchoCodigo) == 0) return m;
+    return -1;
+}
+
+bool FijarMatriz(int matriz) {
+    if (TablaMatrices.bloque[matriz] == nullptr) return false;
+    TablaMatrices.registro[matriz].Datos = TablaMatrices.bloque[matriz];
+    TablaMatrices.EstadoBloque[matriz] = BloqueFijado;
+    return true;
+}
+
+void SoltarMatriz(int matriz) {
+    if (TablaMatrices.EstadoBloque[matriz] != BloqueFijado) return;
+    TablaMatrices.registro[matriz].Datos = nullptr;
+    TablaMatrices.EstadoBloque[matriz] = BloqueSuelto;
+}
+
+void SoltarTodasMatrices() {
+    for (int m = 0; m < MaxMatrices; ++m) SoltarMatriz(m);
+}
+
+ResultadoGuardarMatriz GuardarMatriz(std::string_view codigo, const double *datos, int filas, int columnas) {
+    int m = BuscarMatriz(codigo);
+    const bool nueva = m < 0;
+    if (nueva && TablaMatrices.numero > TopeMatrices) return MatrizSinSitio;
+    if (nueva) m = TablaMatrices.numero;
+    // An existing matrix takes a full block even if it had one of its own size after a move. A new one in a slot that
+    // kept its block through a reset goes on with the old block, unless that one was of a smaller matrix.
+    const int minimo = nueva ? filas * columnas : ElementosBloque;
+    if (TablaMatrices.capacidad[m] < minimo || TablaMatrices.EstadoBloque[m] == SinBloque) {
+        LiberarBloque(m);
+        if (!ReservarBloque(m, ElementosBloque)) return MatrizSinMemoria;
+    }
+    FijarMatriz(m);
+    RegistroMatriz &r = TablaMatrices.registro[m];
+    std::copy_n(datos, filas * columnas, r.Datos);
+    PonerCampo(r.Codigo, codigo, AnchoCodigo);
+    r.Filas = static_cast<std::int16_t>(filas);
+    r.Columnas = static_cast<std::int16_t>(columnas);
+    if (nueva) ++TablaMatrices.numero;
+    SoltarMatriz(m);
+    return MatrizGuardada;
+}
+
+int BorrarMatriz(Ventana *ventana, int matriz) {
+    LiberarBloque(matriz);
+    for (int j = matriz + 1; j < TablaMatrices.numero; ++j)
+        if (BajarMatriz(ventana, j) == 0) return 0;
+    --TablaMatrices.numero;
+    return 1;
+}
+
+void LiberarMatrices() {
+    for (int m = 0; m < MaxMatrices; ++m) LiberarBloque(m);
+    TablaMatrices.numero = 0;
+}
+
+void LimpiarBufferMatriz() {
+    std::fill_n(BufferMatriz.datos, BufferMatriz.enUso, 0.0);
+    std::fill_n(BufferMatriz.presencia, BufferMatriz.enUso, 0);
+    BufferMatriz.enUso = 0;
+    RellenarCadena(BufferMatriz.Codigo, ' ', AnchoCodigo - 1);
+    BufferMatriz.Filas = 0;
+    BufferMatriz.Columnas = 0;
+}

@@ -1,0 +1,76 @@
+// The table of series: lookups, slots, deletion and compaction.
+#include "platform/strstr.h"
+#include "store/archivo.h"
+
+#include <cstring>
+
+CabeceraArchivo ArchivoTrabajo;
+std::int32_t SeriesPermitidas;
+
+namespace {
+
+bool EnBlanco(const Codigo &codigo) { return CadenaDeCaracter(codigo, ' ') == 1; }
+
+int BuscarEntre(std::string_view codigo, int cuantas) {
+    Codigo buscado;
+    PonerCampo(buscado, codigo, AnchoCodigo);
+    if (EnBlanco(buscado)) return -1; // a blank code is an empty slot, never a series
+    for (int s = 0; s < cuantas; ++s)
+        if (std::memcmp(ArchivoTrabajo.Codigos[s], buscado, AnchoCodigo) == 0) return s;
+    return -1;
+}
+
+} // namespace
+
+int BuscarSerie(std::string_view codigo) { return BuscarEntre(codigo, ArchivoTrabajo.NumSeries); }
+
+int BuscarSerieEnTabla(std::string_view codigo) { return BuscarEntre(codigo, MaxSeries); }
+
+bool CabeOtraSerie() { return ArchivoTrabajo.NumSeries <= TopeSeries; }
+
+int TomarSerie(std::string_view codigo) {
+    const int propia = BuscarSerieEnTabla(codigo);
+    if (propia >= 0) return propia;
+    if (!CabeOtraSerie()) return -1;
+    return ArchivoTrabajo.NumSeries++;
+}
+
+void LimpiarColumna(int serie) {
+    for (int i = 0; i < MaxObservaciones; ++i) {
+        ArchivoTrabajo.ValoresObs[i][serie] = 0.0;
+        ArchivoTrabajo.PresenciaObs[i][serie] = 0;
+    }
+}
+
+void PonerCodigoSerie(int serie, std::string_view codigo) {
+    PonerCampo(ArchivoTrabajo.Codigos[serie], codigo, AnchoCodigo);
+}
+
+void BorrarSerie(int serie) { PonerCodigoSerie(serie, ""); }
+
+void CompactarSeries() {
+    int destino = 0;
+    for (int s = 0; s < MaxSeries; ++s) {
+        if (EnBlanco(ArchivoTrabajo.Codigos[s])) continue;
+        if (s != destino) {
+            for (int i = 0; i < MaxObservaciones; ++i) {
+                ArchivoTrabajo.ValoresObs[i][destino] = ArchivoTrabajo.ValoresObs[i][s];
+                ArchivoTrabajo.PresenciaObs[i][destino] = ArchivoTrabajo.PresenciaObs[i][s];
+            }
+            LimpiarColumna(s);
+            std::memcpy(ArchivoTrabajo.Codigos[destino], ArchivoTrabajo.Codigos[s], AnchoCodigo);
+            ArchivoTrabajo.PrimeraObs[destino] = ArchivoTrabajo.PrimeraObs[s];
+            ArchivoTrabajo.UltimaObs[destino] = ArchivoTrabajo.UltimaObs[s];
+            BorrarSerie(s);
+        }
+        ++destino;
+    }
+    ArchivoTrabajo.NumSeries = static_cast<std::uint16_t>(destino);
+}
+
+void EliminarSerie(int serie) {
+    BorrarSerie(serie);
+    LimpiarColumna(serie);
+    CompactarSeries();
+    RefrescarEditor();
+}

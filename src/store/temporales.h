@@ -1,0 +1,20 @@
+// The names that a command computes with, and their deletion.
+#pragma once
+
+#include "platform/plataforma.h"
+
+#include <string>
+
+// The 25 result families of a regression.
+enum Familias {
+    FamBETA, FamNREG, FamANREG, FamSCR, FamDTR, FamDIV, FamMTR, FamCOV, FamDTE, FamMVD, FamSTVD, FamLV, FamAIC,
+    FamSCVD, FamDTVD, FamDCR, FamRC, FamDW, FamRCC, FamEA1, FamPROBT, FamNORE, FamFORLA, FamESTF, FamRES,
+    NumFamilias
+};
+
+// Name of a result: base and the suffix of the code (8 and 13 none, 9 R, 10 GN, 11 GD, 12 W). Any other code: base.
+const char *NombreFamilia(Familias familia, int codigo);
+
+// Deletes the temporaries of a command: codes 8 to 13 are regressions, 104 the rank test. Result 0. A deletion of a
+// matrix that fails shows its message and ends the routine at once.
+int BorrarTemporales(Ventana *ventana, int codigo);

@@ -1,0 +1,146 @@
+// The platform of the tests.
+#include "apoyo/plataforma_prueba.h"
+
+#include "estimation/regresion.h"
+#include "language/lote_sentencias.h"
+#include "platform/strstr.h"
+#include "platform/texto.h"
+#include "store/archivo.h"
+#include "store/periodos.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+PlataformaDePrueba Prueba;
+
+namespace {
+
+Respuesta Caja(Ventana *, std::string_view texto, std::string_view titulo, Icono icono, Botones botones) {
+    Prueba.cajas.push_back({Utf8De1252(titulo), Utf8De1252(texto), icono, botones});
+    if (botones == BotonesAceptar) return RespuestaAceptar;
+    if (!Prueba.respuestas.empty()) {
+        const Respuesta r = Prueba.respuestas.front();
+        Prueba.respuestas.pop_front();
+        return r;
+    }
+    return botones == BotonesAceptarCancelar ? RespuestaAceptar : RespuestaSi;
+}
+
+std::vector<std::pair<int, std::string>> Lineas(const TextoSalida *texto) {
+    std::vector<std::pair<int, std::string>> r;
+    if (texto != nullptr)
+        for (const LineaSalida &l : *texto) r.emplace_back(l.Grupo, Utf8De1252(Recortado(l.texto, RecorteDerecha)));
+    return r;
+}
+
+void Resultado(Ventana *, const SalidaResultado &s) {
+    Prueba.resultados.push_back(
+        {s.tipo, Utf8De1252(s.titulo), s.Clase, s.Contenido, Lineas(s.lineas), Lineas(s.fijas)});
+}
+
+const OperacionesPlataforma Operaciones = {
+    .caja = Caja,
+    .cursor = [](Cursor c) { Prueba.cursor = c; },
+    .textoDeControl = [](ControlTexto *) { return Prueba.textoControl; },
+    .seleccionDeControl =
+        [](ControlTexto *, int &desde, int &hasta) {
+            desde = Prueba.desde;
+            hasta = Prueba.hasta;
+        },
+    .mostrarResultado = Resultado,
+    .mostrarGrafico = [](Ventana *, const Grafico &) {},
+    .refrescarEditor = [] { ++Prueba.refrescos; },
+    .abrirImpresora = []() -> DispositivoImpresion * { return nullptr; },
+    .iniciarDocumento = [](DispositivoImpresion *, const char *) { return false; },
+    .iniciarPagina = [](DispositivoImpresion *) { return false; },
+    .superficieDePagina = [](DispositivoImpresion *) -> Superficie * { return nullptr; },
+    .terminarPagina = [](DispositivoImpresion *) { return false; },
+    .terminarDocumento = [](DispositivoImpresion *) { return false; },
+    .cerrarImpresora = [](DispositivoImpresion *) {},
+    .segundos = [] { return Prueba.segundos; },
+};
+
+constexpr double Nada = std::numeric_limits<double>::quiet_NaN();
+
+} // namespace
+
+void EmpezarPrueba() {
+    Prueba = {};
+    InstalarPlataforma(Operaciones);
+    IniciarArchivoTrabajo();
+    IniciarLote();
+    IniciarRegresion();
+}
+
+void EmpezarConDatos(int tipo, std::string_view intervalo) {
+    EmpezarPrueba();
+    ArchivoTrabajo.TipoDatos = static_cast<std::int16_t>(tipo);
+    PonerCampo(ArchivoTrabajo.TextoIntervalo, intervalo, AnchoIntervalo);
+    VaciarArchivoTrabajo();
+    ActualizarMuestra();
+    Prueba = {};
+}
+
+void PonerSerie(std::string_view codigo, const std::vector<double> &valores, int primera) {
+    const int s = TomarSerie(codigo);
+    PonerCodigoSerie(s, codigo);
+    LimpiarColumna(s);
+    for (std::size_t i = 0; i < valores.size(); ++i) {
+        if (std::isnan(valores[i])) continue;
+        ArchivoTrabajo.ValoresObs[primera + static_cast<int>(i)][s] = valores[i];
+        ArchivoTrabajo.PresenciaObs[primera + static_cast<int>(i)][s] = 1;
+    }
+}
+
+std::vector<double> ValoresDe(std::string_view codigo, int n) {
+    std::vector<double> r(static_cast<std::size_t>(n), Nada);
+    const int s = BuscarSerie(codigo);
+    for (int i = 0; s >= 0 && i < n; ++i)
+        if (ArchivoTrabajo.PresenciaObs[i][s] == 1) r[static_cast<std::size_t>(i)] = ArchivoTrabajo.ValoresObs[i][s];
+    return r;
+}
+
+double EscalarDe(std::string_view codigo) {
+    const int e = BuscarEscalar(codigo);
+    return e >= 0 ? TablaEscalares.registro[e].Valor : Nada;
+}
+
+std::vector<double> MatrizDe(std::string_view codigo, int &filas, int &columnas) {
+    filas = columnas = 0;
+    const int m = BuscarMatriz(codigo);
+    if (m < 0) return {};
+    filas = TablaMatrices.registro[m].Filas;
+    columnas = TablaMatrices.registro[m].Columnas;
+    FijarMatriz(m);
+    const double *d = TablaMatrices.registro[m].Datos;
+    std::vector<double> r(d, d + filas * columnas);
+    SoltarMatriz(m);
+    return r;
+}
+
+void PonerMatriz(std::string_view codigo, const std::vector<double> &datos, int filas, int columnas) {
+    GuardarMatriz(codigo, datos.data(), filas, columnas);
+}
+
+std::vector<std::string> TextosDeCajas() {
+    std::vector<std::string> r;
+    std::transform(Prueba.cajas.begin(), Prueba.cajas.end(), std::back_inserter(r),
+                   [](const CajaVista &c) { return c.texto; });
+    return r;
+}
+
+bool Procesar(std::string_view texto) {
+    Prueba.textoControl = Texto1252DeUtf8(texto);
+    Prueba.desde = 0;
+    Prueba.hasta = static_cast<int>(Prueba.textoControl.size());
+    ActualizarMuestra();
+    ProcesarLote(nullptr, nullptr, 0, {}, Muestra.InicioMuestra, Muestra.FinMuestra);
+    return Lote.detenido == 0;
+}
+
+bool Sentencia(std::string_view texto) {
+    ActualizarMuestra();
+    ProcesarLote(nullptr, nullptr, 246, Texto1252DeUtf8(texto), Muestra.InicioMuestra, Muestra.FinMuestra);
+    return Lote.detenido == 0;
+}

@@ -1,0 +1,74 @@
+// The platform of the tests: records every box, result window, print page and refresh, and answers questions from a
+// script. Texts are kept in UTF-8, so that a test writes them as they are read.
+#pragma once
+
+#include "charts/resultado.h"
+#include "platform/plataforma.h"
+
+#include <cstdint>
+#include <deque>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+// A box that was shown. Printed as `titulo | texto`, with `?` in front when it was a question.
+struct CajaVista {
+    std::string titulo, texto;
+    Icono icono;
+    Botones botones;
+    bool operator==(const CajaVista &) const = default;
+};
+
+// A result window that was shown; lines with their kind, trailing blanks removed.
+struct ResultadoVisto {
+    TiposDeSalida tipo;
+    std::string titulo;
+    int clase, contenido;
+    std::vector<std::pair<int, std::string>> lineas;
+    std::vector<std::pair<int, std::string>> fijas;
+};
+
+struct PlataformaDePrueba {
+    std::vector<CajaVista> cajas;
+    std::vector<ResultadoVisto> resultados;
+    std::deque<Respuesta> respuestas; // for the questions to come; when empty, yes or OK
+    int refrescos = 0;                // calls of RefrescarEditor
+    Cursor cursor = CursorFlecha;
+    std::int32_t segundos = 1234567; // what SegundosDeCalendario answers
+    std::string textoControl;        // text of the one control, in Windows-1252
+    int desde = 0, hasta = 0;        // its selection
+};
+
+extern PlataformaDePrueba Prueba;
+
+// Installs the platform anew, with nothing recorded, and an empty work file without a data type.
+void EmpezarPrueba();
+
+// EmpezarPrueba, then a work file of the given kind (TiposDeDatos), the periods as its dialog's fields take them joined
+// in TextoIntervalo's columns, such as "1990#2005"; empty for type 0.
+void EmpezarConDatos(int tipo, std::string_view intervalo);
+
+// Creates a series, its values from row `primera` on; a NaN is a missing value.
+void PonerSerie(std::string_view codigo, const std::vector<double> &valores, int primera = 0);
+
+// Values of a series in rows 0 to n - 1; NaN for a missing value or when there is no such series.
+std::vector<double> ValoresDe(std::string_view codigo, int n);
+
+// Value of a scalar, NaN when there is none.
+double EscalarDe(std::string_view codigo);
+
+// Elements of a matrix by rows, empty when there is none; its size through the two references.
+std::vector<double> MatrizDe(std::string_view codigo, int &filas, int &columnas);
+void PonerMatriz(std::string_view codigo, const std::vector<double> &datos, int filas, int columnas);
+
+// The texts of the boxes shown since EmpezarPrueba, in order.
+std::vector<std::string> TextosDeCajas();
+
+// Runs a text (UTF-8) as the edit screen does with everything selected, over the refreshed sample. True when the
+// batch ran to its end.
+bool Procesar(std::string_view texto);
+
+// Runs one statement as a dialog does. True when it didn't stop.
+bool Sentencia(std::string_view texto);
