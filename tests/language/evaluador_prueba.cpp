@@ -52,7 +52,7 @@ const Valores CasosDeValores[] = {
     {"( ( A ) )", 1, 10},
     {"A)", 1, 10},
     {")A", 1, 10},
-    {") A ) + ) B )", 1, 10},
+    {") A ) + B )", 11, 110},
     {"NOBS", 10, 10},
     {"A / NOBS", 0.1, 1},
     // Comparisons are of the rank of a sum.
