@@ -32,3 +32,14 @@ int GuardarObservacionMuestra(std::string_view periodo, Ventana *ventana);
 // Fills the series with the one column of a matrix from row InicioRegresion on, up to FinRegresion: the form
 // SER serie = {matriz}, `texto` from behind the "{" on. 1, or 0 after a message.
 int SerieDesdeMatriz(std::string_view serie, const std::string &texto, int posicion, Ventana *ventana);
+
+// SER codigo = codigo(-n) resto, with `posicion` of the statement's line behind the "=": stores row after row, each
+// from the row just stored n places before it, for the rows i with primera + n <= i < ultima - primera + 1. 1 when
+// the statement had this form, whether or not it failed ("Error en el cálculo", "Error en las asignaciones": the
+// batch goes on), else 0.
+int SerieRecursiva(int posicion, Ventana *ventana, LineasSentencia &lineas, int primera, int ultima);
+
+// Makes a series of ones and zeros for each distinct whole value, at most 99, that Destinos.serie has in the rows
+// primera <= i < ultima - primera + 1. An unknown series gives the box "(%s)", title "Serie no existe"; a full table
+// ends it in silence, with the series made so far.
+void SeriesFicticias(Ventana *ventana, int primera, int ultima);
