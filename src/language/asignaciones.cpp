@@ -22,7 +22,9 @@ std::string_view LeerHasta(const std::string &linea, int &posicion, const char *
     return std::string_view(linea).substr(desde, hasta - desde);
 }
 
-int Tamano(const std::string &linea) { return static_cast<int>(linea.size()); }
+int Tamano(const std::string &linea) {
+    return static_cast<int>(linea.size());
+}
 
 // SER FICTIC, with FICTIC as a word of its own: "SER FICTIC=3" is a series of that name.
 void ReconocerFICTIC(const std::string &linea, int &posicion, int &codigo) {
@@ -44,7 +46,8 @@ std::string LeerPeriodo(const std::string &linea, int &posicion) {
 }
 
 // Reads the target into the buffer of its kind. 1, or 0 after the message of a name that can't be one.
-int LeerObjetivo(const std::string &linea, int &posicion, int codigo, std::string &periodo, Ventana *ventana) {
+int LeerObjetivo(const std::string &linea, int &posicion, int codigo, std::string &periodo,
+                 Ventana *ventana) {
     const char *fines = codigo == OrdenOBS ? " [" : codigo == OrdenFICTIC ? " " : " =";
     Codigo objetivo;
     const std::string_view nombre = LeerHasta(linea, posicion, fines);
@@ -53,7 +56,9 @@ int LeerObjetivo(const std::string &linea, int &posicion, int codigo, std::strin
     if (nombre.empty() || CodigoValido(nombre, objetivo) == 0)
         return MensajeNumerado(ventana, 36, "Nombre no válido"_w);
     if (codigo == OrdenOBS) periodo = LeerPeriodo(linea, posicion);
-    char *destino = codigo == OrdenESC ? Destinos.escalar : codigo == OrdenMAT ? CodigoMatrizDestino : Destinos.serie;
+    char *destino = codigo == OrdenESC   ? Destinos.escalar
+                    : codigo == OrdenMAT ? CodigoMatrizDestino
+                                         : Destinos.serie;
     std::memcpy(destino, objetivo, AnchoCodigo);
     return 1;
 }
@@ -62,7 +67,8 @@ int LeerObjetivo(const std::string &linea, int &posicion, int codigo, std::strin
 int LeerIgual(const std::string &linea, int &posicion, Ventana *ventana) {
     SaltarBlancos(linea, posicion);
     if (CaracterEn(linea, posicion) != '=') {
-        const std::string_view caracter = std::string_view(linea).substr(static_cast<std::size_t>(posicion), 1);
+        const std::string_view caracter =
+            std::string_view(linea).substr(static_cast<std::size_t>(posicion), 1);
         std::string texto = "Caracter no válido. Punto 32, caracter: ["_w;
         MostrarMensaje(ventana, texto.append(caracter).append("]"));
         return 0;
@@ -104,7 +110,8 @@ int Calcular(LineasSentencia &lineas, int &posicion, Ventana *ventana, int prime
 
 } // namespace
 
-int EjecutarAsignacion(LineasSentencia &lineas, int &posicion, Ventana *ventana, int primera, int ultima, int &codigo) {
+int EjecutarAsignacion(LineasSentencia &lineas, int &posicion, Ventana *ventana, int primera, int ultima,
+                       int &codigo) {
     if (codigo == OrdenCAL) return Calcular(lineas, posicion, ventana, primera, ultima);
     if (codigo == OrdenSER) ReconocerFICTIC(lineas[0], posicion, codigo);
     std::string periodo;
@@ -120,6 +127,7 @@ int EjecutarAsignacion(LineasSentencia &lineas, int &posicion, Ventana *ventana,
     case OrdenSER: return AsignarSerie(lineas, posicion, ventana, primera, ultima);
     case OrdenESC: return AsignarEscalar(lineas, posicion, ventana, primera, ultima);
     default:
-        return EvaluarFormula(lineas, posicion, primera, ultima) == 1 ? GuardarObservacion(periodo, ventana) : 0;
+        return EvaluarFormula(lineas, posicion, primera, ultima) == 1 ? GuardarObservacion(periodo, ventana)
+                                                                      : 0;
     }
 }

@@ -15,7 +15,8 @@ extern DestinosAsignacion Destinos;
 // SER, ESC, OBS, CAL, SER FICTIC and MAT from behind the first word: parses target and "=", groups priorities,
 // evaluates and stores. `codigo` is the CodigoOrden of the first word and becomes OrdenFICTIC for a SER FICTIC.
 // 1 to go on, 0 to stop.
-int EjecutarAsignacion(LineasSentencia &lineas, int &posicion, Ventana *ventana, int primera, int ultima, int &codigo);
+int EjecutarAsignacion(LineasSentencia &lineas, int &posicion, Ventana *ventana, int primera, int ultima,
+                       int &codigo);
 
 // Stores the top column as the series Destinos.serie, over PrimeraEval to UltimaEval. 1, or 0 without a message when
 // the name is taken by another table or no more series fit.

@@ -81,7 +81,8 @@ void SustituirToken(LlamadaBloque &b, std::string_view buscado, std::string_view
     for (std::string_view token; !(token = LeerTokenBloque(b.linea, posicion)).empty();) {
         if (token != buscado) continue;
         const int inicio = posicion - static_cast<int>(token.size());
-        b.sustituida.append(b.linea, static_cast<std::size_t>(hecho), static_cast<std::size_t>(inicio - hecho));
+        b.sustituida.append(b.linea, static_cast<std::size_t>(hecho),
+                            static_cast<std::size_t>(inicio - hecho));
         b.sustituida.append(reemplazo);
         hecho = posicion;
     }
@@ -124,7 +125,9 @@ bool LineaAcaba(const Paso &p, int punto) {
     return false;
 }
 
-Marcha Correr(Paso &p) { return SeOmite() || CorrerSentencia(p.e, p.b.linea) == 1 ? Sigue : Falla; }
+Marcha Correr(Paso &p) {
+    return SeOmite() || CorrerSentencia(p.e, p.b.linea) == 1 ? Sigue : Falla;
+}
 
 // The sample of the regression takes the bounds of the block even where the line is passed over.
 Marcha CorrerMC(Paso &p) {
@@ -134,7 +137,9 @@ Marcha CorrerMC(Paso &p) {
 }
 
 // Whole hundredths and less come out as the period texts read: 2000.3 + 0.1 is the number of the text 2000.4.
-double SeisDecimales(double x) { return std::fabs(x) < 1e9 ? std::round(x * 1e6) / 1e6 : x; }
+double SeisDecimales(double x) {
+    return std::fabs(x) < 1e9 ? std::round(x * 1e6) / 1e6 : x;
+}
 
 // The counter of the next turn; false when there is none.
 bool SiguienteContador(const LlamadaBloque &b, double &siguiente) {
@@ -200,8 +205,12 @@ Marcha Salir(Paso &p, int punto, bool rompe) {
     return Termina;
 }
 
-Marcha Romper(Paso &p) { return Salir(p, 18, true); }
-Marcha Continuar(Paso &p) { return Salir(p, 19, false); }
+Marcha Romper(Paso &p) {
+    return Salir(p, 18, true);
+}
+Marcha Continuar(Paso &p) {
+    return Salir(p, 19, false);
+}
 
 Marcha EntrarSI(Paso &p);
 Marcha EntrarSINO(Paso &p);
@@ -365,7 +374,8 @@ int CorrerREPITE(EntornoBloque &e, int nivel, int detras, int &posicion) {
 int CorrerMIENTRAS(EntornoBloque &e, int nivel, int detras, int &posicion) {
     LlamadaBloque &b = Llamadas[nivel];
     if (LeerCondicion(e, b, detras) == 0) return 0;
-    if (!b.conLista && !CondicionCierta(b)) return MensajePunto(e.ventana, "No es una comparación válida"_w, 8);
+    if (!b.conLista && !CondicionCierta(b))
+        return MensajePunto(e.ventana, "No es una comparación válida"_w, 8);
     return BuscarCierre(e, b, posicion) == 1 ? RecorrerBloque(e, nivel, posicion) : 0;
 }
 
@@ -375,8 +385,9 @@ struct PrimeraLinea {
     int (*rutina)(EntornoBloque &, int nivel, int detras, int &posicion);
 };
 
-constexpr PrimeraLinea PrimerasLineas[] = {
-    {"REPITE", BloqueREPITE, CorrerREPITE}, {"MIENTRAS", BloqueMIENTRAS, CorrerMIENTRAS}, {"SI", BloqueSI, CorrerSI}};
+constexpr PrimeraLinea PrimerasLineas[] = {{"REPITE", BloqueREPITE, CorrerREPITE},
+                                           {"MIENTRAS", BloqueMIENTRAS, CorrerMIENTRAS},
+                                           {"SI", BloqueSI, CorrerSI}};
 
 } // namespace
 
@@ -389,17 +400,20 @@ std::string_view LeerTokenBloque(std::string_view linea, int &posicion) {
     return linea.substr(inicio, i - inicio);
 }
 
-bool NadaDetras(std::string_view linea, int posicion) { return LeerTokenBloque(linea, posicion).empty(); }
+bool NadaDetras(std::string_view linea, int posicion) {
+    return LeerTokenBloque(linea, posicion).empty();
+}
 
 int CorrerSentencia(EntornoBloque &e, std::string_view texto) {
     static const std::string SinTexto;
     int posicion = 0;
     int codigo = 0;
-    return EjecutarSentencia(1, e.lineas, 0, posicion, texto, SinTexto, e.ventana, e.primera, e.ultima, codigo);
+    return EjecutarSentencia(1, e.lineas, 0, posicion, texto, SinTexto, e.ventana, e.primera, e.ultima,
+                             codigo);
 }
 
-int EjecutarBloque(std::string_view cuerpo, LineasSentencia &lineas, int &avance, Ventana *ventana, int &primera,
-                   int &ultima) {
+int EjecutarBloque(std::string_view cuerpo, LineasSentencia &lineas, int &avance, Ventana *ventana,
+                   int &primera, int &ultima) {
     EntornoBloque e{cuerpo, lineas, ventana, primera, ultima};
     std::fill(std::begin(Bloques.InicioBloque), std::end(Bloques.InicioBloque), -1);
     std::fill(std::begin(Bloques.FinBloque), std::end(Bloques.FinBloque), -1);

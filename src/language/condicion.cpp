@@ -16,7 +16,7 @@ struct Comparacion {
     TiposDeComparacion codigo;
 };
 
-constexpr Comparacion Comparaciones[] = {{">", Mayor},         {"<", Menor},     {">=", MayorOIgual},
+constexpr Comparacion Comparaciones[] = {{">", Mayor},        {"<", Menor},     {">=", MayorOIgual},
                                          {"<=", MenorOIgual}, {"<>", Distinto}, {"=", Igual}};
 
 constexpr const char *SignosDeComparacion = "<>=";
@@ -51,7 +51,8 @@ bool LeerLista(LlamadaBloque &b, int &posicion) {
         const std::size_t desde = static_cast<std::size_t>(posicion);
         const std::size_t hasta = std::min(b.linea.find_first_of(" )", desde), b.linea.size());
         if (b.numLista == MaxListaENUM) return false;
-        PonerCampo(b.lista[b.numLista++], std::string_view(b.linea).substr(desde, hasta - desde), AnchoCodigo);
+        PonerCampo(b.lista[b.numLista++], std::string_view(b.linea).substr(desde, hasta - desde),
+                   AnchoCodigo);
         posicion = static_cast<int>(hasta);
         if (CaracterEn(b.linea, posicion) == ' ') ++posicion;
     }
@@ -109,7 +110,8 @@ int LeerCondicion(EntornoBloque &e, LlamadaBloque &b, int posicion) {
     }
     const std::size_t abre = static_cast<std::size_t>(posicion);
     TomarIzquierda(b, posicion);
-    const std::string_view lado = std::string_view(b.linea).substr(abre, static_cast<std::size_t>(posicion) - abre);
+    const std::string_view lado =
+        std::string_view(b.linea).substr(abre, static_cast<std::size_t>(posicion) - abre);
     b.conLista = b.tipo == BloqueMIENTRAS && EsLista(lado);
     if (b.conLista) {
         if (!LeerLista(b, posicion)) return FallaCondicion(e, b, 4);

@@ -90,15 +90,17 @@ bool LeerRecursiva(const std::string &linea, int posicion, int &retardo, std::si
     if (cierra == std::string::npos) return false;
     // Only these digits count: signs don't, and "10" is a lag of 1.
     std::string cifras;
-    std::copy_if(linea.begin() + static_cast<std::ptrdiff_t>(abre), linea.begin() + static_cast<std::ptrdiff_t>(cierra),
-                 std::back_inserter(cifras), [](char c) { return c >= '1' && c <= '9'; });
+    std::copy_if(linea.begin() + static_cast<std::ptrdiff_t>(abre),
+                 linea.begin() + static_cast<std::ptrdiff_t>(cierra), std::back_inserter(cifras),
+                 [](char c) { return c >= '1' && c <= '9'; });
     retardo = LeerEntero(cifras);
     resto = cierra + 1;
     return true;
 }
 
 // Builds the statement of row i in buffer 0 and evaluates it from behind its "=".
-int EvaluarFila(LineasSentencia &lineas, int i, int retardo, std::string_view resto, int primera, int ultima) {
+int EvaluarFila(LineasSentencia &lineas, int i, int retardo, std::string_view resto, int primera,
+                int ultima) {
     const std::string_view serie = Recortado(Destinos.serie);
     std::string &linea = lineas[0];
     linea.assign("OBS ").append(serie).append("[").append(TextoPeriodo(i)).append("] = ");
@@ -163,7 +165,8 @@ void LlenarFicticia(int ficticia, int serie, int valor, int desde, int hasta) {
     for (int i = desde; i < hasta; ++i) {
         if (ArchivoTrabajo.PresenciaObs[i][serie] != 1) continue;
         ArchivoTrabajo.PresenciaObs[i][ficticia] = 1;
-        ArchivoTrabajo.ValoresObs[i][ficticia] = Truncado(ArchivoTrabajo.ValoresObs[i][serie]) == valor ? 1.0 : 0.0;
+        ArchivoTrabajo.ValoresObs[i][ficticia] =
+            Truncado(ArchivoTrabajo.ValoresObs[i][serie]) == valor ? 1.0 : 0.0;
     }
 }
 
@@ -178,8 +181,8 @@ void SeriesFicticias(Ventana *ventana, int primera, int ultima) {
     std::string base(Recortado(Destinos.serie));
     if (base.size() > 6) base.resize(5);
     const int desde = std::max(primera, 0);
-    const int hasta = static_cast<int>(
-        std::clamp<std::int64_t>(std::int64_t{ultima} - primera + 1, 0, MaxObservaciones));
+    const int hasta =
+        static_cast<int>(std::clamp<std::int64_t>(std::int64_t{ultima} - primera + 1, 0, MaxObservaciones));
     const ValoresDistintos valores = ReunirValores(serie, desde, hasta);
     for (int k = 0; k < valores.numero; ++k) {
         const std::string nombre = base + Formatear("%d", valores.valor[k]);

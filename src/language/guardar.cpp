@@ -100,6 +100,10 @@ int GuardarEscalar() {
     return PonerEscalar(Evaluador.ventana, Destinos.escalar, ValorSuperior());
 }
 
-int GuardarObservacion(std::string_view periodo, Ventana *) { return GuardarEnPeriodo(periodo, true); }
+int GuardarObservacion(std::string_view periodo, Ventana *) {
+    return GuardarEnPeriodo(periodo, true);
+}
 
-int GuardarObservacionMuestra(std::string_view periodo, Ventana *) { return GuardarEnPeriodo(periodo, false); }
+int GuardarObservacionMuestra(std::string_view periodo, Ventana *) {
+    return GuardarEnPeriodo(periodo, false);
+}

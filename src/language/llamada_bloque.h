@@ -6,30 +6,34 @@
 #include <string>
 #include <string_view>
 
-enum TiposDeBloque { BloqueREPITE = 0, BloqueMIENTRAS = 1, BloqueSI = 2, BloqueSINO = 3, NumTiposDeBloque = 4 };
+enum TiposDeBloque {
+    BloqueREPITE = 0,
+    BloqueMIENTRAS = 1,
+    BloqueSI = 2,
+    BloqueSINO = 3,
+    NumTiposDeBloque = 4
+};
 
 // The state of the blocks. There is one set by kind and not by call: that is why a loop can't stand inside another,
 // nor a SI inside a SI. It is left as it is when the block ends.
 struct EstadoDeBloques {
-    std::string NombreContador;               // of the running REPITE
+    std::string NombreContador;                  // of the running REPITE
     std::int32_t InicioBloque[NumTiposDeBloque]; // offset of the first line of the block in its text
     std::int32_t FinBloque[NumTiposDeBloque];    // offset of its closing line
-    std::int32_t Omitir[NumTiposDeBloque];       // while any is 1, statements are passed over: entries 0 and 1 by
-                                                 // ROMPE, entry 2 while the branch of the SI isn't to run
+    std::int32_t Omitir[NumTiposDeBloque]; // while any is 1, statements are passed over: entries 0 and 1 by
+                                           // ROMPE, entry 2 while the branch of the SI isn't to run
 };
 
 extern EstadoDeBloques Bloques;
 
-inline constexpr int MaxListaENUM = 100; // codes of a list
-
 // What is local to the reading of one block. Its texts keep their room from one turn to the next.
 struct LlamadaBloque {
     TiposDeBloque tipo;
-    int tipoExterno; // kind of the loop around, or -1 at the top level
+    int tipoExterno;   // kind of the loop around, or -1 at the top level
     std::string linea; // the line being interpreted, in capitals, counter and ENUM replaced
     std::string sustituida;
     double contador, limite, paso;
-    std::string textoContador; // the counter as lines receive it, a blank on each side
+    std::string textoContador;      // the counter as lines receive it, a blank on each side
     std::string izquierda, derecha; // the two statements of the comparison
     int comparacion;                // TiposDeComparacion
     bool conLista;                  // MIENTRAS (ENUM = ...)

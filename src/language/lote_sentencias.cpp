@@ -33,8 +33,8 @@ bool TomarSeleccion(Ventana *ventana, ControlTexto *control, TextoDeLote &texto)
 }
 
 // Runs the statements. True when none of them stopped the batch.
-bool RecorrerLote(Ventana *ventana, int origen, std::string_view sentencia, const TextoDeLote &texto, int primera,
-                  int ultima) {
+bool RecorrerLote(Ventana *ventana, int origen, std::string_view sentencia, const TextoDeLote &texto,
+                  int primera, int ultima) {
     LineasSentencia lineas;
     const std::size_t seleccion = static_cast<std::size_t>(texto.hasta - texto.desde);
     for (std::string &linea : lineas)
@@ -42,8 +42,8 @@ bool RecorrerLote(Ventana *ventana, int origen, std::string_view sentencia, cons
     PonerCursor(CursorEspera);
     int codigo = OrdenDesconocida;
     for (int posicion = texto.desde; posicion < texto.hasta;) {
-        if (EjecutarSentencia(origen, lineas, texto.hasta, posicion, sentencia, texto.completo, ventana, primera,
-                              ultima, codigo) == 0)
+        if (EjecutarSentencia(origen, lineas, texto.hasta, posicion, sentencia, texto.completo, ventana,
+                              primera, ultima, codigo) == 0)
             return false;
         Lote.NingunaSentenciaHecha = 0;
     }
@@ -62,7 +62,8 @@ int MensajeNumerado(Ventana *ventana, int punto, std::string_view texto) {
     return 0;
 }
 
-int ProcesarLote(Ventana *ventana, ControlTexto *control, int origen, std::string_view texto, int primera, int ultima) {
+int ProcesarLote(Ventana *ventana, ControlTexto *control, int origen, std::string_view texto, int primera,
+                 int ultima) {
     Lote.detenido = 1;
     Evaluador.ventana = ventana;
     LimpiarEvaluador();

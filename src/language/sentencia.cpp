@@ -26,7 +26,9 @@ struct Orden {
 
 // ----- The routines of the words; 1 to go on, 0 to stop
 
-int Nada(Orden &) { return 1; }
+int Nada(Orden &) {
+    return 1;
+}
 
 int Bloque(Orden &o) {
     const std::size_t desde = static_cast<std::size_t>(o.posicion);
@@ -72,7 +74,9 @@ int Asignacion(Orden &o) {
     return EjecutarAsignacion(o.lineas, o.detras, o.ventana, o.primera, o.ultima, o.codigo);
 }
 
-int Regresion(Orden &o) { return EstimarRegresion(o.lineas, o.detras, o.ventana, o.codigo); }
+int Regresion(Orden &o) {
+    return EstimarRegresion(o.lineas, o.detras, o.ventana, o.codigo);
+}
 
 // MC and MCP work on the bounds of the batch; the other regressions on those of the last MC or MCP.
 int RegresionPrincipal(Orden &o) {
@@ -81,7 +85,9 @@ int RegresionPrincipal(Orden &o) {
     return Regresion(o);
 }
 
-int PorEnsamblar(Orden &o) { return NoEnsamblada(o.ventana); }
+int PorEnsamblar(Orden &o) {
+    return NoEnsamblada(o.ventana);
+}
 
 // ----- The words
 
@@ -136,14 +142,17 @@ const Palabra *BuscarPalabra(std::string_view palabra, int origen, char siguient
 
 // ----- The line
 
-bool EsFinDeLinea(char c) { return c == '\r' || c == '\n'; }
+bool EsFinDeLinea(char c) {
+    return c == '\r' || c == '\n';
+}
 
 // Cuts the line at `posicion` out of the text. The character at the end offset is taken too: a selection that ends
 // inside a line brings one character more than was selected.
 void CortarLinea(const std::string &texto, int fin, int &posicion, std::string &linea) {
     const int tope = std::min(fin, static_cast<int>(texto.size()) - 1);
     const auto en = [&](int i) { return texto[static_cast<std::size_t>(i)]; };
-    while (posicion <= tope && (EsFinDeLinea(en(posicion)) || en(posicion) == ' ' || en(posicion) == '\t')) ++posicion;
+    while (posicion <= tope && (EsFinDeLinea(en(posicion)) || en(posicion) == ' ' || en(posicion) == '\t'))
+        ++posicion;
     const int inicio = posicion;
     while (posicion <= tope && !EsFinDeLinea(en(posicion))) ++posicion;
     linea.assign(texto, static_cast<std::size_t>(inicio), static_cast<std::size_t>(posicion - inicio));
@@ -165,7 +174,8 @@ void NormalizarLinea(std::string &linea) {
     static constexpr Reescritura Reescrituras[] = {{"**", ':'}, {">=", '?'}, {"<=", '@'}, {"<>", '|'}};
     if (linea.size() > 2) {
         for (const Reescritura &r : Reescrituras) {
-            for (std::size_t i = linea.find(r.operador); i != std::string::npos; i = linea.find(r.operador, i)) {
+            for (std::size_t i = linea.find(r.operador); i != std::string::npos;
+                 i = linea.find(r.operador, i)) {
                 linea[i] = r.caracter;
                 linea[i + 1] = ' ';
             }
@@ -178,7 +188,8 @@ void NormalizarLinea(std::string &linea) {
 int Desconocida(Ventana *ventana, std::string_view palabra) {
     // Comments, and lines of one letter, which a selection that ends at a line's end leaves behind.
     if (palabra.size() <= 1 || palabra[0] == ';') return 1;
-    MostrarMensaje(ventana, std::string("Funciones o parámetros no válidos: \n ("_w).append(palabra).append(")"),
+    MostrarMensaje(ventana,
+                   std::string("Funciones o parámetros no válidos: \n ("_w).append(palabra).append(")"),
                    "Proceso Cancelado");
     return 0;
 }
@@ -207,7 +218,8 @@ int RevisarYRepartir(int origen, Orden &o) {
 } // namespace
 
 int EjecutarSentencia(int origen, LineasSentencia &lineas, int fin, int &posicion, std::string_view texto,
-                      const std::string &textoCompleto, Ventana *ventana, int &primera, int &ultima, int &codigo) {
+                      const std::string &textoCompleto, Ventana *ventana, int &primera, int &ultima,
+                      int &codigo) {
     PonerCursor(CursorEspera);
     LimpiarEvaluador();
     SeriesPermitidas = 1;
