@@ -102,6 +102,7 @@ bool LeerRecursiva(const std::string &linea, int posicion, int &retardo, std::si
 int EvaluarFila(LineasSentencia &lineas, int i, int retardo, std::string_view resto, int primera,
                 int ultima) {
     const std::string_view serie = Recortado(Destinos.serie);
+    LimpiarEvaluador();
     std::string &linea = lineas[0];
     linea.assign("OBS ").append(serie).append("[").append(TextoPeriodo(i)).append("] = ");
     int posicion = static_cast<int>(linea.size());

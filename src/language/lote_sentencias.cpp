@@ -67,7 +67,6 @@ int ProcesarLote(Ventana *ventana, ControlTexto *control, int origen, std::strin
     Lote.detenido = 1;
     Evaluador.ventana = ventana;
     LimpiarEvaluador();
-    SeriesPermitidas = 1;
     Lote.NingunaSentenciaHecha = 1;
     Evaluador.PrimeraEval = primera;
     Evaluador.UltimaEval = ultima;

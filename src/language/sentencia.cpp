@@ -222,7 +222,6 @@ int EjecutarSentencia(int origen, LineasSentencia &lineas, int fin, int &posicio
                       int &codigo) {
     PonerCursor(CursorEspera);
     LimpiarEvaluador();
-    SeriesPermitidas = 1;
     codigo = OrdenDesconocida;
     if (origen == 0) {
         CortarLinea(textoCompleto, fin, posicion, lineas[0]);
