@@ -20,13 +20,16 @@ bool Rechazada(const char *serie) {
     return BuscarMatriz(serie) >= 0 || BuscarEscalar(serie) >= 0 || Evaluador.profundidad < 1;
 }
 
-// Rows of the sample with their value and flag where there is one; all else of the 4,000 rows is cleared.
+// Rows of the sample with their value and flag where there is one; all else of the 4,000 rows is cleared. A row
+// without its flag holds 0.0 already, and leaving its value alone halves the memory that a store goes through.
 void CopiarColumna(int serie, int primera, int ultima) {
     const ColumnaPila &columna = ColumnaSuperior();
+    CabeceraArchivo &a = ArchivoTrabajo;
     for (int i = 0; i < MaxObservaciones; ++i) {
         const bool hay = i >= primera && i <= ultima && columna.presente[i] == 1;
-        ArchivoTrabajo.ValoresObs[i][serie] = hay ? columna.valor[i] : 0.0;
-        ArchivoTrabajo.PresenciaObs[i][serie] = hay ? 1 : 0;
+        if (!hay && a.PresenciaObs[i][serie] == 0) continue;
+        a.ValoresObs[i][serie] = hay ? columna.valor[i] : 0.0;
+        a.PresenciaObs[i][serie] = hay ? 1 : 0;
     }
 }
 
