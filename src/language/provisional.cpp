@@ -3,20 +3,8 @@
 #include "language/bloques.h"
 #include "language/evaluador.h"
 #include "language/lote_sentencias.h"
-EstadoEvaluador Evaluador;
 EstadoLote Lote{1, 2, 0, 0};
 DestinosAsignacion Destinos;
-void LimpiarEvaluador() {}
-bool AbrirPilaColumnas() { return true; }
-void CerrarPilaColumnas() {}
-int EvaluarFormula(LineasSentencia &, int &, int, int) { return 0; }
-ColumnaPila &ColumnaSuperior() { return Evaluador.PilaColumnas[0]; }
-double ValorSuperior() { return 0.0; }
-void AgruparPrioridades(std::string &, int, int) {}
-bool ApilarNumero(double) { return false; }
-bool ApilarSerie(int) { return false; }
-bool EsCaracterFormula(char) { return false; }
-int ParentesisCierre(const std::string &, int) { return 0; }
 void IniciarLote() {}
 int ProcesarLote(Ventana *, ControlTexto *, int, std::string_view, int, int) { return 0; }
 int EjecutarSentencia(int, LineasSentencia &, int, int &, std::string_view, const std::string &, Ventana *, int &, int &, int &) { return 0; }
