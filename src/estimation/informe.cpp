@@ -144,11 +144,6 @@ constexpr FormatoBloque FormatoComun = {"Variable Dep.: %-10s   ", "Regresores  
 constexpr FormatoBloque FormatoWhite = {"Variable Dep.: %-10s                                            ",
                                         "Regresores   : %-54s", "%-15s%15s%15s%9s%13s", 34, ".."};
 
-// Formatear refuses a format that isn't a literal; these come from the two tables above.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wformat-nonliteral"
-#pragma GCC diagnostic ignored "-Wformat-security"
-
 void AnadirCabecera(TextoSalida &texto, const DatosBloque &d, const FormatoBloque &f) {
     if (d.codigo == OrdenMGD)
         AnadirLinea(texto, GrupoCabecera, "                    REGRESION DENOMINADOR                 ");
@@ -226,8 +221,6 @@ int AnadirEstadisticos(TextoSalida &texto, const DatosBloque &d, Ventana *ventan
     }
     return 1;
 }
-
-#pragma GCC diagnostic pop
 
 // ----- Whether to show
 
