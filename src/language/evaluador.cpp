@@ -7,8 +7,6 @@
 #include "store/archivo.h"
 #include "store/periodos.h"
 
-#include <cstring>
-
 EstadoEvaluador Evaluador;
 
 void LimpiarEvaluador() {
