@@ -344,6 +344,25 @@ TEST(Asignaciones, ElUltimoEscalarQuedaLibre) {
     EXPECT_EQ(TextosDeCajas(), (Textos{"Borre algunos escalares", "Error en la generación de escalares"}));
 }
 
+// ----- MAT
+
+TEST(Asignaciones, Matrices) {
+    EmpezarAsignaciones();
+    // The priorities are grouped for matrices too: M + M * M is M + (M * M).
+    EXPECT_TRUE(Procesar("MAT P = M + M * M\nMAT Q = {X 1}\nESC D = DET(M)"));
+    int filas = 0, columnas = 0;
+    EXPECT_EQ(MatrizDe("P", filas, columnas), (Valores{8, 12, 18, 26}));
+    EXPECT_EQ(MatrizDe("Q", filas, columnas), (Valores{1, 1, 2, 1, 3, 1, 4, 1, 5, 1, 6, 1}));
+    EXPECT_EQ(EscalarDe("D"), -2.0);
+    // The brace form leaves nothing behind for the next statement.
+    EXPECT_TRUE(Procesar("MAT Q = {X}\nMAT P = Q' * Q\nSER Z = {P}"));
+    EXPECT_EQ(MatrizDe("P", filas, columnas), Valores{91});
+    EXPECT_EQ(BufferMatriz.enUso, 0);
+    EXPECT_FALSE(Procesar("MAT X = M"));
+    EXPECT_FALSE(Procesar("MAT T = M"));
+    EXPECT_EQ(TextosDeCajas(), (Textos{"Nombre matriz no válido. Pto 28", "Nombre matriz no válido. Pto 29"}));
+}
+
 // ----- SER FICTIC
 
 TEST(Asignaciones, Ficticias) {

@@ -14,13 +14,14 @@ using Textos = std::vector<std::string>;
 
 const std::string Punto89 = "Secuencia no válida. Punto 89";
 
-// Ten rows, the series X (1 to 10) and the scalars A = 1, B = 5, S = 0.
+// Ten rows, the series X (1 to 10) and the scalars A = 1, B = 5, S = 0, T = 1990.
 void EmpezarBloques() {
     EmpezarConDatos(TipoAnual, "1990#1999");
     PonerSerie("X", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10});
     PonerEscalar(nullptr, "A", 1);
     PonerEscalar(nullptr, "B", 5);
     PonerEscalar(nullptr, "S", 0);
+    PonerEscalar(nullptr, "T", 1990);
     ActualizarMuestra();
 }
 
@@ -247,6 +248,9 @@ const CasoMensaje Mensajes[] = {
     {"SI (A > 2) ENTONCES\nCONTINUA A\nFINSI", {"Sintaxis no adecuada. Pto 19", Punto89}, false},
     {"SI (A > 2) ENTONCES\nSINO A\nFINSI", {"Sintaxis no adecuada. Pto 35", Punto89}, false},
     // The comparison at the closing line.
+    {"MIENTRAS (X[T] > 0) ENTONCES\nESC T = 3000\nFINMIENTRAS",
+     {"X[T] . Pto 88", "ESC _TMP01 =  (X[T] ). Pto 22", "Sintaxis no adecuada. Pto 36", Punto89},
+     false},
     {"MIENTRAS (A + B < 9) ENTONCES\nSER A = 3\nFINMIENTRAS", {Punto89}, false},
     // Words that can't stand inside.
     {"REPITE J DESDE 1 HASTA 2\nREPITE K DESDE 1 HASTA 2\nFINREPITE\nFINREPITE",
@@ -327,7 +331,7 @@ TEST(Bloques, LasTemporalesSeBorranTambienTrasUnFallo) {
     EXPECT_FALSE(Procesar("SI (A = 1) ENTONCES\nESC S = _TMP01 + NADA\nFINSI"));
     EXPECT_LT(BuscarEscalar("_TMP01"), 0);
     EXPECT_LT(BuscarEscalar("_TMP02"), 0);
-    EXPECT_EQ(TablaEscalares.numero, 3);
+    EXPECT_EQ(TablaEscalares.numero, 4);
 }
 
 TEST(Bloques, LaMuestraDeLaRegresionSigueAlBloqueAunqueMCNoCorra) {
@@ -336,6 +340,19 @@ TEST(Bloques, LaMuestraDeLaRegresionSigueAlBloqueAunqueMCNoCorra) {
     EXPECT_TRUE(Procesar("MUEST 1992 1995\nSI (A > 1) ENTONCES\nMC X 1\nFINSI"));
     EXPECT_EQ(Muestra.InicioRegresion, 2);
     EXPECT_EQ(Muestra.FinRegresion, 5);
+}
+
+// One regression for each code of the list.
+TEST(Bloques, UnaRegresionPorCodigoDeLaLista) {
+    EmpezarBloques();
+    PonerSerie("Y", {1, 3, 2, 5, 4, 6, 8, 7, 9, 11});
+    PonerSerie("X2", {2, 1, 4, 3, 6, 5, 8, 7, 10, 9});
+    EXPECT_TRUE(Procesar("VSR NO\nMIENTRAS (ENUM = X X2) ENTONCES\nMC Y 1 ENUM\nESC S = S + _SCR\nFINMIENTRAS"));
+    EXPECT_EQ(TextosDeCajas(), Textos{});
+    const double s = EscalarDe("S");
+    EXPECT_TRUE(Procesar("MC Y 1 X\nESC S = _SCR\nMC Y 1 X2\nESC S = S + _SCR"));
+    EXPECT_EQ(s, EscalarDe("S"));
+    EXPECT_GT(s, 0.0);
 }
 
 TEST(Bloques, UnaLineaMuyLargaYContadoresEnormes) {

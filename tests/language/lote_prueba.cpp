@@ -294,6 +294,22 @@ TEST(Lote, OperadoresDeDosCaracteres) {
     EXPECT_FALSE(Procesar("ESC A = 2 *** 3"));
 }
 
+// MC works on the bounds of the batch; CR goes on with those of the last MC.
+TEST(Lote, LaMuestraDeLaRegresion) {
+    EmpezarLote();
+    EXPECT_TRUE(Procesar("VSR NO\nMUEST 1992 1998\nMC Y 1 X"));
+    EXPECT_EQ(Muestra.InicioRegresion, 2);
+    EXPECT_EQ(Muestra.FinRegresion, 8);
+    EXPECT_TRUE(Procesar("MUEST 1990 1999\nCR Y 1"));
+    EXPECT_EQ(Muestra.InicioRegresion, 2);
+    EXPECT_EQ(Muestra.FinRegresion, 8);
+    EXPECT_TRUE(Prueba.cajas.empty());
+    // Residuals come back to series in the rows of the regression.
+    EXPECT_TRUE(Procesar("MAT R = {X}\nSER Z = {R}"));
+    const std::vector<double> z = ValoresDe("Z", 10);
+    for (int i = 0; i < 10; ++i) EXPECT_EQ(std::isnan(z[static_cast<std::size_t>(i)]), i < 2 || i > 8) << i;
+}
+
 TEST(Lote, LasMatricesQuedanSueltas) {
     EmpezarLote();
     PonerMatriz("M", {1, 2, 3, 4}, 2, 2);
