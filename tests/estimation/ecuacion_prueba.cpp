@@ -63,7 +63,7 @@ INSTANTIATE_TEST_SUITE_P(Formas, Ecuacion,
                                          Estimada{"MC Y 1 X(-1) Z(1)", "1|X(-1)|Z(1)|", 2, 18, 1, 18, 1},
                                          Estimada{"MC Y 1 X ( - 3 ) Z", "1|X(-3)|Z|", 2, 17, 3, 19, 1},
                                          Estimada{"MC Y 1 X Z(2.9)", "1|X|Z(2)|", 2, 18, 0, 17, 2},
-                                         Estimada{"MC Y 1 X Z[3]", "1|X|Z[3]|", 2, 20, 0, 19, -1},
+                                         Estimada{"MC Y X Z[3]", "X|Z[3]|", 2, 20, 0, 19, -1},
                                          Estimada{"MC Y Z[ 3 ] X", "Z[3]|X|", 2, 20, 0, 19, -1}));
 
 TEST(EcuacionMC, ElDummyDeUnPeriodoSeGeneraYDesaparece) {
@@ -82,15 +82,14 @@ TEST(EcuacionMC, RetardosPorSusValores) {
     ASSERT_TRUE(Procesar("SER W = X(-2)\nSER V = Z(1)\nMUEST 3 19\nMC Y 1 W V"));
     int f = 0, c = 0;
     const std::vector<double> beta = MatrizDe("_BETA", f, c), res = ValoresDe("_RES", 20);
-    Muestra.LimiteInicial.clear();
-    Muestra.LimiteFinal.clear();
-    LimpiarLimitesMuestra();
-    ASSERT_TRUE(Procesar("MC Y 1 X(-2) Z(1)"));
+    ASSERT_TRUE(Procesar("MUEST 1 20\nMC Y 1 X(-2) Z(1)"));
     EXPECT_EQ(MatrizDe("_BETA", f, c), beta);
     const std::vector<double> otros = ValoresDe("_RES", 20);
     for (std::size_t i = 0; i < 20; ++i) {
         EXPECT_EQ(std::isnan(otros[i]), i < 2 || i > 18);
-        if (!std::isnan(otros[i])) EXPECT_EQ(otros[i], res[i]);
+        if (!std::isnan(otros[i])) {
+            EXPECT_EQ(otros[i], res[i]);
+        }
     }
 }
 
@@ -123,8 +122,7 @@ TEST(EcuacionMC, OpcionesDeCovarianza) {
         EXPECT_EQ(UltimaRegresion.TipoCovarianza, c.tipo);
         EXPECT_EQ(UltimaRegresion.RetardosCovarianza, c.retardos);
         // The consistent matrices are still to come.
-        if (c.tipo == 1) EXPECT_EQ(TextosDeCajas(), Textos{});
-        else EXPECT_EQ(TextosDeCajas(), Textos{"No ensamblada"});
+        EXPECT_EQ(TextosDeCajas(), c.tipo == 1 ? Textos{} : Textos{"No ensamblada"});
     }
 }
 

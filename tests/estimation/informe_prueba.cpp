@@ -222,7 +222,7 @@ TEST(Informe, BloquesDeLosContrastes) {
         {13, nullptr,
          {{0, "Variable Dep.: Y            "},
           {0, "Regresores   : 1,X                                         "},
-          {0, "Muestra      : 11 - 20              Nº Observaciones     : 20        "},
+          {0, "Muestra      :   11 -   20          Nº Observaciones     : 20        "},
           {0, "Variable de ponderación :LN(X)                            "},
           {0, std::string(70, ' ')}},
          "              1", "              X"},
@@ -243,7 +243,7 @@ TEST(Informe, BloquesDeLosContrastes) {
         {12, nullptr,
          {{0, "Variable Dep.: _RESCUAD  " + std::string(44, ' ')},
           {0, "Regresores   : 1,X*X                                                 "},
-          {0, "Muestra      : 11 - 20              Nº Observaciones     : 20        "},
+          {0, "Muestra      :   11 -   20          Nº Observaciones     : 20        "},
           {0, std::string(70, ' ')}},
          "1              ", "X*X            "},
     };
