@@ -8,7 +8,9 @@
 #include "store/periodos.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstring>
+#include <iterator>
 
 namespace {
 
@@ -38,8 +40,11 @@ std::string_view DeCampo(const char *campo, std::size_t ancho) {
 
 std::string TextoDeValor(const Exportacion &e, int serie, int fila) {
     if (ArchivoTrabajo.PresenciaObs[fila][serie] != 1) return std::string(AnchoCampo, ' ');
-    const std::string ancho = Formatear("%18.*f", e.decimales, ArchivoTrabajo.ValoresObs[fila][serie]);
-    std::string texto(Recortado(ancho));
+    // The digits of "%18.*f" without its blanks, several times faster, and a file may hold 400,000 of them.
+    char cifras[400]; // 309 digits, sign, point and decimals
+    const auto r = std::to_chars(cifras, std::end(cifras), ArchivoTrabajo.ValoresObs[fila][serie],
+                                 std::chars_format::fixed, e.decimales);
+    std::string texto(cifras, r.ptr);
     if (e.opciones.DecimalesConComas != 0) std::replace(texto.begin(), texto.end(), '.', ',');
     return AlAncho(texto);
 }

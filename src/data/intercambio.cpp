@@ -118,7 +118,7 @@ void AceptarFormatoVariable(const ValoresFormatoVariable &valores, OpcionesInter
 
 FilasDeMuestra FilasDelArchivo(int inicio, int fin) {
     const int ultima = std::clamp(static_cast<int>(ArchivoTrabajo.NumObs), 0, MaxObservaciones) - 1;
-    return {std::max(inicio, 0), std::min(fin, ultima)};
+    return {std::clamp(inicio, 0, MaxObservaciones), std::clamp(fin, -1, ultima)};
 }
 
 void ActualizarLimitesSeries() {

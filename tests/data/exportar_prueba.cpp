@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <cmath>
 #include <limits>
 #include <string>
@@ -57,6 +58,22 @@ TEST(Exportar, Valores) {
         PonerSerie("X", {caso.valor});
         EXPECT_EQ(ExportarUtf8(Variable({.decimalesConComas = caso.comas}, false), caso.decimales),
                   caso.campo + "\n");
+    }
+}
+
+// The digits are those of the formatted print, from the smallest number to the largest.
+TEST(Exportar, CifrasComoSeImprimen) {
+    PrepararAscii(TipoSinPeriodicidad, 1);
+    PonerSerie("X", {0.0});
+    double x = 1.0;
+    for (int i = 0; i < 2000; ++i) {
+        x = std::fmod(x * 1103515245.0 + 12345.0, 2147483648.0);
+        const double valor = (i % 2 != 0 ? -1.0 : 1.0) * x * std::pow(10.0, i % 640 - 330);
+        SCOPED_TRACE(valor);
+        ArchivoTrabajo.ValoresObs[0][0] = valor;
+        const std::string impreso = Formatear("%18.*f", i % 7, valor);
+        EXPECT_EQ(ExportarUtf8(Variable({}, false), i % 7),
+                  Izq(impreso.substr(impreso.find_first_not_of(' '))) + "\n");
     }
 }
 
@@ -185,6 +202,8 @@ const CasoMuestra Muestras[] = {
     {3, 2, 1, ""},
     {3, 100000, 100000, ""},
     {3, -100000, 1, "ab"},
+    {3, INT_MIN, INT_MAX, "abc"},
+    {3, INT_MAX, INT_MIN, ""},
     {0, 0, 5, ""},
 };
 

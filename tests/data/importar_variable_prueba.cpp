@@ -1,10 +1,12 @@
 // Import of variable records: how a record is cut into fields and where each field goes.
 #include "data/ascii_apoyo.h"
+#include "platform/archivos.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <string>
 
 namespace {
@@ -166,6 +168,8 @@ TEST(ImportarVariable, DentroDeLaMuestra) {
         {3, 0, 100000, "Z: 9 9 9 9 9 9 / VAR02: 1 2 3 . . ."}, // never beyond the work file
         {3, 2, 3, "Z: 9 9 9 9 9 9 / VAR02: . . 1 . . ."},      // a first limit on the last row gives this end
         {3, -7, 1, "Z: 9 9 9 9 9 9 / VAR02: 1 2 . . . ."},
+        {3, INT_MIN, INT_MAX, "Z: 9 9 9 9 9 9 / VAR02: 1 2 3 . . ."},
+        {3, INT_MAX, INT_MIN, "Z: 9 9 9 9 9 9 / VAR02: . . . . . ."},
         {3, 100000, 100000, "Z: 9 9 9 9 9 9 / VAR02: . . . . . ."},
     };
     for (const CasoMuestra &caso : Muestras) {
@@ -284,6 +288,18 @@ TEST(ImportarVariable, LineasLargas) {
         }
         EXPECT_LE(ArchivoTrabajo.NumSeries, MaxSeries);
     }
+}
+
+TEST(ImportarVariable, Ejemplo) {
+    PrepararAscii(TipoAnual, 22);
+    std::string texto;
+    ASSERT_TRUE(LeerArchivo(TABIRA_DATOS "/klein.csv", texto));
+    ImportarUtf8(Variable(Codigos), texto);
+    EXPECT_EQ(VolcadoSeries(2),
+              "CONSUMO: 39.8 41.9 / BENEF: 12.7 12.4 / SALPRIV: 28.8 25.5 / INVER: 2.7 -0.2 / "
+              "CAPITAL: 182.8 182.6 / RENTA: 44.9 45.6 / SALPUB: 2.2 2.7 / GASTO: 2.4 3.9 / "
+              "IMPUEST: 3.4 7.7");
+    EXPECT_EQ(ArchivoTrabajo.UltimaObs[8], 21);
 }
 
 TEST(ImportarVariable, LimitesDeLasSeries) {

@@ -306,7 +306,7 @@ TEST_F(Transferencia, ExportarDondeNoSePuede) {
 // A binary file, 100,000 lines, 4,000 by 99 values: nothing falls over, and it doesn't take long.
 TEST_F(Transferencia, ArchivosDesmedidos) {
     std::string binario, lineas, todo;
-    for (int i = 0; i < 300000; ++i) binario += static_cast<char>((i * 7919 + i / 251) & 0xFF);
+    for (unsigned i = 0; i < 300000; ++i) binario += static_cast<char>((i * 7919u + i / 251u) & 0xFFu);
     for (int i = 0; i < 100000; ++i) lineas += "1,2,3\n";
     for (int i = 0; i < 4000; ++i)
         for (int s = 0; s < 99; ++s) todo += Formatear("%d.%d%c", i, s, s == 98 ? '\n' : ',');

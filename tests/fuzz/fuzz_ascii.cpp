@@ -30,7 +30,13 @@ void Comprobar(bool cierto) {
 }
 
 void PrepararArchivo(unsigned tipo, unsigned muestra) {
-    IniciarArchivoTrabajo();
+    // Emptying 400,000 values takes longer than most imports do, and they change no decision of the import.
+    static const bool Iniciado = [] {
+        IniciarArchivoTrabajo();
+        return true;
+    }();
+    Comprobar(Iniciado);
+    for (int s = 0; s < MaxSeries; ++s) BorrarSerie(s);
     ArchivoTrabajo.TipoDatos = static_cast<std::int16_t>(tipo);
     ArchivoTrabajo.ConEtiquetas = 1;
     ArchivoTrabajo.NumObs = muestra % 2 != 0 ? MaxObservaciones : 12;
