@@ -81,7 +81,8 @@ constexpr EntradaMenuAyuda Menu[] = {
     {2046, "&Acerca de Tabira..."},
 };
 
-constexpr const char *Nombres[] = {"Los autores de Tabira", "Los autores de Tabira", "y sus colaboradores"};
+constexpr const char *Nombres[] = {"Los autores de Tabira", "Los autores de Tabira",
+                                   "Colaboradores de Tabira"};
 
 int Enlazada(std::span<const EnlaceAyuda> enlaces, int origen) {
     for (const EnlaceAyuda &e : enlaces)
@@ -97,11 +98,17 @@ bool TieneAnterior(const PaginaManual &pagina) {
 
 } // namespace
 
-std::span<const PaginaManual> PaginasManual() { return Paginas; }
+std::span<const PaginaManual> PaginasManual() {
+    return Paginas;
+}
 
-std::span<const EntradaMenuAyuda> MenuAyuda() { return Menu; }
+std::span<const EntradaMenuAyuda> MenuAyuda() {
+    return Menu;
+}
 
-std::span<const char *const> NombresAcercaDe() { return Nombres; }
+std::span<const char *const> NombresAcercaDe() {
+    return Nombres;
+}
 
 const PaginaManual *BuscarPagina(int id) {
     for (const PaginaManual &p : Paginas)
@@ -117,9 +124,13 @@ int PaginaDeComando(int comando) {
     return 0;
 }
 
-int PaginaDeComandoEditor(int comando) { return Enlazada(ComandosEditor, comando); }
+int PaginaDeComandoEditor(int comando) {
+    return Enlazada(ComandosEditor, comando);
+}
 
-int PaginaDeBoton(int boton) { return Enlazada(BotonesSiguiente, boton); }
+int PaginaDeBoton(int boton) {
+    return Enlazada(BotonesSiguiente, boton);
+}
 
 BotonesPagina BotonesDePagina(const PaginaManual &pagina) {
     BotonesPagina b{};

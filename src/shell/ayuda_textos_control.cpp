@@ -80,13 +80,14 @@ const LineaAyuda TextoControl3[] = {
 // P1114
 const LineaAyuda TextoMuestra[] = {
     {T, "La muestra son las observaciones que usan las sentencias y procedimientos. Si"_w},
-    {T, "no se acota, es el tramo en que todas las series tienen datos. Se acota en"_w},
-    {T, "\"Muestra...\", del menú \"Proced.\", o con la sentencia"_w},
+    {T, "no se acota, es el tramo en que todas las series tienen datos: la acortan las"_w},
+    {T, "series retardadas y las que deja una regresión. Se acota con \"Muestra...\", en"_w},
+    {T, "el menú \"Proced.\", o con la sentencia"_w},
     {T, "     MUEST periodo_inicial periodo_final"_w},
     {T, "Sin periodicidad, el periodo es el número de orden:"_w},
     {E, "     MUEST 10 50"_w},
     {T, "Datos anuales, el año:"_w},
-    {E, "     MUEST 1985 1995"_w},
+    {E, "     MUEST 1980 1999"_w},
     {T, "Trimestrales, año y trimestre; mensuales, año y mes, éste con dos cifras:"_w},
     {E, "     MUEST 1995.1 1996.4"_w},
     {E, "     MUEST 1995.01 1996.12"_w},
