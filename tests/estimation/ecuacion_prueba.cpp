@@ -110,10 +110,10 @@ TEST(EcuacionMC, OpcionesDeCovarianza) {
         const char *sentencia;
         int tipo, retardos;
     } Casos[] = {
-        {"MC (CN) Y 1 X", 1, 1},    {"MC (CH) Y 1 X", 2, 1},      {"MC (CA 3) Y 1 X", 3, 3},
-        {"MC (CA3) Y 1 X", 3, 3},   {"MC (CA 2.7 ) Y 1 X", 3, 2}, {"MC (CA -4) Y 1 X", 3, 0},
-        {"MC (CA) Y 1 X", 3, 0},    {"MC (CA 0) Y 1 X", 3, 0},    {"MC (CA 99999999999) Y 1 X", 3, 2147483647},
-        {"MC ( CH ) Y 1 X", 2, 1},  {"MC Y 1 X", 1, 1},
+        {"MC (CN) Y 1 X", 1, 1},   {"MC (CH) Y 1 X", 2, 1},      {"MC (CA 3) Y 1 X", 3, 3},
+        {"MC (CA3) Y 1 X", 3, 3},  {"MC (CA 2.7 ) Y 1 X", 3, 2}, {"MC (CA -4) Y 1 X", 3, 0},
+        {"MC (CA) Y 1 X", 3, 0},   {"MC (CA 0) Y 1 X", 3, 0},    {"MC (CA 99999999999) Y 1 X", 3, 2147483647},
+        {"MC ( CH ) Y 1 X", 2, 1}, {"MC Y 1 X", 1, 1},
     };
     for (const auto &c : Casos) {
         SCOPED_TRACE(c.sentencia);

