@@ -16,15 +16,21 @@
 
 namespace {
 
-constexpr int AnchoTexto = 25;         // characters of a regressor as it is shown
+constexpr int AnchoTexto = 25; // characters of a regressor as it is shown
 constexpr int AnchoTextoEcuacion = 100;
 constexpr int MinimoObservaciones = 3;
 
-bool EsSigno(char c) { return std::string_view("()[]'$+*/-").find(c) != std::string_view::npos; }
+bool EsSigno(char c) {
+    return std::string_view("()[]'$+*/-").find(c) != std::string_view::npos;
+}
 
-bool EsCaracterEcuacion(char c) { return EsCaracterFormula(c) || std::string_view("_[]").find(c) != std::string_view::npos; }
+bool EsCaracterEcuacion(char c) {
+    return EsCaracterFormula(c) || std::string_view("_[]").find(c) != std::string_view::npos;
+}
 
-int Largo(const Lector &lector) { return static_cast<int>(lector.texto->size()); }
+int Largo(const Lector &lector) {
+    return static_cast<int>(lector.texto->size());
+}
 
 } // namespace
 
@@ -65,9 +71,13 @@ int MatrizDelRango(Estimacion &e, std::string_view destino, const std::string &l
 
 namespace {
 
-int &CuentaSeries(const Estimacion &e) { return UltimaRegresion.SeriesRegresion[e.codigo]; }
+int &CuentaSeries(const Estimacion &e) {
+    return UltimaRegresion.SeriesRegresion[e.codigo];
+}
 
-bool EsConstante(const std::string &token) { return EsNumero(token) || BuscarEscalar(token) >= 0; }
+bool EsConstante(const std::string &token) {
+    return EsNumero(token) || BuscarEscalar(token) >= 0;
+}
 
 void AnadirSerie(Estimacion &e, const std::string &columna, const std::string &texto) {
     AnadirRegresor(e, columna, texto);
@@ -163,7 +173,8 @@ int LeerRegresores(Estimacion &e, Lector &lector) {
             AnadirSerie(e, serie, serie);
             continue;
         }
-        const int bien = token == "(" ? LeerRetardo(e, lector, serie, menorRetardo) : LeerPeriodo(e, lector, serie);
+        const int bien =
+            token == "(" ? LeerRetardo(e, lector, serie, menorRetardo) : LeerPeriodo(e, lector, serie);
         if (bien == 0 || !ExtraerToken(lector, token)) return 0;
     }
     return LeerUltimoRegresor(e, lector, token);
@@ -207,7 +218,8 @@ void AnalizarOpciones(const std::string &texto, int &posicion) {
     if (CaracterEn(texto, posicion) != '(') return;
     ++posicion;
     SaltarBlancos(texto, posicion);
-    const std::string_view resto = std::string_view(texto).substr(std::min<std::size_t>(posicion, texto.size()));
+    const std::string_view resto =
+        std::string_view(texto).substr(std::min<std::size_t>(posicion, texto.size()));
     const std::string_view opcion = resto.substr(0, 2);
     posicion += static_cast<int>(opcion.size());
     if (opcion == "CH") u.TipoCovarianza = CovarianzaHeterocedasticidad;

@@ -25,9 +25,9 @@ struct Estimacion {
     bool verAuxiliar = false;          // RA of White's test
 
     // The estimation.
-    int observaciones = 0;  // N, rows of _YDEP
-    int regresores = 0;     // k, columns of _XIND
-    double suma = 0.0;      // of the dependent
+    int observaciones = 0; // N, rows of _YDEP
+    int regresores = 0;    // k, columns of _XIND
+    double suma = 0.0;     // of the dependent
     double media = 0.0;
     double variacion = 0.0; // sum of squares of the dependent about its mean
     double saltos = 0.0;    // sum of squares of the differences of successive residuals
@@ -44,10 +44,12 @@ enum FinesDeFormula { FormulaErronea, FormulaSinGuardar, FormulaGuardada };
 // level, or when the formula fails: FormulaErronea, 0 for the matrix.
 //
 // A matrix; the rows matter to a text in braces only. 1 or 0.
-int MatrizDeFormula(Estimacion &e, std::string_view destino, const std::string &texto, int primera, int ultima);
+int MatrizDeFormula(Estimacion &e, std::string_view destino, const std::string &texto, int primera,
+                    int ultima);
 // A scalar. It takes the first row of the range and nothing else, so only that row is evaluated. `causa` receives what
 // GuardarEscalar answered.
-FinesDeFormula EscalarDeFormula(Estimacion &e, std::string_view destino, const std::string &texto, int &causa);
+FinesDeFormula EscalarDeFormula(Estimacion &e, std::string_view destino, const std::string &texto,
+                                int &causa);
 // A series over the range of the regression.
 FinesDeFormula SerieDeFormula(Estimacion &e, std::string_view destino, const std::string &texto);
 

@@ -33,7 +33,8 @@ bool Evaluar(Estimacion &e, const std::string &texto, int primera, int ultima) {
 
 } // namespace
 
-int MatrizDeFormula(Estimacion &e, std::string_view destino, const std::string &texto, int primera, int ultima) {
+int MatrizDeFormula(Estimacion &e, std::string_view destino, const std::string &texto, int primera,
+                    int ultima) {
     int nivel = 0;
     if (!SubirNivel(e, texto, nivel)) return 0;
     PonerCampo(CodigoMatrizDestino, destino, AnchoCodigo);
@@ -43,7 +44,8 @@ int MatrizDeFormula(Estimacion &e, std::string_view destino, const std::string &
     return bien;
 }
 
-FinesDeFormula EscalarDeFormula(Estimacion &e, std::string_view destino, const std::string &texto, int &causa) {
+FinesDeFormula EscalarDeFormula(Estimacion &e, std::string_view destino, const std::string &texto,
+                                int &causa) {
     PonerCampo(Destinos.escalar, destino, AnchoCodigo);
     causa = 0;
     if (!Evaluar(e, texto, Muestra.InicioRegresion, Muestra.InicioRegresion)) return FormulaErronea;
@@ -63,4 +65,6 @@ double *ElementosDe(std::string_view matriz) {
     return TablaMatrices.registro[m].Datos;
 }
 
-int ParteSinEnsamblar(Estimacion &e) { return NoEnsamblada(e.ventana); }
+int ParteSinEnsamblar(Estimacion &e) {
+    return NoEnsamblada(e.ventana);
+}

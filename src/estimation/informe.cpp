@@ -18,8 +18,10 @@ std::string NumeroCampo(int decimales, double valor, int ancho) {
     const std::string impreso = Formatear("%20.*f", d, valor);
     std::string numero(Recortado(impreso));
     const std::size_t n = static_cast<std::size_t>(std::max(ancho, 1));
-    if (numero.size() > n) numero.resize(n - 1);
-    else numero.insert(0, n - numero.size(), ' ');
+    if (numero.size() > n)
+        numero.resize(n - 1);
+    else
+        numero.insert(0, n - numero.size(), ' ');
     return numero;
 }
 
@@ -27,7 +29,7 @@ namespace {
 
 enum GruposLinea { GrupoTexto = 0, GrupoFila = 1, GrupoTitulo = 2, GrupoCabecera = 3 };
 
-constexpr std::size_t AnchoNombre = 14;     // characters of a name in its row
+constexpr std::size_t AnchoNombre = 14; // characters of a name in its row
 
 struct TituloDeCodigo {
     int codigo;
@@ -108,7 +110,9 @@ double EnSerie(const DatosBloque &d, int serie, int i) {
     return fila >= 0 && fila < MaxObservaciones ? ArchivoTrabajo.ValoresObs[fila][serie] : 0.0;
 }
 
-double EnMatriz(const double *datos, int numero, int i) { return i < numero ? datos[i] : 0.0; }
+double EnMatriz(const double *datos, int numero, int i) {
+    return i < numero ? datos[i] : 0.0;
+}
 
 // ----- Head
 
@@ -139,8 +143,8 @@ struct FormatoBloque {
     const char *alCortar;   // stands behind a list that was cut
 };
 
-constexpr FormatoBloque FormatoComun = {"Variable Dep.: %-10s   ", "Regresores   : %-44s", "%15s%15s%15s%9s%13s", 45,
-                                        ""};
+constexpr FormatoBloque FormatoComun = {"Variable Dep.: %-10s   ", "Regresores   : %-44s",
+                                        "%15s%15s%15s%9s%13s", 45, ""};
 constexpr FormatoBloque FormatoWhite = {"Variable Dep.: %-10s                                            ",
                                         "Regresores   : %-54s", "%-15s%15s%15s%9s%13s", 34, ".."};
 
@@ -174,7 +178,8 @@ void AnadirCoeficientes(TextoSalida &texto, std::vector<TablaCoeficientes> &tabl
         const int i = static_cast<int>(n);
         const std::string nombre = (*d.nombres)[n].substr(0, AnchoNombre);
         AnadirLinea(texto, GrupoFila,
-                    Formatear(f.fila, nombre.c_str(), NumeroCampo(6, EnMatriz(d.beta, d.numBeta, i), 14).c_str(),
+                    Formatear(f.fila, nombre.c_str(),
+                              NumeroCampo(6, EnMatriz(d.beta, d.numBeta, i), 14).c_str(),
                               NumeroCampo(6, EnMatriz(d.desviacion, d.numDesviacion, i), 14).c_str(),
                               NumeroCampo(2, EnSerie(d, d.serieT, i), 8).c_str(),
                               NumeroCampo(4, EnSerie(d, d.serieProbabilidad, i), 12).c_str()));
@@ -212,7 +217,8 @@ int AnadirEstadisticos(TextoSalida &texto, const DatosBloque &d, Ventana *ventan
         std::string izquierda, derecha, gl1, gl2;
         const bool bien = CampoEscalar(l.izquierda, d.codigo, 4, 10, izquierda) &&
                           CampoEscalar(l.derecha, d.codigo, 4, 10, derecha) &&
-                          CampoEscalar(FamANREG, d.codigo, 0, 3, gl1) && CampoEscalar(FamNORE, d.codigo, 0, 3, gl2);
+                          CampoEscalar(FamANREG, d.codigo, 0, 3, gl1) &&
+                          CampoEscalar(FamNORE, d.codigo, 0, 3, gl2);
         if (!bien) return MensajePunto(ventana, "Secuencia no válida"_w, 871);
         AnadirLinea(texto, GrupoTexto,
                     l.izquierda == FamFORLA
@@ -231,8 +237,8 @@ bool RechazaPonderada(int codigo) {
 }
 
 bool QuiereVer(Ventana *ventana) {
-    return Lote.VerRegresion != 0 &&
-           MostrarCaja(ventana, "¿Desea ver la regresion?"_w, TituloAviso, IconoPregunta, BotonesSiNo) == RespuestaSi;
+    return Lote.VerRegresion != 0 && MostrarCaja(ventana, "¿Desea ver la regresion?"_w, TituloAviso,
+                                                 IconoPregunta, BotonesSiNo) == RespuestaSi;
 }
 
 } // namespace

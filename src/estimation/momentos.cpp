@@ -10,7 +10,6 @@
 #include "store/archivo.h"
 #include "store/periodos.h"
 
-#include <algorithm>
 #include <array>
 
 namespace {
@@ -25,19 +24,26 @@ int EmpezarSuma(Estimacion &e, std::string_view destino, int punto) {
     return MensajePunto(e.ventana, SecuenciaNoValida, punto);
 }
 
-// Adds the outer products of rows 1 to n - 1 to `XX`, and their products with y to `Xy`. An outer product is
-// symmetric to the last bit, so only its upper half is computed.
-void SumarFilas(const double *X, int n, int k, int serie, double *XX, double *Xy) {
-    for (int i = 1; i < n; ++i) {
-        const double *x = X + static_cast<std::size_t>(i) * static_cast<std::size_t>(k);
-        const double y = ArchivoTrabajo.ValoresObs[Muestra.InicioRegresion + i][serie];
-        double *fila = XX;
-        for (int a = 0; a < k; ++a, fila += k) {
-            const double xa = x[a];
-            for (int b = a; b < k; ++b) fila[b] += xa * x[b];
-            Xy[a] += y * xa;
+// Adds the outer products of `filas` rows of k elements from `x` on to the upper half of `XX`, and their products with
+// `y` to `Xy`: every element row after row, in registers.
+template <int Filas> void SumarBloque(const double *x, const double *y, int k, double *XX, double *Xy) {
+    for (int a = 0; a < k; ++a) {
+        double *fila = XX + a * k;
+        for (int b = a; b < k; ++b) {
+            double suma = fila[b];
+            for (int f = 0; f < Filas; ++f) suma += x[f * k + a] * x[f * k + b];
+            fila[b] = suma;
         }
+        for (int f = 0; f < Filas; ++f) Xy[a] += y[f] * x[f * k + a];
     }
+}
+
+// Adds rows 1 to n - 1. An outer product is symmetric to the last bit, so the lower half is a copy of the upper one.
+void SumarFilas(const double *X, const double *y, int n, int k, double *XX, double *Xy) {
+    constexpr int Bloque = 4;
+    int i = 1;
+    for (; i + Bloque <= n; i += Bloque) SumarBloque<Bloque>(X + i * k, y + i, k, XX, Xy);
+    for (; i < n; ++i) SumarBloque<1>(X + i * k, y + i, k, XX, Xy);
     for (int a = 0; a < k; ++a)
         for (int b = 0; b < a; ++b) XX[a * k + b] = XX[b * k + a];
 }
@@ -46,26 +52,26 @@ void SumarFilas(const double *X, int n, int k, int serie, double *XX, double *Xy
 
 int AcumularMomentos(Estimacion &e) {
     const int n = e.observaciones, k = e.regresores;
-    const int serie = BuscarSerie(e.dependiente);
+    // Its elements are the values of the dependent's series at the observations of the range.
+    const double *y = ElementosDe("_YDEP");
     const double *X = ElementosDe("_XIND");
     std::array<double, static_cast<std::size_t>(MaxColumnasPila) * MaxColumnasPila> producto;
-    const auto valor = [&](int i) { return ArchivoTrabajo.ValoresObs[Muestra.InicioRegresion + i][serie]; };
 
     MultiplicarMatrices(X, X, k, 1, k, producto.data());
     if (!Guardar("_TMF2", X, k, 1) || !Guardar("_TMF3", X, 1, k) || !Guardar("_TMF4", producto.data(), k, k))
         return MensajePunto(e.ventana, SecuenciaNoValida, 6532);
     if (EmpezarSuma(e, "_TMF5", 6532) == 0) return 0;
-    EscalarPorMatriz(X, valor(0), k, 1, producto.data());
+    EscalarPorMatriz(X, y[0], k, 1, producto.data());
     if (!Guardar("_TMF4", producto.data(), k, 1)) return MensajePunto(e.ventana, SecuenciaNoValida, 6534);
     if (EmpezarSuma(e, "_TMF6", 6534) == 0) return 0;
 
-    SumarFilas(X, n, k, serie, ElementosDe("_TMF5"), ElementosDe("_TMF6"));
+    SumarFilas(X, y, n, k, ElementosDe("_TMF5"), ElementosDe("_TMF6"));
     SoltarMatriz(BuscarMatriz("_TMF5"));
     SoltarMatriz(BuscarMatriz("_TMF6"));
-    const double *ultima = X + static_cast<std::size_t>(n - 1) * static_cast<std::size_t>(k);
-    EscalarPorMatriz(ultima, valor(n - 1), k, 1, producto.data());
-    const bool bien =
-        Guardar("_TMF2", ultima, k, 1) && Guardar("_TMF3", ultima, 1, k) && Guardar("_TMF4", producto.data(), k, 1);
+    const double *ultima = X + (n - 1) * k;
+    EscalarPorMatriz(ultima, y[n - 1], k, 1, producto.data());
+    const bool bien = Guardar("_TMF2", ultima, k, 1) && Guardar("_TMF3", ultima, 1, k) &&
+                      Guardar("_TMF4", producto.data(), k, 1);
     return bien ? 1 : MensajePunto(e.ventana, SecuenciaNoValida, 6534);
 }
 

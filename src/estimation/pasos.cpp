@@ -26,10 +26,10 @@ enum ClasesPaso {
 
 // What is shown when a result was computed and can't be stored.
 enum FallosGuardar {
-    GuardarPunto, // "Secuencia no válida" with puntoGuardar
-    GuardarCausa, // the same, the point raised by the cause
+    GuardarPunto,    // "Secuencia no válida" with puntoGuardar
+    GuardarCausa,    // the same, the point raised by the cause
     GuardarSinPunto, // the text holds puntoGuardar, the cause is the point
-    GuardarSeries // "Borre algunas series" with puntoGuardar
+    GuardarSeries    // "Borre algunas series" with puntoGuardar
 };
 
 using FormulaPaso = std::string (*)(const Estimacion &e);
@@ -96,7 +96,9 @@ int EjecutarLista(Estimacion &e, std::span<const Paso> lista) {
 
 // ----- Pieces of the formulas
 
-int GradosDeLibertad(const Estimacion &e) { return e.observaciones - e.regresores; }
+int GradosDeLibertad(const Estimacion &e) {
+    return e.observaciones - e.regresores;
+}
 
 double ValorDe(std::string_view escalar) {
     const int s = BuscarEscalar(escalar);
@@ -153,18 +155,28 @@ constexpr Paso PasosAjuste[] = {
     {PasoMatriz, {FamBETA, ""}, [](E) -> std::string { return "_TMF5$ * _TMF6"; }, 6535},
     {PasoMatriz, {NombreFijo, "_YAJU1"}, [](E e) { return Formatear("_XIND * %s", N(e, FamBETA)); }, 653},
     {PasoSerieDeMatriz, {NombreFijo, "_YAJUS"}, [](E) -> std::string { return "_YAJU1"; }, 0},
-    {PasoMatriz, {NombreFijo, "_RESM"}, [](E e) { return Formatear("_YDEP - (_XIND * %s)", N(e, FamBETA)); }, 653},
+    {PasoMatriz,
+     {NombreFijo, "_RESM"},
+     [](E e) { return Formatear("_YDEP - (_XIND * %s)", N(e, FamBETA)); },
+     653},
     {PasoSerieDeMatriz, {FamRES, ""}, [](E) -> std::string { return "_RESM"; }, 0},
 };
 
 constexpr Paso PasosError[] = {
     {PasoEscalar, {FamSCR, ""}, [](E) -> std::string { return "ESCAL(_SCR1)"; }, 655, 656},
-    {PasoEscalar, {FamDTR, ""},
+    {PasoEscalar,
+     {FamDTR, ""},
      [](E e) -> std::string {
-         return GradosDeLibertad(e) <= 0 ? " 0.0" : Formatear("RCUAD(%s/%d)", N(e, FamSCR), GradosDeLibertad(e));
+         return GradosDeLibertad(e) <= 0 ? " 0.0"
+                                         : Formatear("RCUAD(%s/%d)", N(e, FamSCR), GradosDeLibertad(e));
      },
-     955, 956},
-    {PasoEscalar, {FamMTR, ""}, [](E e) { return Formatear("%s * %s", N(e, FamDTR), N(e, FamDTR)); }, 655, 656},
+     955,
+     956},
+    {PasoEscalar,
+     {FamMTR, ""},
+     [](E e) { return Formatear("%s * %s", N(e, FamDTR), N(e, FamDTR)); },
+     655,
+     656},
 };
 
 constexpr Paso PasosCovarianza[] = {
@@ -177,13 +189,23 @@ constexpr Paso PasosMedidas[] = {
     {PasoEscalar, {FamMVD, ""}, [](E e) { return Decimal6(e.media); }, 659, 6661},
     {PasoEscalar, {FamSTVD, ""}, [](E e) { return Decimal6(e.suma); }, 6662, 6636},
     {PasoEscalar, {FamLV, ""}, Verosimilitud, 6664, 6665},
-    {PasoEscalar, {FamAIC, ""},
-     [](E e) { return Formatear("(-2 * (%s - %d))/%d", N(e, FamLV), e.regresores, e.observaciones); }, 6667, 6668},
+    {PasoEscalar,
+     {FamAIC, ""},
+     [](E e) { return Formatear("(-2 * (%s - %d))/%d", N(e, FamLV), e.regresores, e.observaciones); },
+     6667,
+     6668},
     {PasoEscalar, {FamSCVD, ""}, [](E e) { return Decimal6(e.variacion); }, 6669, 70},
-    {PasoEscalar, {FamDTVD, ""},
-     [](E e) { return Formatear("RCUAD(%s/%f)", N(e, FamSCVD), e.observaciones - 1.0); }, 71, 72},
+    {PasoEscalar,
+     {FamDTVD, ""},
+     [](E e) { return Formatear("RCUAD(%s/%f)", N(e, FamSCVD), e.observaciones - 1.0); },
+     71,
+     72},
     {PasoEscalar, {FamDCR, ""}, [](E) -> std::string { return "ESCAL(_SCR1)"; }, 73, 74},
-    {PasoEscalar, {FamRC, ""}, [](E e) { return Formatear("1.00 - (ESCAL(_SCR1)/%s)", N(e, FamSCVD)); }, 75, 76},
+    {PasoEscalar,
+     {FamRC, ""},
+     [](E e) { return Formatear("1.00 - (ESCAL(_SCR1)/%s)", N(e, FamSCVD)); },
+     75,
+     76},
     {PasoEscalar, {FamFORLA, ""}, F, 77, 78},
     {PasoEscalar, {FamNORE, ""}, [](E e) { return Formatear("%d", GradosDeLibertad(e)); }, 77, 78},
 };
@@ -192,20 +214,39 @@ constexpr Paso PasosMedidas[] = {
 constexpr Paso PasosFinales[] = {
     {PasoEscalar, {FamANREG, ""}, [](E e) { return Formatear("%d", SeriesDe(e.codigo)); }, 77, 78},
     {PasoEscalar, {FamNREG, ""}, [](E e) { return Formatear("%d", e.regresores); }, 77, 78},
-    {PasoEscalar, {FamDW, ""},
-     [](E e) { return Formatear("(1.00/(ESCAL(_SCR1))) * %10.6f", e.saltos); }, 79, 80},
+    {PasoEscalar,
+     {FamDW, ""},
+     [](E e) { return Formatear("(1.00/(ESCAL(_SCR1))) * %10.6f", e.saltos); },
+     79,
+     80},
     {PasoEscalar, {FamRCC, ""}, RCuadradoCorregido, 81, 82},
-    {PasoEscalar, {FamESTF, ""},
-     [](E e) { return Formatear("PROBF(%s,%s,%s)", N(e, FamFORLA), N(e, FamANREG), N(e, FamNORE)); }, 831, 880,
+    {PasoEscalar,
+     {FamESTF, ""},
+     [](E e) { return Formatear("PROBF(%s,%s,%s)", N(e, FamFORLA), N(e, FamANREG), N(e, FamNORE)); },
+     831,
+     880,
      GuardarCausa},
-    {PasoEscalar, {FamEA1, ""}, [](E e) { return Formatear("1.00-(%s/2.00)", N(e, FamDW)); }, 85, 861,
+    {PasoEscalar,
+     {FamEA1, ""},
+     [](E e) { return Formatear("1.00-(%s/2.00)", N(e, FamDW)); },
+     85,
+     861,
      GuardarSinPunto},
     {PasoMatriz, {FamDTE, "1"}, [](E e) { return Formatear("%s'", N(e, FamDTE)); }, 658},
     {PasoSerieDeMatriz, {FamDTE, "2"}, [](E e) { return Formatear("%s1", N(e, FamDTE)); }, 0},
     {PasoSerieDeMatriz, {NombreFijo, "_BETA2"}, [](E e) -> std::string { return N(e, FamBETA); }, 0},
-    {PasoSerie, {FamDIV, ""}, [](E e) { return Formatear("_BETA2/%s2", N(e, FamDTE)); }, 831, 8622, GuardarSeries},
-    {PasoSerie, {FamPROBT, ""},
-     [](E e) { return Formatear("PROBT(%s,%s)", N(e, FamDIV), N(e, FamNORE)); }, 852, 863, GuardarSeries},
+    {PasoSerie,
+     {FamDIV, ""},
+     [](E e) { return Formatear("_BETA2/%s2", N(e, FamDTE)); },
+     831,
+     8622,
+     GuardarSeries},
+    {PasoSerie,
+     {FamPROBT, ""},
+     [](E e) { return Formatear("PROBT(%s,%s)", N(e, FamDIV), N(e, FamNORE)); },
+     852,
+     863,
+     GuardarSeries},
 };
 
 // CR compares its residuals with those of the last MC, on as many degrees of freedom as regressors were left out. The
@@ -216,14 +257,19 @@ int RegresoresFuera() {
 
 constexpr Paso PasosRestringido[] = {
     {PasoEscalar, {NombreFijo, "_EST5"}, [](E) { return Formatear("%d", RegresoresFuera()); }, 655, 656},
-    {PasoEscalar, {FamFORLA, ""},
+    {PasoEscalar,
+     {FamFORLA, ""},
      [](E) {
          return Formatear("((_SCRR - _SCR)/%d)/(_SCR/%d)", RegresoresFuera(),
                           ObservacionesDelRango() - UltimaRegresion.NumRegresores);
      },
-     655, 656},
-    {PasoEscalar, {FamESTF, ""},
-     [](E e) { return Formatear("PROBF(%s,_EST5,%s)", N(e, FamFORLA), NombreFamilia(FamNORE, OrdenMC)); }, 832, 780,
+     655,
+     656},
+    {PasoEscalar,
+     {FamESTF, ""},
+     [](E e) { return Formatear("PROBF(%s,_EST5,%s)", N(e, FamFORLA), NombreFamilia(FamNORE, OrdenMC)); },
+     832,
+     780,
      GuardarCausa},
 };
 
@@ -239,8 +285,11 @@ double EstadisticoWhite(E e) {
 constexpr Paso PasosWhite[] = {
     {PasoEscalar, {NombreFijo, "_TM11"}, [](E e) { return Formatear("%f", EstadisticoWhite(e)); }, 7551, 756},
     {PasoEscalar, {NombreFijo, "_TM12"}, [](E) { return Formatear("%d", SeriesDe(OrdenCWH)); }, 7552, 756},
-    {PasoEscalar, {NombreFijo, "_TM13"},
-     [](E e) { return Formatear("PROBC(%f,%d)", EstadisticoWhite(e), SeriesDe(OrdenCWH)); }, 7553, 756},
+    {PasoEscalar,
+     {NombreFijo, "_TM13"},
+     [](E e) { return Formatear("PROBC(%f,%d)", EstadisticoWhite(e), SeriesDe(OrdenCWH)); },
+     7553,
+     756},
 };
 
 // ----- The order
@@ -300,7 +349,8 @@ int CompletarRegresion(Estimacion &e) {
     if (e.codigo == OrdenMCP) UltimaRegresion.SeriesRegresion[OrdenMC] = SeriesDe(OrdenMCP);
     if (e.codigo == OrdenCR || e.codigo == OrdenCWH || e.codigo == OrdenMCP) MostrarLista(e);
     if (e.codigo == OrdenCR && EjecutarLista(e, PasosRestringido) == 0) return 0;
-    if (UltimaRegresion.TipoCovarianza == CovarianzaHeterocedasticidad && EjecutarLista(e, PasosWald) == 0) return 0;
+    if (UltimaRegresion.TipoCovarianza == CovarianzaHeterocedasticidad && EjecutarLista(e, PasosWald) == 0)
+        return 0;
     if (e.codigo == OrdenMC || e.codigo == OrdenMCP) AnotarRegresion(e);
     if (e.codigo == OrdenMGD) return ParteSinEnsamblar(e);
     if (e.codigo == OrdenCWH && EjecutarLista(e, PasosWhite) == 0) return 0;

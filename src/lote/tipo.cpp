@@ -16,12 +16,14 @@ struct Palabra {
     int valor;
 };
 
-constexpr Palabra Periodicidades[] = {{"anual", TipoAnual}, {"trimestral", TipoTrimestral}, {"mensual", TipoMensual}};
+constexpr Palabra Periodicidades[] = {
+    {"anual", TipoAnual}, {"trimestral", TipoTrimestral}, {"mensual", TipoMensual}};
 constexpr Palabra Conceptos[] = {{"periodo", PeriodoPrimero}, {"individuo", IndividuoPrimero}};
 constexpr std::string_view Etiquetas = ",etiquetas";
 
 template <std::size_t N> bool Buscar(const Palabra (&tabla)[N], std::string_view texto, int &valor) {
-    const auto *p = std::find_if(std::begin(tabla), std::end(tabla), [&](const Palabra &x) { return x.texto == texto; });
+    const auto *p =
+        std::find_if(std::begin(tabla), std::end(tabla), [&](const Palabra &x) { return x.texto == texto; });
     if (p == std::end(tabla)) return false;
     valor = p->valor;
     return true;
@@ -38,9 +40,13 @@ Trozos Separar(std::string_view texto, char separador) {
 }
 
 // Digits with points and signs: whether they make a period is for the dialog to say.
-bool EsCampoNumerico(std::string_view texto) { return texto.find_first_not_of("0123456789.-") == std::string_view::npos; }
+bool EsCampoNumerico(std::string_view texto) {
+    return texto.find_first_not_of("0123456789.-") == std::string_view::npos;
+}
 
-bool EsNumeroEscrito(std::string_view texto) { return !texto.empty() && EsCampoNumerico(texto); }
+bool EsNumeroEscrito(std::string_view texto) {
+    return !texto.empty() && EsCampoNumerico(texto);
+}
 
 // The fields of the first and the last period, from `desde` on; both may be missing.
 bool LeerFechas(const Trozos &trozos, std::size_t desde, PropuestaTipoDatos &p) {

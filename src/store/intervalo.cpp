@@ -30,7 +30,8 @@ constexpr FormaIntervalo Formas[] = {
 };
 
 const FormaIntervalo &FormaDe(int porAno) {
-    const auto *f = std::find_if(std::begin(Formas), std::end(Formas), [&](const auto &x) { return x.porAno == porAno; });
+    const auto *f =
+        std::find_if(std::begin(Formas), std::end(Formas), [&](const auto &x) { return x.porAno == porAno; });
     return f != std::end(Formas) ? *f : Formas[0];
 }
 
@@ -38,11 +39,13 @@ int Campo(std::string_view texto, std::size_t columna, std::size_t ancho) {
     return columna < texto.size() ? LeerEntero(texto.substr(columna, ancho)) : 0;
 }
 
-std::string TextoAno(int ano) { return Formatear("%4d", ano); }
+std::string TextoAno(int ano) {
+    return Formatear("%4d", ano);
+}
 
 // The annual formats take the two years, the others the sub-periods too.
-std::string ConFormato(const char *formato, bool conSub, const std::string &primerAno, const std::string &ultimoAno,
-                       const Intervalo &v) {
+std::string ConFormato(const char *formato, bool conSub, const std::string &primerAno,
+                       const std::string &ultimoAno, const Intervalo &v) {
     return conSub ? Formatear(formato, primerAno.c_str(), v.primerSub, ultimoAno.c_str(), v.ultimoSub)
                   : Formatear(formato, primerAno.c_str(), ultimoAno.c_str());
 }
@@ -87,8 +90,8 @@ int PeriodosPorAno(int periodicidad) {
 
 Intervalo LeerIntervalo(std::string_view texto, int porAno) {
     const FormaIntervalo &f = FormaDe(porAno);
-    return {Campo(texto, 0, AnchoAno), Campo(texto, f.primerSub, f.anchoSub), Campo(texto, f.ultimoAno, AnchoAno),
-            Campo(texto, f.ultimoSub, f.anchoSub)};
+    return {Campo(texto, 0, AnchoAno), Campo(texto, f.primerSub, f.anchoSub),
+            Campo(texto, f.ultimoAno, AnchoAno), Campo(texto, f.ultimoSub, f.anchoSub)};
 }
 
 std::string ComponerIntervalo(const Intervalo &v, int porAno) {
@@ -102,7 +105,9 @@ std::string TextoDeIntervalo(const Intervalo &v, int porAno) {
     return ConFormato(f.reescrito, f.anchoSub > 0, TextoAno(v.primerAno), TextoAno(v.ultimoAno), v);
 }
 
-int IndicePeriodo(int ano, int sub, int porAno) { return ano * porAno + sub - 1; }
+int IndicePeriodo(int ano, int sub, int porAno) {
+    return ano * porAno + sub - 1;
+}
 
 void PeriodoDeIndice(int indice, int porAno, int &ano, int &sub) {
     // A damaged work file can bring years before 0: the division must round down for them too.
@@ -119,8 +124,8 @@ std::string TextoDeIndice(int indice, int porAno) {
     return f.anchoSub > 0 ? Formatear(f.periodo, ano, sub) : Formatear(f.periodo, ano);
 }
 
-int ComprobarPeriodos(Ventana *ventana, int periodicidad, std::string_view inicio, std::string_view fin, bool panel,
-                      Intervalo &intervalo) {
+int ComprobarPeriodos(Ventana *ventana, int periodicidad, std::string_view inicio, std::string_view fin,
+                      bool panel, Intervalo &intervalo) {
     const CamposDelTipo &forma = Campos[std::clamp<int>(periodicidad, TipoAnual, TipoMensual) - TipoAnual];
     const int porAno = PeriodosPorAno(periodicidad);
     const CampoPartido campoA = Partir(inicio, forma);
@@ -134,7 +139,8 @@ int ComprobarPeriodos(Ventana *ventana, int periodicidad, std::string_view inici
     if (b > 0 && b < a && !panel) return MensajeAviso(ventana, "Rango de años no válidos"_w);
     if (b < AnoMinimo && b != 0) return MensajeAviso(ventana, "Año máximo no válido"_w);
     // A blank first year counts as 0 here, so most last years are too far from it.
-    if ((b - a + 1) * porAno > MaxObservaciones) return MensajeAviso(ventana, "Año máximo excesivamente grande"_w);
+    if ((b - a + 1) * porAno > MaxObservaciones)
+        return MensajeAviso(ventana, "Año máximo excesivamente grande"_w);
     const int subA = LeerEntero(campoA.sub);
     const int subB = LeerEntero(campoB.sub);
     if (forma.conSub && (subA < 0 || subA > porAno)) return MensajeAviso(ventana, forma.subMinimoNoValido);

@@ -41,5 +41,5 @@ std::string TextoDeIndice(int indice, int porAno);
 // point into year (4 characters) and sub-period. 1 with the result in `intervalo`, sub-periods that were left blank
 // being the first and the last one of the year; two blank fields give blank years. 0 after a message, title "Aviso".
 // `panel`: a blank first year is 2001 before the checks, and a last year below the first is accepted.
-int ComprobarPeriodos(Ventana *ventana, int periodicidad, std::string_view inicio, std::string_view fin, bool panel,
-                      Intervalo &intervalo);
+int ComprobarPeriodos(Ventana *ventana, int periodicidad, std::string_view inicio, std::string_view fin,
+                      bool panel, Intervalo &intervalo);

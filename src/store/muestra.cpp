@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 EstadoDeMuestra Muestra;
 
@@ -15,13 +16,17 @@ namespace {
 constexpr int FinSinDatos = 100000;           // where the search for the earliest last row begins
 constexpr std::size_t AnchoCampoMuestra = 18; // characters of a field of the sample dialog
 
+constexpr std::int32_t SinPresencia[MaxSeries] = {};
+
 // Rows that can have texts and data, whatever a damaged file put into NumObs.
 int FilasEnUso() {
     const int n = ArchivoTrabajo.NumObs;
     return n > MaxObservaciones ? MaxObservaciones : std::max(n, 0);
 }
 
-int SeriesEnUso() { return std::min<int>(ArchivoTrabajo.NumSeries, MaxSeries); }
+int SeriesEnUso() {
+    return std::min<int>(ArchivoTrabajo.NumSeries, MaxSeries);
+}
 
 // First row with a value of each series in use, going `paso` by `paso` from row `desde` through `filas` rows; 0 where
 // there is none. The table is walked by rows, as it lies in memory, and the walk ends with the last series found.
@@ -30,6 +35,9 @@ void BuscarExtremos(int desde, int paso, int filas, int series, std::int32_t *ex
     int pendientes = series;
     for (int k = 0, i = desde; k < filas && pendientes > 0; ++k, i += paso) {
         const std::int32_t *presencia = ArchivoTrabajo.PresenciaObs[i];
+        // Most rows of a short file in the long tables hold nothing.
+        if (std::memcmp(presencia, SinPresencia, sizeof *presencia * static_cast<std::size_t>(series)) == 0)
+            continue;
         for (int s = 0; s < series; ++s) {
             if (presencia[s] != 1 || extremo[s] >= 0) continue;
             extremo[s] = i;
@@ -66,7 +74,9 @@ void LimitesDeDatos(bool faltaInicio, bool faltaFin) {
 
 // What the sub-period of a limit is divided by to stand behind the year; 1 for the types without one.
 int EscalaDelTipo() {
-    return ArchivoTrabajo.TipoDatos == TipoTrimestral ? 10 : ArchivoTrabajo.TipoDatos == TipoMensual ? 100 : 1;
+    return ArchivoTrabajo.TipoDatos == TipoTrimestral ? 10
+           : ArchivoTrabajo.TipoDatos == TipoMensual  ? 100
+                                                      : 1;
 }
 
 // The row before the first one whose number is above that of the limit; -1 when no row is above it. `subPorDefecto`
@@ -74,7 +84,8 @@ int EscalaDelTipo() {
 // could differ in its last bit from the number read from the row's text, and move the bound by one row.
 int FilaDeLimite(int ano, int sub, int subPorDefecto) {
     const int escala = EscalaDelTipo();
-    const double limite = escala == 1 ? ano : static_cast<double>(ano) * escala + (sub < 1 ? subPorDefecto : sub);
+    const double limite =
+        escala == 1 ? ano : static_cast<double>(ano) * escala + (sub < 1 ? subPorDefecto : sub);
     for (int i = 0; i < FilasEnUso(); ++i) {
         const double valor = ArchivoTrabajo.ValoresPeriodo[i];
         if ((escala == 1 ? valor : std::round(valor * escala)) > limite) return i - 1;
@@ -95,7 +106,8 @@ bool FilaSeLlama(int fila, std::string_view limite) {
 
 void LimitesPeriodicos() {
     const int ultimoSub = ArchivoTrabajo.TipoDatos == TipoTrimestral ? 4 : 12;
-    if (Muestra.AnoFinal != 0) Muestra.FinMuestra = FilaDeLimite(Muestra.AnoFinal, Muestra.SubFinal, ultimoSub);
+    if (Muestra.AnoFinal != 0)
+        Muestra.FinMuestra = FilaDeLimite(Muestra.AnoFinal, Muestra.SubFinal, ultimoSub);
     if (Muestra.FinMuestra < 0) Muestra.FinMuestra = ArchivoTrabajo.NumObs - 1;
     if (Muestra.AnoInicial != 0)
         Muestra.InicioMuestra = std::max(FilaDeLimite(Muestra.AnoInicial, Muestra.SubInicial, 1), 0);
@@ -109,7 +121,9 @@ void LimitesDePanel() {
     }
 }
 
-bool DePeriodo(char c) { return c >= '-' && c <= '9'; }
+bool DePeriodo(char c) {
+    return c >= '-' && c <= '9';
+}
 
 // The next word of characters from "-" to "9", the position left behind it; empty when there is none.
 std::string_view SiguientePeriodo(std::string_view texto, std::size_t &posicion) {
@@ -198,7 +212,8 @@ void ActualizarMuestra() {
     if (Muestra.FinMuestra < 0) Muestra.FinMuestra = ArchivoTrabajo.NumObs - 1;
     if (Muestra.InicioMuestra < 0) Muestra.InicioMuestra = 0;
     // Between limits that the user wrote the end steps behind the start; the automatic sample shrinks to one row.
-    if (Muestra.FinMuestra < Muestra.InicioMuestra) Muestra.FinMuestra = Muestra.InicioMuestra + (automatica ? 0 : 1);
+    if (Muestra.FinMuestra < Muestra.InicioMuestra)
+        Muestra.FinMuestra = Muestra.InicioMuestra + (automatica ? 0 : 1);
 }
 
 void MuestraDeSentencia(std::string_view linea) {
@@ -227,8 +242,8 @@ std::vector<std::string> LineasMuestraActual() {
     const bool conTextos = ArchivoTrabajo.NumObs <= MaxObservaciones;
     const auto texto = [&](int fila) { return conTextos ? std::string(TextoPeriodo(fila)) : std::string(); };
     const std::string_view intervalo = Recortado(ArchivoTrabajo.TextoIntervalo, RecorteDerecha);
-    return {"Período inicial: "_w + texto(Muestra.InicioMuestra), "Período final: "_w + texto(Muestra.FinMuestra),
-            "Muestra máxima: "_w + std::string(intervalo),
+    return {"Período inicial: "_w + texto(Muestra.InicioMuestra),
+            "Período final: "_w + texto(Muestra.FinMuestra), "Muestra máxima: "_w + std::string(intervalo),
             "Número máximo datos: "_w + Formatear("%d", ArchivoTrabajo.NumObs)};
 }
 

@@ -15,7 +15,9 @@ namespace {
 
 constexpr double PeriodoMinimo = 1000.0;
 
-int RechazarPorLleno(Ventana *ventana) { return MensajeAviso(ventana, "No se pueden introducir más periodos"_w); }
+int RechazarPorLleno(Ventana *ventana) {
+    return MensajeAviso(ventana, "No se pueden introducir más periodos"_w);
+}
 
 // A text in a field that ends in NUL, without blanks at its sides.
 template <std::size_t N> void PonerTexto(char (&campo)[N], std::string_view texto) {
@@ -24,8 +26,12 @@ template <std::size_t N> void PonerTexto(char (&campo)[N], std::string_view text
     texto.copy(campo, texto.size());
 }
 
-double Numero(const EntradaPeriodoPanel &e) { return LeerDecimal(e.periodo); }
-double Numero(const EntradaIndividuoPanel &e) { return e.orden; }
+double Numero(const EntradaPeriodoPanel &e) {
+    return LeerDecimal(e.periodo);
+}
+double Numero(const EntradaIndividuoPanel &e) {
+    return e.orden;
+}
 
 // Brings the last of `n` entries to its place by exchanges with those above it; returns the place.
 template <typename Entrada> int Colocar(Entrada *lista, int n) {
@@ -91,7 +97,8 @@ void AbrirEdicionPanel() {
     p = DescripcionPanel;
     SanearListas(p);
     if (ArchivoTrabajo.TipoDatos == TipoPanel && p.FormaPanel == PanelConstante)
-        EdicionPanel.intervalo = LeerIntervalo(ArchivoTrabajo.TextoIntervalo, PeriodosPorAno(p.TipoPeriodoPanel));
+        EdicionPanel.intervalo =
+            LeerIntervalo(ArchivoTrabajo.TextoIntervalo, PeriodosPorAno(p.TipoPeriodoPanel));
 }
 
 void ElegirFormaPanel(FormasPanel forma, ConceptosPanel primerConcepto) {
@@ -103,8 +110,8 @@ void ElegirFormaPanel(FormasPanel forma, ConceptosPanel primerConcepto) {
     EdicionPanel.cambiada = true;
 }
 
-int AceptarPanelConstante(Ventana *ventana, std::string_view individuos, int tipoPeriodo, std::string_view inicio,
-                          std::string_view fin) {
+int AceptarPanelConstante(Ventana *ventana, std::string_view individuos, int tipoPeriodo,
+                          std::string_view inicio, std::string_view fin) {
     Intervalo intervalo{};
     if (ComprobarPeriodos(ventana, tipoPeriodo, inicio, fin, true, intervalo) == 0) return 0;
     EdicionPanel.panel.NumEntradas = LeerEntero(individuos);
@@ -118,7 +125,8 @@ int AnadirPeriodoPanel(Ventana *ventana, std::string_view periodo, std::string_v
     DescripcionDePanel &p = EdicionPanel.panel;
     const int numIndividuos = LeerEntero(individuos);
     if (numIndividuos < 1) return MensajeAviso(ventana, "Individuos ha de ser mayor de cero");
-    if (LeerDecimal(periodo) < PeriodoMinimo) return MensajeAviso(ventana, "Período ha de ser mayor de mil"_w);
+    if (LeerDecimal(periodo) < PeriodoMinimo)
+        return MensajeAviso(ventana, "Período ha de ser mayor de mil"_w);
     if (p.NumEntradas >= MaxPeriodosPanel) return RechazarPorLleno(ventana);
     EntradaPeriodoPanel &nueva = p.periodos[p.NumEntradas++];
     nueva.individuos = numIndividuos;
@@ -128,7 +136,9 @@ int AnadirPeriodoPanel(Ventana *ventana, std::string_view periodo, std::string_v
     return 1;
 }
 
-void QuitarPeriodoPanel(int entrada) { Quitar(EdicionPanel.panel.periodos, EdicionPanel.panel.NumEntradas, entrada); }
+void QuitarPeriodoPanel(int entrada) {
+    Quitar(EdicionPanel.panel.periodos, EdicionPanel.panel.NumEntradas, entrada);
+}
 
 int AnadirIndividuoPanel(Ventana *ventana, std::string_view orden) {
     DescripcionDePanel &p = EdicionPanel.panel;
@@ -150,7 +160,8 @@ int AnadirPeriodoIndividuo(Ventana *ventana, int entrada, std::string_view perio
     DescripcionDePanel &p = EdicionPanel.panel;
     if (entrada < 0 || entrada >= p.NumEntradas) return 0;
     EntradaIndividuoPanel &individuo = p.individuos[entrada];
-    if (LeerDecimal(periodo) < PeriodoMinimo) return MensajeAviso(ventana, "Período ha de ser mayor de 1000"_w);
+    if (LeerDecimal(periodo) < PeriodoMinimo)
+        return MensajeAviso(ventana, "Período ha de ser mayor de 1000"_w);
     if (individuo.numPeriodos >= MaxPeriodosIndividuo) return RechazarPorLleno(ventana);
     PonerTexto(individuo.periodos[individuo.numPeriodos++], periodo);
     for (int i = individuo.numPeriodos - 1; i > 0; --i) {
@@ -199,7 +210,8 @@ bool PanelConDatos(const DescripcionDePanel &p) {
     if (p.NumEntradas < 1) return false;
     if (p.FormaPanel == PanelConstante || p.PrimerConcepto == PeriodoPrimero) return true;
     const int entradas = std::min<int>(p.NumEntradas, MaxIndividuosEtiqueta);
-    return std::any_of(p.individuos, p.individuos + entradas, [](const auto &e) { return e.numPeriodos > 0; });
+    return std::any_of(p.individuos, p.individuos + entradas,
+                       [](const auto &e) { return e.numPeriodos > 0; });
 }
 
 void EscribirEdicionPanel() {

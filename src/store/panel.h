@@ -29,8 +29,8 @@ void ElegirFormaPanel(FormasPanel forma, ConceptosPanel primerConcepto);
 
 // OK of the dialog of the constant panel, with the number of individuals, the periodicity (TipoAnual, TipoTrimestral or
 // TipoMensual) and the fields of the first and last period, checked by ComprobarPeriodos.
-int AceptarPanelConstante(Ventana *ventana, std::string_view individuos, int tipoPeriodo, std::string_view inicio,
-                          std::string_view fin);
+int AceptarPanelConstante(Ventana *ventana, std::string_view individuos, int tipoPeriodo,
+                          std::string_view inicio, std::string_view fin);
 
 // Variable panel, period first: adds a period with its number of individuals; the list stays sorted by the number that
 // the period begins with. 0 after "Individuos ha de ser mayor de cero", "Período ha de ser mayor de mil" or, with 3,999

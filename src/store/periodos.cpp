@@ -15,9 +15,13 @@ namespace {
 
 // Years from the first to the last one where this was left blank. The quarterly and the monthly range are a little
 // longer than the tables; the steps back from their end make them fit.
-int AnosPorDefecto(int porAno) { return porAno == 1 ? 3999 : porAno == 4 ? 1000 : 334; }
+int AnosPorDefecto(int porAno) {
+    return porAno == 1 ? 3999 : porAno == 4 ? 1000 : 334;
+}
 
-void PonerIntervalo(std::string_view texto) { PonerCampo(ArchivoTrabajo.TextoIntervalo, texto, AnchoIntervalo); }
+void PonerIntervalo(std::string_view texto) {
+    PonerCampo(ArchivoTrabajo.TextoIntervalo, texto, AnchoIntervalo);
+}
 
 std::string_view CampoIntervalo() {
     return {ArchivoTrabajo.TextoIntervalo, strnlen(ArchivoTrabajo.TextoIntervalo, AnchoIntervalo)};
@@ -45,7 +49,8 @@ void ConstruirPeriodico(int porAno) {
     if (v.ultimoAno == v.primerAno && v.ultimoSub <= v.primerSub) ++v.ultimoAno;
     if (v.ultimoAno < v.primerAno) v.ultimoAno = v.primerAno + 1;
     const int primero = IndicePeriodo(v.primerAno, v.primerSub, porAno);
-    const int ultimo = std::min(IndicePeriodo(v.ultimoAno, v.ultimoSub, porAno), primero + MaxObservaciones - 1);
+    const int ultimo =
+        std::min(IndicePeriodo(v.ultimoAno, v.ultimoSub, porAno), primero + MaxObservaciones - 1);
     PeriodoDeIndice(ultimo, porAno, v.ultimoAno, v.ultimoSub);
     ArchivoTrabajo.NumObs = ultimo - primero + 1;
     for (int i = 0; i < ArchivoTrabajo.NumObs; ++i) PonerTextoPeriodo(i, TextoDeIndice(primero + i, porAno));
@@ -90,7 +95,8 @@ void ConstruirPanelConstante() {
         }
     } else {
         for (int i = 1; i <= numIndividuos && caben; ++i)
-            for (int t = primero; t <= ultimo && caben; ++t) caben = AnadirFilaPanel(TextoDeIndice(t, porAno), i);
+            for (int t = primero; t <= ultimo && caben; ++t)
+                caben = AnadirFilaPanel(TextoDeIndice(t, porAno), i);
     }
     PonerIntervalo(TextoDeIntervalo(v, porAno));
 }

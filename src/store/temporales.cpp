@@ -26,14 +26,17 @@ Sufijos SufijoDe(int codigo) {
     }
 }
 
-#define CON_SUFIJOS(base) {base, base "R", base "GN", base "GD", base "W"}
+#define CON_SUFIJOS(base)                                                                                    \
+    { base, base "R", base "GN", base "GD", base "W" }
 
 constexpr const char *NombresFamilia[NumFamilias][NumSufijos] = {
-    CON_SUFIJOS("_BETA"),  CON_SUFIJOS("_NREG"), CON_SUFIJOS("_ANREG"), CON_SUFIJOS("_SCR"),   CON_SUFIJOS("_DTR"),
-    CON_SUFIJOS("_DIV"),   CON_SUFIJOS("_MTR"),  CON_SUFIJOS("_COV"),   CON_SUFIJOS("_DTE"),   CON_SUFIJOS("_MVD"),
-    CON_SUFIJOS("_STVD"),  CON_SUFIJOS("_LV"),   CON_SUFIJOS("_AIC"),   CON_SUFIJOS("_SCVD"),  CON_SUFIJOS("_DTVD"),
-    CON_SUFIJOS("_DCR"),   CON_SUFIJOS("_RC"),   CON_SUFIJOS("_DW"),    CON_SUFIJOS("_RCC"),   CON_SUFIJOS("_EA1"),
-    CON_SUFIJOS("_PROBT"), CON_SUFIJOS("_NORE"), CON_SUFIJOS("_FORLA"), CON_SUFIJOS("_ESTF"),  CON_SUFIJOS("_RES"),
+    CON_SUFIJOS("_BETA"),  CON_SUFIJOS("_NREG"), CON_SUFIJOS("_ANREG"), CON_SUFIJOS("_SCR"),
+    CON_SUFIJOS("_DTR"),   CON_SUFIJOS("_DIV"),  CON_SUFIJOS("_MTR"),   CON_SUFIJOS("_COV"),
+    CON_SUFIJOS("_DTE"),   CON_SUFIJOS("_MVD"),  CON_SUFIJOS("_STVD"),  CON_SUFIJOS("_LV"),
+    CON_SUFIJOS("_AIC"),   CON_SUFIJOS("_SCVD"), CON_SUFIJOS("_DTVD"),  CON_SUFIJOS("_DCR"),
+    CON_SUFIJOS("_RC"),    CON_SUFIJOS("_DW"),   CON_SUFIJOS("_RCC"),   CON_SUFIJOS("_EA1"),
+    CON_SUFIJOS("_PROBT"), CON_SUFIJOS("_NORE"), CON_SUFIJOS("_FORLA"), CON_SUFIJOS("_ESTF"),
+    CON_SUFIJOS("_RES"),
 };
 
 #undef CON_SUFIJOS
@@ -43,7 +46,9 @@ constexpr const char *NombresFamilia[NumFamilias][NumSufijos] = {
 enum ClasesTemporal { TemporalMatriz, TemporalEscalar, TemporalSerie };
 
 // Codes that a row of the table applies to, as bits.
-constexpr unsigned Bit(int codigo) { return 1u << codigo; }
+constexpr unsigned Bit(int codigo) {
+    return 1u << codigo;
+}
 constexpr unsigned Auxiliares = Bit(OrdenCR) | Bit(OrdenMGN) | Bit(OrdenMGD) | Bit(OrdenCWH);
 constexpr unsigned Todos = Auxiliares | Bit(OrdenMC) | Bit(OrdenMCP);
 
@@ -103,12 +108,9 @@ constexpr Temporal MatricesYEscalares[] = {
 
 // Of an auxiliary regression nothing stays, the standard errors as a series (_DTER2) included.
 constexpr Temporal SeriesDeResultados[] = {
-    {TemporalSerie, Auxiliares, "_RES", true},
-    {TemporalSerie, Auxiliares, "_DTE", true},
-    {TemporalSerie, Auxiliares, "_DIV", true},
-    {TemporalSerie, Auxiliares, "_PROBT", true},
-    {TemporalSerie, Auxiliares, "_YAJUS", false},
-    {TemporalSerie, Auxiliares, "_BETA2", false},
+    {TemporalSerie, Auxiliares, "_RES", true},      {TemporalSerie, Auxiliares, "_DTE", true},
+    {TemporalSerie, Auxiliares, "_DIV", true},      {TemporalSerie, Auxiliares, "_PROBT", true},
+    {TemporalSerie, Auxiliares, "_YAJUS", false},   {TemporalSerie, Auxiliares, "_BETA2", false},
     {TemporalSerie, Auxiliares, "_DTE", true, "2"},
 };
 
@@ -150,7 +152,8 @@ void BorrarNumeradas(const char *base, int hasta, bool &borradas) {
 bool BorrarLista(std::span<const Temporal> lista, Ventana *ventana, int codigo, bool &borradas) {
     for (const Temporal &t : lista) {
         if ((t.codigos & Bit(codigo)) == 0) continue;
-        const std::string nombre = std::string(t.base) + (t.conSufijo ? TextosSufijo[SufijoDe(codigo)] : "") + t.cola;
+        const std::string nombre =
+            std::string(t.base) + (t.conSufijo ? TextosSufijo[SufijoDe(codigo)] : "") + t.cola;
         if (t.clase == TemporalMatriz && !BorrarSiExisteMatriz(ventana, nombre)) return false;
         if (t.clase == TemporalEscalar) BorrarSiExisteEscalar(nombre);
         if (t.clase == TemporalSerie) BorrarSiExisteSerie(nombre, borradas);
@@ -188,7 +191,9 @@ void BorrarContrasteRangos() {
 
 } // namespace
 
-const char *NombreFamilia(Familias familia, int codigo) { return NombresFamilia[familia][SufijoDe(codigo)]; }
+const char *NombreFamilia(Familias familia, int codigo) {
+    return NombresFamilia[familia][SufijoDe(codigo)];
+}
 
 int BorrarTemporales(Ventana *ventana, int codigo) {
     if (codigo == OrdenCRA) {

@@ -8,7 +8,9 @@
 
 namespace {
 
-bool EnBlanco(std::string_view texto) { return CadenaDeCaracter(texto, ' ') == 1; }
+bool EnBlanco(std::string_view texto) {
+    return CadenaDeCaracter(texto, ' ') == 1;
+}
 
 void Establecer(const PropuestaTipoDatos &p, std::string_view intervalo, bool etiquetas) {
     CabeceraArchivo &a = ArchivoTrabajo;
@@ -72,7 +74,8 @@ std::string NombreDialogoTipo() {
 int AceptarNombreYTipo(Ventana *ventana, const PropuestaTipoDatos &p) {
     if (EnBlanco(std::string_view(p.nombre).substr(0, AnchoNombreTipo)))
         return MensajeAviso(ventana, "Introduzca nombre fichero");
-    if (p.tipo < TipoSinPeriodicidad || p.tipo > TipoPanel) return MensajeAviso(ventana, "Introduzca tipo de datos");
+    if (p.tipo < TipoSinPeriodicidad || p.tipo > TipoPanel)
+        return MensajeAviso(ventana, "Introduzca tipo de datos");
     if (ArchivoTrabajo.NumSeries > 0)
         MostrarMensaje(ventana, "Guarde el fichero ó se perderán todos los datos"_w, TituloAviso);
     return 1;

@@ -20,15 +20,15 @@ struct EntradaPropuesta {
 };
 
 struct PropuestaTipoDatos {
-    std::string nombre;        // of the work file
-    int tipo = SinTipoDatos;   // TiposDeDatos; SinTipoDatos while no button is chosen
-    std::string inicio, fin;   // fields of the first and the last period
-    bool etiquetas = false;    // the check box of types 0 and 4
+    std::string nombre;      // of the work file
+    int tipo = SinTipoDatos; // TiposDeDatos; SinTipoDatos while no button is chosen
+    std::string inicio, fin; // fields of the first and the last period
+    bool etiquetas = false;  // the check box of types 0 and 4
     // Panel, where it is proposed as a whole instead of being edited (panel.h).
     FormasPanel forma = PanelConstante;
     ConceptosPanel primerConcepto = PeriodoPrimero;
-    std::string individuos;        // constant: number of individuals
-    int tipoPeriodo = TipoAnual;   // constant: TipoAnual, TipoTrimestral or TipoMensual
+    std::string individuos;      // constant: number of individuals
+    int tipoPeriodo = TipoAnual; // constant: TipoAnual, TipoTrimestral or TipoMensual
     std::vector<EntradaPropuesta> entradas;
 };
 

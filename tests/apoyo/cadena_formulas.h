@@ -9,4 +9,5 @@
 // Runs an MC over the range Muestra.InicioRegresion to FinRegresion: matrices _YDEP and _XIND from the series
 // `dependiente` and the columns of the brace form (codes, numbers, scalars), then every step. The evaluation stack must
 // be open. False when a formula fails; the evaluator has shown its message.
-bool EstimarPorFormulas(std::string_view dependiente, const std::vector<std::string> &columnas, int seriesRegresoras);
+bool EstimarPorFormulas(std::string_view dependiente, const std::vector<std::string> &columnas,
+                        int seriesRegresoras);

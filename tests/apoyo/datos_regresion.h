@@ -12,11 +12,11 @@
 #include <vector>
 
 // 20 observations, no periodicity: Y, X, Z without a pattern, FALTA with a missing value in row 5, the scalar ALFA.
-// No question is asked (VSR NO).
+// The sample has limits, and no question is asked (VSR NO).
 inline void EmpezarRegresion() {
     EmpezarConDatos(TipoSinPeriodicidad, "");
     const std::vector<double> y = {3, 5, 4, 8, 7, 9, 12, 11, 15, 13, 17, 16, 18, 22, 21, 20, 25, 24, 27, 30};
-    const std::vector<double> x = {1, 3, 2, 4, 6, 5, 7, 9, 8, 10, 12, 11, 13, 15, 14, 16, 18, 17, 19, 21};
+    const std::vector<double> x = {1, 3, 2, 4, 6, 5, 7, 9, 11, 8, 12, 10, 13, 17, 14, 16, 19, 15, 20, 22};
     const std::vector<double> z = {2, 7, 1, 8, 2, 8, 1, 8, 2, 8, 4, 5, 9, 0, 4, 5, 2, 3, 5, 3};
     std::vector<double> falta = x;
     falta[5] = __builtin_nan("");
@@ -25,7 +25,9 @@ inline void EmpezarRegresion() {
     PonerSerie("Z", z);
     PonerSerie("FALTA", falta);
     PonerEscalar(nullptr, "ALFA", 2.0);
-    ActualizarMuestra();
+    // Without limits the next statement would run on the rows that all series have: a regression leaves series with a
+    // value for each regressor and no more.
+    Procesar("MUEST 1 20");
     Lote.VerRegresion = 0;
 }
 

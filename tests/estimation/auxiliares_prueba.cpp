@@ -62,8 +62,10 @@ TEST(ModeloRestringido, ComparaSumasDeCuadrados) {
 
     // The statement itself removes all of it, and leaves the MC as it was.
     EXPECT_FALSE(Procesar("CR Y 1 X"));
-    for (const char *e : {"_EST5", "_FORLAR", "_ESTFR", "_SCRR", "_NORER"}) EXPECT_EQ(BuscarEscalar(e), -1) << e;
-    for (const char *s : {"_RESR", "_DIVR", "_PROBTR", "_DTER2", "_YAJUS", "_BETA2"}) EXPECT_EQ(BuscarSerie(s), -1) << s;
+    for (const char *e : {"_EST5", "_FORLAR", "_ESTFR", "_SCRR", "_NORER"})
+        EXPECT_EQ(BuscarEscalar(e), -1) << e;
+    for (const char *s : {"_RESR", "_DIVR", "_PROBTR", "_DTER2", "_YAJUS", "_BETA2"})
+        EXPECT_EQ(BuscarSerie(s), -1) << s;
     for (const char *m : {"_BETAR", "_COVR", "_DTER", "_DTER1"}) EXPECT_EQ(BuscarMatriz(m), -1) << m;
     EXPECT_EQ(ValoresDe("_RES", 20), res);
     EXPECT_GE(BuscarMatriz("_BETA"), 0);
@@ -114,9 +116,9 @@ TEST(GoldfeldQuandt, HeredaLaCuentaDelUltimoMC) {
 // ----- White
 
 struct CasoWhite {
-    const char *antes;    // statements
+    const char *antes; // statements
     const char *opciones;
-    const char *textos;   // the list of the auxiliary regression
+    const char *textos; // the list of the auxiliary regression
     int grados;
 };
 
@@ -140,13 +142,15 @@ TEST_P(EcuacionWhite, Regresores) {
     const int r = BuscarSerie("_RES"), s = BuscarSerie("_RESCUAD");
     ASSERT_GE(s, 0);
     for (const int i : {0, 7, 19, 20, 3999}) {
-        EXPECT_EQ(ArchivoTrabajo.ValoresObs[i][s], ArchivoTrabajo.ValoresObs[i][r] * ArchivoTrabajo.ValoresObs[i][r]);
+        EXPECT_EQ(ArchivoTrabajo.ValoresObs[i][s],
+                  ArchivoTrabajo.ValoresObs[i][r] * ArchivoTrabajo.ValoresObs[i][r]);
         EXPECT_EQ(ArchivoTrabajo.PresenciaObs[i][s], 1);
     }
     EXPECT_EQ(std::string(UltimaRegresion.CodigoDependiente), "Y           ");
 
     EXPECT_FALSE(Procesar(std::string("CWH ") + caso.opciones)); // its report is still to come
-    for (const char *n : {"_RESCUAD", "_TMP1", "_TMP2", "_RESW", "_TMR1", "_DTEW2"}) EXPECT_EQ(BuscarSerie(n), -1) << n;
+    for (const char *n : {"_RESCUAD", "_TMP1", "_TMP2", "_RESW", "_TMR1", "_DTEW2"})
+        EXPECT_EQ(BuscarSerie(n), -1) << n;
     for (const char *n : {"_TM11", "_TM12", "_TM13", "_RCW"}) EXPECT_EQ(BuscarEscalar(n), -1) << n;
 }
 
@@ -155,7 +159,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(CasoWhite{"MC Y 1 X Z", "", "1 X Z X*X Z*Z ", 4},
                     CasoWhite{"MC Y 1 X Z", "RA", "1 X Z X*X Z*Z ", 4},
                     CasoWhite{"MC Y 1 X Z", "PC", "1 X Z X*X Z*Z X*Z ", 5},
-                    CasoWhite{"MC Y X Z", "", "X Z 1 X*X Z*Z ", 4},       // a constant is added
+                    CasoWhite{"MC Y X Z", "", "X Z 1 X*X Z*Z ", 4},               // a constant is added
                     CasoWhite{"SER D = X > 10\nMC Y 1 X D", "", "1 X D X*X ", 3}, // a dummy is its own square
                     CasoWhite{"SER XX = X * X\nMC Y 1 X XX", "", "1 X XX XX*XX ", 3},
                     CasoWhite{"MC Y 1 X(-1)", "", "1 X(-1) X(-1)*X(-1) ", 2}));

@@ -45,7 +45,8 @@ Almacen Fotografiar() {
 }
 
 bool MismosBits(double a, double b) {
-    return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b) || (std::isnan(a) && std::isnan(b));
+    return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b) ||
+           (std::isnan(a) && std::isnan(b));
 }
 
 void Comparar(const Almacen &directo, const Almacen &cadena) {
@@ -59,7 +60,8 @@ void Comparar(const Almacen &directo, const Almacen &cadena) {
         ASSERT_EQ(a.valores.size(), b.valores.size());
         EXPECT_EQ(a.presencia, b.presencia);
         for (std::size_t j = 0; j < a.valores.size(); ++j)
-            ASSERT_TRUE(MismosBits(a.valores[j], b.valores[j])) << j << ": " << a.valores[j] << " " << b.valores[j];
+            ASSERT_TRUE(MismosBits(a.valores[j], b.valores[j]))
+                << j << ": " << a.valores[j] << " " << b.valores[j];
     }
 }
 
@@ -133,17 +135,19 @@ TEST(CadenaDeFormulas, LosMismosBits) {
     ASSERT_TRUE(AbrirPilaColumnas());
     std::mt19937 azar(20240501);
     std::vector<Problema> problemas = {
-        {3, 1, Normales, 0, 1}, {3, 2, Ficticias, 5, 2},  {3, 3, Normales, 0, 3},    {200, 12, Normales, 0, 4},
-        {5, 7, Normales, 0, 5}, {200, 12, Mezcla, 17, 6}, {60, 3, Repetidas, 0, 7},  {4000, 3, Normales, 0, 8},
-        {30, 17, Normales, 0, 9}, {30, 18, Normales, 0, 10},
+        {3, 1, Normales, 0, 1},    {3, 2, Ficticias, 5, 2},   {3, 3, Normales, 0, 3},
+        {200, 12, Normales, 0, 4}, {5, 7, Normales, 0, 5},    {200, 12, Mezcla, 17, 6},
+        {60, 3, Repetidas, 0, 7},  {4000, 3, Normales, 0, 8}, {30, 17, Normales, 0, 9},
+        {30, 18, Normales, 0, 10},
     };
     for (int i = 0; i < 40; ++i) {
         const int k = 1 + static_cast<int>(azar() % 12);
-        problemas.push_back({k + 2 + static_cast<int>(azar() % 180), k, i % NumClases, static_cast<int>(azar() % 40),
-                             static_cast<unsigned>(azar())});
+        problemas.push_back({k + 2 + static_cast<int>(azar() % 180), k, i % NumClases,
+                             static_cast<int>(azar() % 40), static_cast<unsigned>(azar())});
     }
     for (const Problema &p : problemas) {
-        SCOPED_TRACE(Formatear("n %d k %d clase %d primera %d semilla %u", p.n, p.k, p.clase, p.primera, p.semilla));
+        SCOPED_TRACE(
+            Formatear("n %d k %d clase %d primera %d semilla %u", p.n, p.k, p.clase, p.primera, p.semilla));
         CompararProblema(p);
     }
     CerrarPilaColumnas();

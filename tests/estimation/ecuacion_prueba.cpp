@@ -63,7 +63,7 @@ INSTANTIATE_TEST_SUITE_P(Formas, Ecuacion,
                                          Estimada{"MC Y 1 X(-1) Z(1)", "1|X(-1)|Z(1)|", 2, 18, 1, 18, 1},
                                          Estimada{"MC Y 1 X ( - 3 ) Z", "1|X(-3)|Z|", 2, 17, 3, 19, 1},
                                          Estimada{"MC Y 1 X Z(2.9)", "1|X|Z(2)|", 2, 18, 0, 17, 2},
-                                         Estimada{"MC Y 1 X Z[3]", "1|X|Z[3]|", 2, 20, 0, 19, -1},
+                                         Estimada{"MC Y X Z[3]", "X|Z[3]|", 2, 20, 0, 19, -1},
                                          Estimada{"MC Y Z[ 3 ] X", "Z[3]|X|", 2, 20, 0, 19, -1}));
 
 TEST(EcuacionMC, ElDummyDeUnPeriodoSeGeneraYDesaparece) {
@@ -82,15 +82,14 @@ TEST(EcuacionMC, RetardosPorSusValores) {
     ASSERT_TRUE(Procesar("SER W = X(-2)\nSER V = Z(1)\nMUEST 3 19\nMC Y 1 W V"));
     int f = 0, c = 0;
     const std::vector<double> beta = MatrizDe("_BETA", f, c), res = ValoresDe("_RES", 20);
-    Muestra.LimiteInicial.clear();
-    Muestra.LimiteFinal.clear();
-    LimpiarLimitesMuestra();
-    ASSERT_TRUE(Procesar("MC Y 1 X(-2) Z(1)"));
+    ASSERT_TRUE(Procesar("MUEST 1 20\nMC Y 1 X(-2) Z(1)"));
     EXPECT_EQ(MatrizDe("_BETA", f, c), beta);
     const std::vector<double> otros = ValoresDe("_RES", 20);
     for (std::size_t i = 0; i < 20; ++i) {
         EXPECT_EQ(std::isnan(otros[i]), i < 2 || i > 18);
-        if (!std::isnan(otros[i])) EXPECT_EQ(otros[i], res[i]);
+        if (!std::isnan(otros[i])) {
+            EXPECT_EQ(otros[i], res[i]);
+        }
     }
 }
 
@@ -111,10 +110,10 @@ TEST(EcuacionMC, OpcionesDeCovarianza) {
         const char *sentencia;
         int tipo, retardos;
     } Casos[] = {
-        {"MC (CN) Y 1 X", 1, 1},    {"MC (CH) Y 1 X", 2, 1},      {"MC (CA 3) Y 1 X", 3, 3},
-        {"MC (CA3) Y 1 X", 3, 3},   {"MC (CA 2.7 ) Y 1 X", 3, 2}, {"MC (CA -4) Y 1 X", 3, 0},
-        {"MC (CA) Y 1 X", 3, 0},    {"MC (CA 0) Y 1 X", 3, 0},    {"MC (CA 99999999999) Y 1 X", 3, 2147483647},
-        {"MC ( CH ) Y 1 X", 2, 1},  {"MC Y 1 X", 1, 1},
+        {"MC (CN) Y 1 X", 1, 1},   {"MC (CH) Y 1 X", 2, 1},      {"MC (CA 3) Y 1 X", 3, 3},
+        {"MC (CA3) Y 1 X", 3, 3},  {"MC (CA 2.7 ) Y 1 X", 3, 2}, {"MC (CA -4) Y 1 X", 3, 0},
+        {"MC (CA) Y 1 X", 3, 0},   {"MC (CA 0) Y 1 X", 3, 0},    {"MC (CA 99999999999) Y 1 X", 3, 2147483647},
+        {"MC ( CH ) Y 1 X", 2, 1}, {"MC Y 1 X", 1, 1},
     };
     for (const auto &c : Casos) {
         SCOPED_TRACE(c.sentencia);
@@ -123,8 +122,7 @@ TEST(EcuacionMC, OpcionesDeCovarianza) {
         EXPECT_EQ(UltimaRegresion.TipoCovarianza, c.tipo);
         EXPECT_EQ(UltimaRegresion.RetardosCovarianza, c.retardos);
         // The consistent matrices are still to come.
-        if (c.tipo == 1) EXPECT_EQ(TextosDeCajas(), Textos{});
-        else EXPECT_EQ(TextosDeCajas(), Textos{"No ensamblada"});
+        EXPECT_EQ(TextosDeCajas(), c.tipo == 1 ? Textos{} : Textos{"No ensamblada"});
     }
 }
 

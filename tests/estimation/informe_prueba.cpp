@@ -41,8 +41,8 @@ TEST(NumeroCampo, Ancho) {
         {0, 17.0, 3, " 17"},
         {0, 17.0, 2, "17"},
         {0, 1234.0, 3, "12"},
-        {4, -12345.678, 10, "-12345.67"},       // one more than the field: nine characters
-        {4, 12345.678, 10, "12345.6780"},       // just the field
+        {4, -12345.678, 10, "-12345.67"},          // one more than the field: nine characters
+        {4, 12345.678, 10, "12345.6780"},          // just the field
         {6, 12345678.123456, 14, "12345678.1234"}, // fifteen characters are cut to thirteen
         {6, 1234567.123456, 14, "1234567.123456"},
         {7, 0.5, 12, "   0.5000000"},
@@ -107,8 +107,8 @@ TEST(Informe, Klein) {
     linea("Error Típico Regresión:", std::sqrt(s2), "Suma Cuadrados Resid.:", scr);
     linea("R Cuadrado            :", r2, "R Cuadrado Corregido :", 1 - (1 - r2) * (n - 1) / (n - k));
     linea("Logaritmo de Verosim. :", lv, "Criterio AIC         :", -2 * (lv - k) / n);
-    linea("Estadístico F(  3, 17):", f, "Prob > F             :",
-          boost::math::cdf(boost::math::complement(F, static_cast<double>(f))));
+    linea("Estadístico F(  3, 17):", f,
+          "Prob > F             :", boost::math::cdf(boost::math::complement(F, static_cast<double>(f))));
     linea("Estadís. Durbin-Watson:", dw, "Est. Autocorrelación :", 1 - dw / 2);
     EXPECT_EQ(r.lineas, esperadas);
 
@@ -150,7 +150,8 @@ TEST(Informe, LaListaSeDetieneYLaTablaNo) {
     std::string sentencia = "MC Y 1";
     for (int i = 0; i < 8; ++i) {
         std::vector<double> v(20);
-        for (std::size_t j = 0; j < 20; ++j) v[j] = static_cast<double>((j * j * (static_cast<std::size_t>(i) + 3) + j) % 17);
+        for (std::size_t j = 0; j < 20; ++j)
+            v[j] = static_cast<double>((j * j * (static_cast<std::size_t>(i) + 3) + j) % 17);
         PonerSerie(Formatear("LARGA%03d", i), v);
         sentencia += Formatear(" LARGA%03d", i);
     }
@@ -181,8 +182,8 @@ void DejarResultados(int codigo) {
     PonerMatriz(NombreFamilia(FamDTE, codigo), {0.5}, 1, 1); // an element behind the end counts as 0.0
     PonerSerie(NombreFamilia(FamDIV, codigo), {3.0, 4.0}, 10);
     PonerSerie(NombreFamilia(FamPROBT, codigo), {0.25, 0.125}, 10);
-    for (const Familias f : {FamMVD, FamDTVD, FamDTR, FamDCR, FamRC, FamRCC, FamLV, FamAIC, FamFORLA, FamESTF, FamDW,
-                             FamEA1, FamANREG, FamNORE})
+    for (const Familias f : {FamMVD, FamDTVD, FamDTR, FamDCR, FamRC, FamRCC, FamLV, FamAIC, FamFORLA, FamESTF,
+                             FamDW, FamEA1, FamANREG, FamNORE})
         PonerEscalar(nullptr, NombreFamilia(f, codigo), 2.0);
     PonerCampo(UltimaRegresion.CodigoDependiente, "Y", AnchoCodigo);
     UltimaRegresion.CodigosRegresores = {"1", "X"};
@@ -219,33 +220,41 @@ TEST(Informe, BloquesDeLosContrastes) {
         Lineas cabecera;
         const char *uno, *otro;
     } Casos[] = {
-        {13, nullptr,
+        {13,
+         nullptr,
          {{0, "Variable Dep.: Y            "},
           {0, "Regresores   : 1,X                                         "},
-          {0, "Muestra      : 11 - 20              Nº Observaciones     : 20        "},
+          {0, "Muestra      :   11 -   20          Nº Observaciones     : 20        "},
           {0, "Variable de ponderación :LN(X)                            "},
           {0, std::string(70, ' ')}},
-         "              1", "              X"},
-        {11, &parte,
+         "              1",
+         "              X"},
+        {11,
+         &parte,
          {{3, "                    REGRESION DENOMINADOR                 "},
           {0, "Variable Dep.: Y            "},
           {0, "Regresores   : 1,X                                         "},
           {0, "Muestra Orde.: 3,12                 Nº Observaciones     : 10        "},
           {0, std::string(70, ' ')}},
-         "              1", "              X"},
-        {10, &parte,
+         "              1",
+         "              X"},
+        {10,
+         &parte,
          {{3, "                    REGRESION NUMERADOR                   "},
           {0, "Variable Dep.: Y            "},
           {0, "Regresores   : 1,X                                         "},
           {0, "Muestra Orde.: 3,12                 Nº Observaciones     : 10        "},
           {0, std::string(70, ' ')}},
-         "              1", "              X"},
-        {12, nullptr,
+         "              1",
+         "              X"},
+        {12,
+         nullptr,
          {{0, "Variable Dep.: _RESCUAD  " + std::string(44, ' ')},
           {0, "Regresores   : 1,X*X                                                 "},
-          {0, "Muestra      : 11 - 20              Nº Observaciones     : 20        "},
+          {0, "Muestra      :   11 -   20          Nº Observaciones     : 20        "},
           {0, std::string(70, ' ')}},
-         "1              ", "X*X            "},
+         "1              ",
+         "X*X            "},
     };
     for (const auto &c : Casos) {
         SCOPED_TRACE(c.codigo);
@@ -257,8 +266,10 @@ TEST(Informe, BloquesDeLosContrastes) {
         Lineas esperadas = c.cabecera;
         const int titulo = static_cast<int>(esperadas.size());
         esperadas.emplace_back(2, Titulos);
-        esperadas.emplace_back(1, std::string(c.uno) + "       1.500000       0.500000     3.00       0.2500");
-        esperadas.emplace_back(1, std::string(c.otro) + "      -2.250000       0.000000     4.00       0.1250");
+        esperadas.emplace_back(1,
+                               std::string(c.uno) + "       1.500000       0.500000     3.00       0.2500");
+        esperadas.emplace_back(1,
+                               std::string(c.otro) + "      -2.250000       0.000000     4.00       0.1250");
         esperadas.insert(esperadas.end(), Estadisticos.begin(), Estadisticos.end());
         EXPECT_EQ(Leer(texto), esperadas);
         ASSERT_EQ(tablas.size(), 1u);
@@ -312,8 +323,8 @@ TEST(Informe, LosContrastesNoSeMuestranTrasPonderar) {
         UltimaRegresion.MetodoRegresion = OrdenMCP;
         MostrarRegresion(nullptr, codigo);
         ASSERT_EQ(Prueba.cajas.size(), 1u);
-        EXPECT_EQ(Prueba.cajas[0],
-                  (CajaVista{"Proceso cancelado", "Utilice MC ordinarios", IconoInformacion, BotonesAceptar}));
+        EXPECT_EQ(Prueba.cajas[0], (CajaVista{"Proceso cancelado", "Utilice MC ordinarios", IconoInformacion,
+                                              BotonesAceptar}));
         EXPECT_TRUE(Prueba.resultados.empty());
     }
 }

@@ -13,7 +13,9 @@ std::vector<double> Matriz(std::string_view codigo) {
 }
 
 // Nine digits.
-void Iguales9(double valor, double publicado) { EXPECT_NEAR(valor, publicado, std::fabs(publicado) * 5e-10); }
+void Iguales9(double valor, double publicado) {
+    EXPECT_NEAR(valor, publicado, std::fabs(publicado) * 5e-10);
+}
 
 } // namespace
 
@@ -102,12 +104,16 @@ TEST(Formas, LoQueQueda) {
     EmpezarRegresion();
     ASSERT_TRUE(Procesar("MC Y 1 X(-1)"));
     for (const char *m : {"_BETA", "_COV"}) EXPECT_GE(BuscarMatriz(m), 0) << m;
-    for (const char *m : {"_YDEP", "_XIND", "_YAJU1", "_DTE", "_DTE1", "_RESM", "_SCR1", "_TMF2", "_TMF5", "_TMF6"})
+    for (const char *m :
+         {"_YDEP", "_XIND", "_YAJU1", "_DTE", "_DTE1", "_RESM", "_SCR1", "_TMF2", "_TMF5", "_TMF6"})
         EXPECT_EQ(BuscarMatriz(m), -1) << m;
-    for (const char *s : {"_RES", "_YAJUS", "_DTE2", "_BETA2", "_DIV", "_PROBT"}) EXPECT_GE(BuscarSerie(s), 0) << s;
+    for (const char *s : {"_RES", "_YAJUS", "_DTE2", "_BETA2", "_DIV", "_PROBT"})
+        EXPECT_GE(BuscarSerie(s), 0) << s;
     EXPECT_EQ(BuscarSerie("_TMR1"), -1);
-    for (const char *e : {"_SCR", "_DTR", "_FORLA", "_ESTF", "_NORE", "_NREG", "_DW"}) EXPECT_GE(BuscarEscalar(e), 0) << e;
-    for (const char *e : {"_MTR", "_MVD", "_STVD", "_LV", "_AIC", "_SCVD", "_DTVD", "_DCR", "_RC", "_RCC", "_EA1", "_ANREG"})
+    for (const char *e : {"_SCR", "_DTR", "_FORLA", "_ESTF", "_NORE", "_NREG", "_DW"})
+        EXPECT_GE(BuscarEscalar(e), 0) << e;
+    for (const char *e :
+         {"_MTR", "_MVD", "_STVD", "_LV", "_AIC", "_SCVD", "_DTVD", "_DCR", "_RC", "_RCC", "_EA1", "_ANREG"})
         EXPECT_EQ(BuscarEscalar(e), -1) << e;
     for (int m = 0; m < MaxMatrices; ++m) EXPECT_NE(TablaMatrices.EstadoBloque[m], BloqueFijado);
     EXPECT_EQ(ArchivoTrabajo.NumSeries, 4 + 6);

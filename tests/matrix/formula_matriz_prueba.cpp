@@ -12,6 +12,13 @@ std::string Repetido(std::string_view texto, int veces) {
     return r;
 }
 
+// A box, and behind it those of the functions that enclose the place.
+std::vector<std::string> TrasCajas(const char *primera, std::size_t funciones) {
+    std::vector<std::string> r(funciones + 1, "Dimensiones matrices no válidas. Pto 80");
+    r[0] = primera;
+    return r;
+}
+
 // ----- What formulas give
 
 struct CasoValor {
@@ -79,7 +86,7 @@ const std::vector<CasoValor> Valores = {
     {"(A, B) + A", {2, 2, {2, 4, 6, 8}}},
     // Parentheses, up to eleven levels below the first.
     {"(((((((((((A)))))))))))", {2, 2, {1, 2, 3, 4}}},
-    {"A * (B * (A + B))", {2, 2, {226, 280, 498, 616}}},
+    {"A * (B * (A + B))", {2, 2, {334, 416, 758, 944}}},
 };
 
 TEST_F(ConMatrices, Valores) {
@@ -137,9 +144,11 @@ const std::vector<CasoFallo> Fallos = {
     {"NOBS", {"Secuencia no válida. Pto 67"}},
     {"A - (B - 3)", {"Secuencia no válida. Pto 67"}}, // two matrices are left
     // The table of operators.
-    {"A * ()", {"Secuencia no correcta. Pto 13"}},
+    {"* ()", {"Secuencia no correcta. Pto 13"}},
+    {"A * ()", {"Secuencia no correcta. Pto 14"}},
     {"*A", {"Secuencia no correcta. Pto 14"}},
     {"2 * DIAG(V)", {"Secuencia no correcta. Pto 14"}}, // its spare kind makes the scalar look like a matrix
+    {"TRAZA(DIAG(V)) * A", {"Secuencia no correcta. Pto 14"}},
     {"() * A", {"Secuencia no correcta. Pto 14"}},
     {"A * X", {"Dimensiones matrices no válidas. Pto 15"}},
     {"+A", {"Secuencia no correcta. Pto 16"}},
@@ -173,14 +182,9 @@ const std::vector<CasoFallo> Fallos = {
     {Repetido("(", 12) + "A" + Repetido(")", 12), {"Excesivos paréntesis. Pto 12"}},
     {Repetido("(", 10000) + "A" + Repetido(")", 10000), {"Excesivos paréntesis. Pto 12"}},
     {Repetido("(", 10000), {"Excesivos paréntesis. Pto 12"}},
-    {Repetido("DET(", 12) + "A" + Repetido(")", 12),
-     {"Excesivos paréntesis. Pto 12", "Dimensiones matrices no válidas. Pto 80",
-      "Dimensiones matrices no válidas. Pto 80", "Dimensiones matrices no válidas. Pto 80",
-      "Dimensiones matrices no válidas. Pto 80", "Dimensiones matrices no válidas. Pto 80",
-      "Dimensiones matrices no válidas. Pto 80", "Dimensiones matrices no válidas. Pto 80",
-      "Dimensiones matrices no válidas. Pto 80", "Dimensiones matrices no válidas. Pto 80",
-      "Dimensiones matrices no válidas. Pto 80", "Dimensiones matrices no válidas. Pto 80",
-      "Dimensiones matrices no válidas. Pto 80"}},
+    // A function adds a box of its own to what its argument failed with.
+    {Repetido("RCMT(", 12) + "A" + Repetido(")", 12), TrasCajas("Excesivos paréntesis. Pto 12", 12)},
+    {Repetido("DET(", 12) + "A" + Repetido(")", 12), TrasCajas("Error en secuencia. Pto 71", 10)},
     // Signs.
     {"X$", {"Dimensiones matrices No válidas. Pto 40"}},
     {"UNOS18$", {"Demasiados regresores", "Error en inversa. Pto 401"}},

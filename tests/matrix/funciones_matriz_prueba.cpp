@@ -42,7 +42,6 @@ const CasoEscalar Escalares[] = {
     {"SUMA(V)'", 30},
     // One within the other.
     {"SUMA(RCMT(A * 4))", 2 * (1 + 1.41421356237309504880 + 1.73205080756887729353 + 2)},
-    {"TRAZA(DIAG(V))", 30},
 };
 
 TEST_F(ConMatrices, FuncionesEscalares) {

@@ -37,7 +37,9 @@ std::string EscalaresQueQuedan() {
     return Lista(r);
 }
 
-void Empezar() { EmpezarConDatos(TipoSinPeriodicidad, ""); }
+void Empezar() {
+    EmpezarConDatos(TipoSinPeriodicidad, "");
+}
 
 } // namespace
 
@@ -47,14 +49,16 @@ TEST(NombreFamilia, BaseYSufijoPorCodigo) {
         int codigo;
         const char *nombre;
     } Casos[] = {
-        {FamBETA, 8, "_BETA"},   {FamBETA, 13, "_BETA"},   {FamBETA, 9, "_BETAR"},   {FamRES, 10, "_RESGN"},
-        {FamRES, 11, "_RESGD"},  {FamPROBT, 12, "_PROBTW"}, {FamNREG, 8, "_NREG"},   {FamANREG, 9, "_ANREGR"},
-        {FamSCR, 10, "_SCRGN"},  {FamDTR, 11, "_DTRGD"},   {FamDIV, 12, "_DIVW"},    {FamMTR, 9, "_MTRR"},
-        {FamCOV, 9, "_COVR"},    {FamDTE, 9, "_DTER"},     {FamMVD, 9, "_MVDR"},     {FamSTVD, 9, "_STVDR"},
-        {FamLV, 9, "_LVR"},      {FamAIC, 9, "_AICR"},     {FamSCVD, 9, "_SCVDR"},   {FamDTVD, 9, "_DTVDR"},
-        {FamDCR, 9, "_DCRR"},    {FamRC, 9, "_RCR"},       {FamDW, 9, "_DWR"},       {FamRCC, 9, "_RCCR"},
-        {FamEA1, 9, "_EA1R"},    {FamNORE, 9, "_NORER"},   {FamFORLA, 9, "_FORLAR"}, {FamESTF, 9, "_ESTFR"},
-        {FamBETA, 104, "_BETA"}, {FamBETA, 0, "_BETA"},
+        {FamBETA, 8, "_BETA"},  {FamBETA, 13, "_BETA"},   {FamBETA, 9, "_BETAR"},
+        {FamRES, 10, "_RESGN"}, {FamRES, 11, "_RESGD"},   {FamPROBT, 12, "_PROBTW"},
+        {FamNREG, 8, "_NREG"},  {FamANREG, 9, "_ANREGR"}, {FamSCR, 10, "_SCRGN"},
+        {FamDTR, 11, "_DTRGD"}, {FamDIV, 12, "_DIVW"},    {FamMTR, 9, "_MTRR"},
+        {FamCOV, 9, "_COVR"},   {FamDTE, 9, "_DTER"},     {FamMVD, 9, "_MVDR"},
+        {FamSTVD, 9, "_STVDR"}, {FamLV, 9, "_LVR"},       {FamAIC, 9, "_AICR"},
+        {FamSCVD, 9, "_SCVDR"}, {FamDTVD, 9, "_DTVDR"},   {FamDCR, 9, "_DCRR"},
+        {FamRC, 9, "_RCR"},     {FamDW, 9, "_DWR"},       {FamRCC, 9, "_RCCR"},
+        {FamEA1, 9, "_EA1R"},   {FamNORE, 9, "_NORER"},   {FamFORLA, 9, "_FORLAR"},
+        {FamESTF, 9, "_ESTFR"}, {FamBETA, 104, "_BETA"},  {FamBETA, 0, "_BETA"},
     };
     for (const auto &c : Casos) EXPECT_STREQ(NombreFamilia(c.familia, c.codigo), c.nombre) << c.codigo;
 }
@@ -66,17 +70,19 @@ TEST(BorrarTemporales, NombresPorCodigo) {
         const char *quedanMatrices, *quedanEscalares, *quedanSeries;
     } Casos[] = {
         {8,
-         {"_BETA", "_YDEP", "_XIND", "_YAJU1", "_DTE", "_DTE1", "_RESM", "_SCR1", "_COV", "_TMF2", "_TMF3", "_TMF4",
-          "_TMF5", "_TMF6", "_S0", "_S2", "_S3", "_S8", "_S5", "_S9", "_S7", "_S6", "_TMS2", "_TMS3", "_TMS4"},
-         {"_MTR", "_MVD", "_STVD", "_LV", "_AIC", "_SCVD", "_DTVD", "_DCR", "_RC", "_RCC", "_EA1", "_ANREG", "_TMF7",
-          "_NREG", "_SCR", "_NORE", "_FORLA", "_DTR", "_ESTF", "_DW"},
+         {"_BETA", "_YDEP", "_XIND", "_YAJU1", "_DTE",  "_DTE1", "_RESM", "_SCR1", "_COV",
+          "_TMF2", "_TMF3", "_TMF4", "_TMF5",  "_TMF6", "_S0",   "_S2",   "_S3",   "_S8",
+          "_S5",   "_S9",   "_S7",   "_S6",    "_TMS2", "_TMS3", "_TMS4"},
+         {"_MTR", "_MVD",   "_STVD", "_LV",   "_AIC", "_SCVD", "_DTVD",  "_DCR", "_RC",   "_RCC",
+          "_EA1", "_ANREG", "_TMF7", "_NREG", "_SCR", "_NORE", "_FORLA", "_DTR", "_ESTF", "_DW"},
          {"Y", "_RES", "_RESCUAD", "_TMR1", "_TMR2", "_TMR3", "_DTE2", "_DIV", "_PROBT", "_YAJUS", "_BETA2"},
          "_BETA _COV ",
          "_NREG _SCR _NORE _FORLA _DTR _ESTF _DW ",
          "Y _RES _TMR3 _DTE2 _DIV _PROBT _YAJUS _BETA2 "},
         {9,
          {"_BETA", "_BETAR", "_COVR", "_COV", "_DTER", "_DTER1"},
-         {"_SCR", "_SCRR", "_NREGR", "_NORER", "_FORLAR", "_DTRR", "_ESTFR", "_DWR", "_EST5", "_MTRR", "_TMF7"},
+         {"_SCR", "_SCRR", "_NREGR", "_NORER", "_FORLAR", "_DTRR", "_ESTFR", "_DWR", "_EST5", "_MTRR",
+          "_TMF7"},
          {"_RES", "_RESR", "_DTER", "_DTER2", "_DIVR", "_PROBTR", "_YAJUS", "_BETA2", "_TMR1"},
          "_BETA _COV ",
          "_SCR ",
@@ -137,7 +143,8 @@ TEST(BorrarTemporales, SinTemporalesNadaCambia) {
     PonerSerie("Y", {1, 2, 3});
     PonerMatriz("M", {1, 2}, 1, 2);
     PonerEscalar(nullptr, "E", 4.0);
-    for (const int codigo : {8, 9, 10, 11, 12, 13, 104, 0, 7, 14, -1, 1000}) BorrarTemporales(nullptr, codigo);
+    for (const int codigo : {8, 9, 10, 11, 12, 13, 104, 0, 7, 14, -1, 1000})
+        BorrarTemporales(nullptr, codigo);
     EXPECT_EQ(SeriesQueQuedan(), "Y ");
     EXPECT_EQ(MatricesQueQuedan(), "M ");
     EXPECT_EQ(EscalaresQueQuedan(), "E ");

@@ -1,0 +1,72 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds Tabira and passes its tests, plain and under the sanitizers.
+#   ./probar.sh            the tests
+#   ./probar.sh --fuzz     the fuzzers, 30 seconds each
+#   ./probar.sh --estilo   clang-format and clang-tidy over the sources
+#   ./probar.sh --bench    the benchmarks
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")"
+source guiones/preparar.sh
+
+pruebas() {
+    preparar_compilacion libgtest-dev nlohmann-json3-dev locales
+    # A Spanish locale for the tests that need one, beside the build and not in the system.
+    mkdir -p build/locale
+    [ -d build/locale/es_ES.UTF-8 ] || localedef -i es_ES -f UTF-8 build/locale/es_ES.UTF-8 ||
+        rendirse "no se pudo generar la configuración regional es_ES.UTF-8"
+    local preset salida pasadas=0 fallidas=0 estado=0
+    salida=$(mktemp)
+    for preset in desarrollo saneadores; do
+        compilar "$preset"
+        decir "Pasando las pruebas ($preset)"
+        ctest --preset "$preset" -j 2 --progress 2>&1 | tee "$salida" | grep -vE '^\[[0-9]+/[0-9]+\]|^ *$' || true
+        # "100% tests passed, 0 tests failed out of 321"
+        local cuenta
+        cuenta=$(sed -nE 's/.*tests passed, ([0-9]+) tests failed out of ([0-9]+).*/\1 \2/p' "$salida" | tail -n 1)
+        [ -n "$cuenta" ] || rendirse "las pruebas ($preset) no llegaron a su fin"
+        fallidas=$((fallidas + ${cuenta% *}))
+        pasadas=$((pasadas + ${cuenta#* } - ${cuenta% *}))
+    done
+    rm -f "$salida"
+    [ "$fallidas" -eq 0 ] || estado=1
+    printf '%d passed, %d failed\n' "$pasadas" "$fallidas"
+    exit "$estado"
+}
+
+fuzz() {
+    preparar_compilacion
+    instalar clang libclang-rt-dev
+    compilar fuzz
+    local objetivo
+    for objetivo in sentencias ascii; do
+        decir "30 segundos de entradas al azar: $objetivo"
+        mkdir -p "build/fuzz/corpus_$objetivo"
+        UBSAN_OPTIONS=print_stacktrace=1 "build/fuzz/tests/fuzz/fuzz_$objetivo" -max_total_time=30 -timeout=10 \
+            -rss_limit_mb=2048 -verbosity=0 -print_final_stats=1 -artifact_prefix=build/fuzz/ \
+            "build/fuzz/corpus_$objetivo" tests/fuzz/semillas_"$objetivo" ||
+            rendirse "fuzz_$objetivo encontró un fallo: la entrada está en build/fuzz/"
+    done
+}
+
+estilo() {
+    preparar_compilacion clang-format clang-tidy libgtest-dev nlohmann-json3-dev
+    cmake --preset desarrollo >/dev/null
+    decir "clang-format"
+    git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror || rendirse "hay archivos sin dar formato"
+    decir "clang-tidy"
+    git ls-files 'src/*.cpp' | xargs -P 2 -n 4 clang-tidy -p build/desarrollo --quiet 2>/dev/null ||
+        rendirse "clang-tidy tiene reparos"
+    decir "Sin reparos"
+}
+
+bench() {
+    preparar_compilacion libbenchmark-dev libgtest-dev
+    compilar bench
+    build/bench/bench/bench_tabira --benchmark_min_time=0.5
+}
+
+case "${1:-}" in
+"") pruebas ;;
+--fuzz | --estilo | --bench) "${1#--}" ;;
+*) rendirse "opción desconocida: $1 (--fuzz, --estilo, --bench, o ninguna)" ;;
+esac

@@ -1,0 +1,295 @@
+// The actions of tabira-lote. Each one calls the routine that the menu or the statement calls; it computes nothing.
+#include "lote/acciones.h"
+
+#include "language/lote_sentencias.h"
+#include "lote/corrida.h"
+#include "lote/sucesos.h"
+#include "lote/tipo.h"
+#include "platform/archivos.h"
+#include "platform/texto.h"
+#include "shell/listas.h"
+#include "store/archivo.h"
+#include "store/periodos.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <string_view>
+
+EstadoDeCorrida Corrida;
+
+namespace {
+
+// One action of the command line, read and ready to be carried out.
+struct Accion;
+
+// What an action does. False when it failed or was refused.
+using RutinaDeAccion = bool (*)(const Accion &accion);
+
+// Reads the value of an action. False when it can't be read.
+using LectorDeValor = bool (*)(const std::string &valor, Accion &accion);
+
+struct Accion {
+    RutinaDeAccion rutina;
+    std::string valor;
+    PropuestaTipoDatos tipo;
+    FormatoAscii formato;
+    int numero;           // a choice or a count, by action
+    std::string elemento; // behind the first ":" of the value, in the characters of the core
+};
+
+void Quejarse(const std::string &utf8) { std::fprintf(stderr, "tabira-lote: %s\n", utf8.c_str()); }
+
+// What a menu command refuses while no data type was chosen.
+bool HayTipoDeDatos() {
+    if (ArchivoTrabajo.TipoDatos < SinTipoDatos) return true;
+    MostrarMensaje(nullptr, "Tipo de datos no válidos"_w);
+    return false;
+}
+
+// ---------------------------------------------------------------------------------------------------------------
+// Readers of values
+
+constexpr std::string_view NombresLista[] = {"series", "matrices", "escalares"};
+constexpr std::string_view NombresElemento[] = {"serie", "matriz", "escalar"};
+constexpr std::string_view NombresRespuesta[] = {"si", "no", "cancelar"};
+
+template <std::size_t N> bool Elegir(const std::string_view (&nombres)[N], std::string_view palabra, int &cual) {
+    const auto *p = std::find(std::begin(nombres), std::end(nombres), palabra);
+    cual = static_cast<int>(p - std::begin(nombres));
+    return p != std::end(nombres);
+}
+
+bool LeerTexto(const std::string &, Accion &) { return true; }
+
+bool LeerTipoDeDatos(const std::string &valor, Accion &accion) {
+    return LeerTipo(Texto1252DeUtf8(valor), accion.tipo);
+}
+
+bool LeerFormatoDeRegistro(const std::string &valor, Accion &accion) {
+    return LeerFormato(Texto1252DeUtf8(valor), accion.formato);
+}
+
+bool LeerRespuesta(const std::string &valor, Accion &accion) { return Elegir(NombresRespuesta, valor, accion.numero); }
+
+bool LeerDecimales(const std::string &valor, Accion &accion) {
+    accion.numero = valor.size() == 1 ? valor[0] - '0' : -1;
+    return accion.numero >= 0 && accion.numero <= 6;
+}
+
+bool LeerRelacion(const std::string &valor, Accion &accion) { return Elegir(NombresLista, valor, accion.numero); }
+
+bool LeerElemento(const std::string &valor, Accion &accion) {
+    const std::size_t dosPuntos = valor.find(':');
+    if (dosPuntos == std::string::npos || dosPuntos + 1 == valor.size()) return false;
+    accion.elemento = Texto1252DeUtf8(std::string_view(valor).substr(dosPuntos + 1));
+    return Elegir(NombresElemento, std::string_view(valor).substr(0, dosPuntos), accion.numero);
+}
+
+// ---------------------------------------------------------------------------------------------------------------
+// The actions
+
+void MostrarUso();
+
+bool HacerAyuda(const Accion &) {
+    MostrarUso();
+    return true;
+}
+
+bool HacerJson(const Accion &) {
+    Corrida.json = true;
+    return true;
+}
+
+bool HacerSeguir(const Accion &) {
+    Corrida.seguir = true;
+    return true;
+}
+
+bool HacerRespuesta(const Accion &accion) {
+    Corrida.respuesta = static_cast<RespuestasDeCorrida>(accion.numero);
+    return true;
+}
+
+bool HacerTipo(const Accion &accion) { return AceptarTipoDatos(nullptr, accion.tipo) == 1; }
+
+bool HacerFormato(const Accion &accion) {
+    Corrida.formato = accion.formato;
+    return true;
+}
+
+bool HacerImportar(const Accion &accion) {
+    ActualizarMuestra();
+    return EjecutarIntercambio(nullptr, Corrida.formato, true, accion.valor);
+}
+
+bool HacerExportar(const Accion &accion) {
+    ActualizarMuestra();
+    return EjecutarIntercambio(nullptr, Corrida.formato, false, accion.valor);
+}
+
+bool HacerProcesar(const Accion &accion) {
+    std::string bytes;
+    const bool leido = accion.valor == "-" ? LeerEntradaEstandar(bytes) : LeerArchivo(accion.valor, bytes);
+    if (!leido) {
+        Quejarse("no se puede leer '" + accion.valor + "'");
+        return false;
+    }
+    if (!HayTipoDeDatos()) return false;
+    ActualizarMuestra();
+    std::string texto = Texto1252DeArchivo(bytes);
+    ProcesarLote(nullptr, reinterpret_cast<ControlTexto *>(&texto), 0, {}, Muestra.InicioMuestra, Muestra.FinMuestra);
+    return Lote.detenido == 0;
+}
+
+bool HacerSentencia(const Accion &accion) {
+    ActualizarMuestra();
+    ProcesarLote(nullptr, nullptr, 246, Texto1252DeUtf8(accion.valor), Muestra.InicioMuestra, Muestra.FinMuestra);
+    return Lote.detenido == 0;
+}
+
+bool HacerDecimales(const Accion &accion) {
+    Lote.DecimalesSalida = accion.numero;
+    return true;
+}
+
+bool HacerRelacion(const Accion &accion) {
+    ActualizarMuestra();
+    const auto lista = static_cast<ListasDeElementos>(accion.numero);
+    SucesoLineas(SalidaRelacion, TituloLista(lista), LineasLista(lista));
+    return true;
+}
+
+bool HacerBorrar(const Accion &accion) {
+    ActualizarMuestra();
+    if (BorrarElemento(nullptr, static_cast<ListasDeElementos>(accion.numero), accion.elemento)) return true;
+    Quejarse("no se ha borrado '" + accion.valor + "'");
+    return false;
+}
+
+bool HacerMuestraActual(const Accion &) {
+    if (!HayTipoDeDatos()) return false;
+    ActualizarMuestra();
+    SucesoLineas(SalidaMuestra, "Muestra actual", LineasMuestraActual());
+    return true;
+}
+
+bool HacerVolcado(const Accion &) {
+    SucesoVolcado();
+    return true;
+}
+
+// ---------------------------------------------------------------------------------------------------------------
+// The table of actions. Without a routine an action is announced and not available yet.
+
+struct FilaDeAccion {
+    std::string_view nombre;
+    const char *valor; // how the usage names the value, null without one
+    LectorDeValor leer;
+    RutinaDeAccion rutina;
+    const char *explicacion; // UTF-8, for the usage
+};
+
+constexpr FilaDeAccion TablaAcciones[] = {
+    {"--ayuda", nullptr, nullptr, HacerAyuda, "muestra este texto"},
+    {"--json", nullptr, nullptr, HacerJson, "cada suceso, un objeto JSON en una línea"},
+    {"--seguir", nullptr, nullptr, HacerSeguir, "una acción que falla no termina la ejecución"},
+    {"--respuesta", "si|no|cancelar", LeerRespuesta, HacerRespuesta, "respuesta a las preguntas que siguen"},
+    {"--tipo", "TIPO", LeerTipoDeDatos, HacerTipo, "elige el tipo de datos: sin, anual:1990:2005, panel:..."},
+    {"--formato", "F", LeerFormatoDeRegistro, HacerFormato, "formato de registro: variable:OP,... o fijo:..."},
+    {"--importar", "ARCHIVO", LeerTexto, HacerImportar, "importa series de un archivo ASCII"},
+    {"--exportar", "ARCHIVO", LeerTexto, HacerExportar, "exporta las series a un archivo ASCII"},
+    {"--procesar", "ARCHIVO", LeerTexto, HacerProcesar, "procesa un archivo de sentencias (-: entrada estándar)"},
+    {"--sentencia", "TEXTO", LeerTexto, HacerSentencia, "ejecuta una sentencia"},
+    {"--decimales", "N", LeerDecimales, HacerDecimales, "decimales de las salidas, de 0 a 6"},
+    {"--relacion", "series|matrices|escalares", LeerRelacion, HacerRelacion, "lista los elementos"},
+    {"--borrar", "serie:X|matriz:M|escalar:E", LeerElemento, HacerBorrar, "borra un elemento"},
+    {"--muestra-actual", nullptr, nullptr, HacerMuestraActual, "muestra la muestra en curso"},
+    {"--volcado", nullptr, nullptr, HacerVolcado, "muestra el contenido del archivo de trabajo"},
+    {"--abrir", "ARCHIVO", nullptr, nullptr, nullptr},
+    {"--guardar", "ARCHIVO", nullptr, nullptr, nullptr},
+    {"--ecuacion", "CODIGO=TEXTO", nullptr, nullptr, nullptr},
+    {"--estadisticos", "X,Y,...", nullptr, nullptr, nullptr},
+    {"--normalidad", "X", nullptr, nullptr, nullptr},
+    {"--fac", "X:N", nullptr, nullptr, nullptr},
+    {"--facp", "X:N", nullptr, nullptr, nullptr},
+    {"--prediccion", "INICIO:FIN", nullptr, nullptr, nullptr},
+    {"--transformar", "X:DESTINO", nullptr, nullptr, nullptr},
+    {"--histograma", "X", nullptr, nullptr, nullptr},
+    {"--grafico", "G", nullptr, nullptr, nullptr},
+    {"--listado", "L", nullptr, nullptr, nullptr},
+    {"--ultima-regresion", nullptr, nullptr, nullptr, nullptr},
+    {"--ordenar", "X", nullptr, nullptr, nullptr},
+    {"--eliminar-observacion", "N", nullptr, nullptr, nullptr},
+    {"--imprimir", "F.pdf", nullptr, nullptr, nullptr},
+    {"--imprimir-salidas", nullptr, nullptr, nullptr, nullptr},
+    {"--graficos", "DIR", nullptr, nullptr, nullptr},
+};
+
+void MostrarUso() {
+    // With events in JSON standard output belongs to them alone.
+    std::FILE *f = Corrida.json ? stderr : stdout;
+    std::fputs("Uso: tabira-lote [ACCIÓN]...\n\nTabira sin ventanas. Las acciones se ejecutan en el orden en que están.\n\n", f);
+    for (const FilaDeAccion &fila : TablaAcciones) {
+        if (fila.rutina == nullptr) continue;
+        std::string izquierda(fila.nombre);
+        if (fila.valor != nullptr) izquierda += std::string(" ") + fila.valor;
+        std::fprintf(f, "  %-38s %s\n", izquierda.c_str(), fila.explicacion);
+    }
+    std::fputs("\nEstado de salida: 0, todo se ejecutó; 1, algo falló o fue rechazado; 2, línea de órdenes incorrecta.\n", f);
+}
+
+// Reads the whole command line into `acciones`, or says in `queja` what is wrong with it.
+bool LeerLinea(const std::vector<std::string> &argumentos, std::vector<Accion> &acciones, std::string &queja) {
+    for (std::size_t i = 0; i < argumentos.size(); ++i) {
+        const std::string &nombre = argumentos[i];
+        const auto *fila = std::find_if(std::begin(TablaAcciones), std::end(TablaAcciones),
+                                        [&](const FilaDeAccion &f) { return f.nombre == nombre; });
+        if (fila == std::end(TablaAcciones)) {
+            queja = "acción desconocida: '" + nombre + "' (--ayuda las muestra)";
+            return false;
+        }
+        if (fila->rutina == nullptr) {
+            queja = "la acción " + nombre + " no está disponible todavía";
+            return false;
+        }
+        Accion &accion = acciones.emplace_back();
+        accion.rutina = fila->rutina;
+        if (fila->valor == nullptr) continue;
+        if (++i == argumentos.size()) {
+            queja = "falta el valor de " + nombre + " (" + fila->valor + ")";
+            return false;
+        }
+        accion.valor = argumentos[i];
+        if (!fila->leer(accion.valor, accion)) {
+            queja = "valor incorrecto de " + nombre + ": '" + accion.valor + "'";
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+int EjecutarLinea(const std::vector<std::string> &argumentos) {
+    Corrida = {};
+    Corrida.formato = FormatoInicial();
+    std::vector<Accion> acciones;
+    std::string queja;
+    int estado = EstadoBien;
+    if (!LeerLinea(argumentos, acciones, queja)) {
+        Quejarse(queja);
+        estado = EstadoMalaLinea;
+        acciones.clear();
+        // Whoever reads events is told the end of this run, too.
+        Corrida.json = std::find(argumentos.begin(), argumentos.end(), "--json") != argumentos.end();
+    } else if (acciones.empty()) {
+        MostrarUso();
+    }
+    for (const Accion &accion : acciones) {
+        if (accion.rutina(accion)) continue;
+        estado = EstadoFallo;
+        if (!Corrida.seguir) break;
+    }
+    SucesoFin(estado);
+    return estado;
+}

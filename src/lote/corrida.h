@@ -1,0 +1,17 @@
+// The state of one run of tabira-lote: how events are printed and how questions are answered.
+#pragma once
+
+#include "lote/formato.h"
+
+#include <string_view>
+
+enum RespuestasDeCorrida { ResponderSi, ResponderNo, ResponderCancelar };
+
+struct EstadoDeCorrida {
+    bool json;                     // events as JSON objects, one a line
+    bool seguir;                   // go on after an action that failed
+    RespuestasDeCorrida respuesta; // to the questions that follow
+    FormatoAscii formato;          // of the imports and exports that follow
+};
+
+extern EstadoDeCorrida Corrida;

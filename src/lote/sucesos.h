@@ -1,0 +1,27 @@
+// The events of a run, printed on standard output: as JSON objects, or as text for people.
+#pragma once
+
+#include "charts/resultado.h"
+#include "platform/plataforma.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// A box that was shown, with the answer that it got.
+void SucesoCaja(std::string_view texto, std::string_view titulo, Icono icono, Botones botones, Respuesta respuesta);
+
+// A result window.
+void SucesoSalida(const SalidaResultado &salida);
+
+// The same for a dialog that shows lines of one kind.
+void SucesoLineas(TiposDeSalida tipo, std::string_view titulo, const std::vector<std::string> &lineas);
+
+// The content of the store.
+void SucesoVolcado();
+
+// The end of the run.
+void SucesoFin(int estado);
+
+// The platform of the batch runner: events out, answers from the command line, nothing to draw on.
+extern const OperacionesPlataforma PlataformaLote;

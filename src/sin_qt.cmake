@@ -1,0 +1,11 @@
+# Refuses a Qt header in the core: everything under src/ but the ventanas/ folders, platform/qt/ and main() of tabira.
+file(GLOB_RECURSE fuentes RELATIVE ${CARPETA} ${CARPETA}/*.cpp ${CARPETA}/*.h)
+foreach(fuente ${fuentes})
+    if(fuente MATCHES "(^|/)ventanas/|^platform/qt/|^shell/main")
+        continue()
+    endif()
+    file(STRINGS ${CARPETA}/${fuente} lineas REGEX "^[ \t]*#[ \t]*include[ \t]*[<\"](Q[A-Za-z]|Qt[A-Za-z]*/)")
+    if(lineas)
+        message(FATAL_ERROR "src/${fuente} includes a Qt header, and the core knows no toolkit: ${lineas}")
+    endif()
+endforeach()
