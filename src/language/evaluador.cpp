@@ -5,7 +5,6 @@
 #include "platform/numeros.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
-#include "store/periodos.h"
 
 EstadoEvaluador Evaluador;
 
@@ -165,17 +164,10 @@ int ElementoConstante(double valor, int pilaLlena, int trasOperando) {
 
 int ElementoFuncionMatriz(std::string_view nombre, LineasSentencia &lineas, int &posicion) {
     if (TrasOperando()) return 13;
+    // NOBS alone has no argument.
+    if (nombre != "NOBS" && CaracterEn(TextoDelNivel(lineas), posicion) != '(') return 14;
     double valor = 0.0;
-    if (nombre == "NOBS") {
-        // The size of the whole sample, not of the rows of this evaluation.
-        valor = static_cast<double>(Muestra.FinMuestra) - Muestra.InicioMuestra + 1;
-    } else {
-        if (CaracterEn(TextoDelNivel(lineas), posicion) != '(') return 14;
-        const std::int32_t nivel = Evaluador.NivelLinea;
-        const int r = ValorFuncionMatriz(nombre, valor, posicion, lineas, Evaluador.ventana);
-        Evaluador.NivelLinea = nivel;
-        if (r != 1) return 14;
-    }
+    if (ValorFuncionMatriz(nombre, valor, posicion, lineas, Evaluador.ventana) != 1) return 14;
     if (!ApilarNumero(valor)) return 14;
     return OperandoHecho();
 }

@@ -150,7 +150,9 @@ int ApilarElementoMatriz(int matriz, const std::string &texto, int &posicion) {
     // Elements stand by rows, so this is row j, column i, and not row i, column j: a square matrix reads transposed.
     // On one with more columns than rows the place can lie behind the elements.
     const int lugar = i - 1 + (j - 1) * m.Columnas;
-    if (lugar >= m.Filas * m.Columnas || !FijarMatriz(matriz)) return 884;
+    // So can every place of a damaged record, whose block can't hold what it says.
+    const int elementos = std::min(m.Filas * m.Columnas, TablaMatrices.capacidad[matriz]);
+    if (lugar >= elementos || !FijarMatriz(matriz)) return 884;
     const double valor = m.Datos[lugar];
     SoltarMatriz(matriz);
     if (!ApilarNumero(valor)) return 885;

@@ -45,6 +45,7 @@ ResultadosOperando OperandoMatriz(std::string_view token, LineasSentencia &linea
 // a message, or could not be evaluated, after one.
 int AplicarFuncionMatriz(std::string_view nombre, double &resultado, int &posicion, LineasSentencia &lineas,
                          Ventana *ventana);
+
 // True for the four functions that leave a matrix.
 bool DaMatriz(std::string_view funcion);
 

@@ -16,10 +16,6 @@ bool EsUnoDe(char c, std::string_view caracteres) {
     return caracteres.find(c) != std::string_view::npos;
 }
 
-int ErrorEnSecuencia(int punto, Ventana *ventana) {
-    return MensajePunto(ventana, "Error en secuencia", punto);
-}
-
 int ParentesisComoOperando(LineasSentencia &lineas, int &posicion, Ventana *ventana) {
     if (FormulaMatriz.UltimoElemento == ElementoOperando) return ErrorEnSecuencia(53, ventana);
     if (EvaluarParentesisMatriz(lineas, posicion, ventana) == 0) return 0;

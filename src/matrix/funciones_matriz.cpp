@@ -66,7 +66,7 @@ int BajarResultado(TemporalMatriz &resultado, int filas, int columnas, Ventana *
     FijarTamano(resultado, filas, columnas);
     TomarResultado(FormulaMatriz.PilaTemporales[FormulaMatriz.tope - 1], resultado, filas, columnas);
     --FormulaMatriz.tope;
-    return ApilarTipo(OperandoEsMatriz) ? 1 : MensajePunto(ventana, "Error en secuencia", 46);
+    return ApilarTipo(OperandoEsMatriz) ? 1 : ErrorEnSecuencia(46, ventana);
 }
 
 int Diagonal(Ventana *ventana) {
@@ -161,6 +161,7 @@ int AplicarFuncionMatriz(std::string_view nombre, double &resultado, int &posici
                          Ventana *ventana) {
     resultado = 0.0;
     if (nombre == "NOBS") {
+        // The size of the whole sample, whatever rows the formula works on.
         resultado = static_cast<double>(Muestra.FinMuestra) - Muestra.InicioMuestra + 1.0;
         FormulaMatriz.UltimoElemento = ElementoOperando;
         return 1;
@@ -168,7 +169,7 @@ int AplicarFuncionMatriz(std::string_view nombre, double &resultado, int &posici
     const FuncionDeMatriz *f = BuscarFuncion(nombre);
     if (f == nullptr) return 0;
     if (FormulaMatriz.UltimoElemento == ElementoOperando)
-        return MensajePunto(ventana, "Error en secuencia", 53);
+        return ErrorEnSecuencia(53, ventana);
     if (CaracterEn(lineas[static_cast<std::size_t>(Evaluador.NivelLinea)], posicion) != '(') return 0;
     if (EvaluarParentesisMatriz(lineas, posicion, ventana) == 0) return 0;
     FormulaMatriz.UltimoElemento = ElementoOperando;

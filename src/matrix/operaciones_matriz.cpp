@@ -152,6 +152,6 @@ int MultiplicarSuperiores(int punto, Ventana *ventana) {
 }
 
 int AplicarSigno(char signo, Ventana *ventana) {
-    if (FormulaMatriz.tope < 0) return MensajePunto(ventana, "Error en secuencia", 55);
+    if (FormulaMatriz.tope < 0) return ErrorEnSecuencia(55, ventana);
     return signo == '\'' ? TrasponerSuperior(ventana) : InvertirSuperior(ventana);
 }

@@ -5,6 +5,11 @@
 
 #include <string_view>
 
+// Shows what most places of the evaluator answer with, and their point. Always 0.
+inline int ErrorEnSecuencia(int punto, Ventana *ventana) {
+    return MensajePunto(ventana, "Error en secuencia", punto);
+}
+
 // Keeps an operator until its right operand is complete. 1, or 0 after "Demasiadas operaciones" (Pto 11) with 50 of
 // them or a text of 3 characters.
 int ApilarOperacion(std::string_view operador, Ventana *ventana);

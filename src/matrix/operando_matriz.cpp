@@ -8,10 +8,6 @@
 
 namespace {
 
-int ErrorEnSecuencia(int punto, Ventana *ventana) {
-    return MensajePunto(ventana, "Error en secuencia", punto);
-}
-
 // The points of a number and of a scalar: behind an operand, and with either stack full.
 struct PuntosEscalar {
     int trasOperando, tiposLlenos, escalaresLlenos;

@@ -1,6 +1,7 @@
 // Numbers read from text, free of locale.
 #include "platform/numeros.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstddef>
 #include <limits>
@@ -18,6 +19,16 @@ std::size_t TrasEspacios(std::string_view t) {
     return i;
 }
 
+// The power of ten of the first digit other than zero, for a number without sign that has one.
+long long OrdenDecimal(std::string_view numero) {
+    const std::size_t e = std::min(numero.find_first_of("eE"), numero.size());
+    const std::string_view mantisa = numero.substr(0, e);
+    const auto punto = static_cast<long long>(std::min(mantisa.find('.'), mantisa.size()));
+    const auto cifra = static_cast<long long>(mantisa.find_first_not_of("0."));
+    const long long orden = cifra < punto ? punto - cifra - 1 : punto - cifra;
+    return e < numero.size() ? orden + LeerEntero(numero.substr(e + 1)) : orden;
+}
+
 } // namespace
 
 double LeerDecimal(std::string_view texto) {
@@ -30,13 +41,9 @@ double LeerDecimal(std::string_view texto) {
     double valor = 0.0;
     const auto r = std::from_chars(texto.data() + inicio, texto.data() + texto.size(), valor);
     if (r.ec == std::errc::result_out_of_range) {
-        // from_chars leaves the value alone here; whether it is too large or too small, the sign of the exponent
-        // or, without one, the mere length of the text tells.
-        const std::string_view leido(texto.data() + inicio, static_cast<std::size_t>(r.ptr - texto.data()) - inicio);
-        const std::size_t e = leido.find_first_of("eE");
-        const bool pequeno = e != std::string_view::npos ? leido.substr(e).find('-') != std::string_view::npos
-                                                         : leido.find_first_not_of("0.") > 300;
-        valor = pequeno ? 0.0 : std::numeric_limits<double>::infinity();
+        // from_chars leaves the value alone here; whether it is too large or too small, its order tells.
+        const std::size_t leidos = static_cast<std::size_t>(r.ptr - texto.data()) - inicio;
+        valor = OrdenDecimal(texto.substr(inicio, leidos)) < 0 ? 0.0 : std::numeric_limits<double>::infinity();
     }
     return negativo ? -valor : valor;
 }

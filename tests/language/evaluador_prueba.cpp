@@ -244,6 +244,41 @@ TEST_F(Formulas, OrdenDeLosNombres) {
     EsperarFilas(Calcular("_Y+_Y*_Y", 0, 0), {72});
 }
 
+// One name of two or three kinds, as a damaged work file may have: a series before a number, both before a scalar, that
+// before a function of matrices, and a matrix last.
+TEST_F(Formulas, OrdenDeLosOperandos) {
+    PonerEscalar(nullptr, "TRES", 3);
+    PonerEscalar(nullptr, "DOS", 2);
+    PonerEscalar(nullptr, "DET", 5);
+    PonerMatriz("NFILA", {6}, 1, 1);
+    PonerMatriz("DOS", {7}, 1, 1);
+    PonerMatriz("TRES", {7}, 1, 1);
+    PonerSerie("TRES", {33});
+    PonerSerie("8", {88});
+    const struct {
+        const char *formula;
+        std::vector<double> esperada;
+    } casos[] = {
+        {"TRES", {33}}, {"8", {88}},       {"9", {9}},         {"DOS", {2}},
+        {"DET", {5}},   {"NFILA(M)", {2}}, {"NFILA[1,1]", {}}, {"DOS[1,1]", {2}},
+    };
+    for (const auto &caso : casos) {
+        SCOPED_TRACE(caso.formula);
+        EsperarFilas(Calcular(caso.formula, 0, 0), caso.esperada);
+    }
+}
+
+// A record that says more than its block holds: nothing behind the block is read.
+TEST_F(Formulas, ElementoDeUnaMatrizDanada) {
+    std::int32_t &capacidad = TablaMatrices.capacidad[BuscarMatriz("M")];
+    const std::int32_t era = capacidad;
+    capacidad = 3;
+    EsperarFilas(Calcular("M[1,2]", 0, 0), {3});
+    EsperarFilas(Calcular("M[2,2]", 0, 0), {});
+    EXPECT_EQ(TextosDeCajas(), std::vector<std::string>{"SER X = M[2,2]. Pto 884"});
+    capacidad = era;
+}
+
 // Codes made of blanks exist, and no empty token calls them up.
 TEST_F(Formulas, CodigosEnBlanco) {
     PonerEscalar(nullptr, "", 8);

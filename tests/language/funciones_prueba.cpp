@@ -39,6 +39,7 @@ TEST_F(Formulas, FuncionesDeFila) {
         {"POT(S,2)", 0, 5, {16, 0, 1, 16, 10000, Falta}},
         {"POT(A,S)", 0, 5, {1, 1, 3, 256, std::pow(5.0, 100.0), Falta}},
         {"POT(2, (1 + 2))", 0, 0, {8}},
+        {"POT((M[1,2]),2)", 0, 0, {9}},
         {"POT(POT(2,2),3)", 0, 0, {64}},
         {"POT((0-8),(1/3))", 0, 0, {Falta}}, // no number, with no test of the domain,
         {"LN(A ; nada)", 0, 0, {0}},
@@ -174,6 +175,9 @@ TEST_F(Formulas, CajasDeFunciones) {
         {"LN(POT(QQ,2))",
          {"Función desconocida [QQ]", "QQ. Pto 199", "Error en los calculos", "POT(QQ,2). Pto 34",
           "Error en los calculos", "LN(POT(QQ,2)). Pto 78"}},
+        // The "," of an element ends the argument: only parentheses hide one.
+        {"LN(M[1,2])", {"M[1. Pto 882", "Error en los calculos", "LN(M[1,2]). Pto 78"}},
+        {"POT(M[1,2],2)", {"M[1. Pto 882", "Error en los calculos", "POT(M[1,2],2). Pto 34"}},
         {"LN(A) LN(A)", {"LN(A) LN(A). Pto 4444"}},
         {"LN(A)(1)", {"LN(A)(1). Pto 21"}},
     };

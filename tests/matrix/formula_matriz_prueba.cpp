@@ -1,6 +1,8 @@
 // Matrix formulas: what they give, and what stops them.
 #include "matrix/evaluacion.h"
 
+#include "matrix/operaciones_matriz.h"
+
 #include <chrono>
 #include <random>
 
@@ -292,6 +294,36 @@ TEST_F(ConMatrices, BloqueQueNoSePuedeFijar) {
     EXPECT_EQ(Evaluar("A + B"), 0);
     EXPECT_EQ(Cajas(), std::vector<std::string>{"Falta memoria. Pto 33"});
     capacidad = era;
+}
+
+// One name of several kinds, as a damaged work file may have: a matrix before a number and a scalar, these before a
+// function.
+TEST_F(ConMatrices, OrdenDeLosOperandos) {
+    PonerEscalar(nullptr, "DOBLE", 3);
+    PonerEscalar(nullptr, "DET", 4);
+    PonerMatriz("DOBLE", {2, 2, {1, 0, 0, 1}});
+    PonerMatriz("8", {2, 2, {2, 0, 0, 2}});
+    PonerMatriz("TRAZA", {2, 2, {5, 0, 0, 5}});
+    const std::vector<CasoValor> casos = {
+        {"DOBLE * A", {2, 2, {1, 2, 3, 4}}},    {"8 + A", {2, 2, {3, 2, 3, 6}}},
+        {"9 * A", {2, 2, {9, 18, 27, 36}}},     {"DET * A", {2, 2, {4, 8, 12, 16}}},
+        {"TRAZA * A", {2, 2, {5, 10, 15, 20}}},
+    };
+    for (const CasoValor &c : casos) {
+        SCOPED_TRACE(c.formula);
+        EXPECT_EQ(Evaluar(c.formula), 1);
+        EsperarMatriz("RES", c.esperada);
+    }
+}
+
+// No formula keeps so many operators waiting; the table refuses them all the same.
+TEST_F(ConMatrices, TablaDeOperadoresLlena) {
+    VaciarPilasMatriz();
+    EXPECT_EQ(ApilarOperacion("***", nullptr), 0);
+    for (int i = 0; i < 50; ++i) EXPECT_EQ(ApilarOperacion("*", nullptr), 1);
+    EXPECT_EQ(ApilarOperacion("*", nullptr), 0);
+    EXPECT_EQ(Cajas(), std::vector<std::string>(2, "Demasiadas operaciones. Pto 11"));
+    VaciarPilasMatriz();
 }
 
 // ----- Sizes

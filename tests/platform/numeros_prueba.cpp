@@ -34,6 +34,16 @@ TEST(Numeros, LeerDecimal) {
         EXPECT_EQ(LeerDecimal(c.texto), c.valor) << "\"" << c.texto << "\"";
     EXPECT_EQ(LeerDecimal(std::string(400, '9')), Infinito);
     EXPECT_EQ(LeerDecimal("0." + std::string(400, '0') + "1"), 0.0);
+    // What is too large or too small is so by its digits and its exponent together.
+    const std::string ceros(400, '0');
+    EXPECT_EQ(LeerDecimal(ceros + std::string(400, '9')), Infinito);
+    EXPECT_EQ(LeerDecimal("-" + ceros + std::string(400, '9')), -Infinito);
+    EXPECT_EQ(LeerDecimal("1" + ceros + "e-50"), Infinito);
+    EXPECT_EQ(LeerDecimal("1" + ceros + ".5e-50"), Infinito);
+    EXPECT_EQ(LeerDecimal("0." + ceros + "1e50"), 0.0);
+    EXPECT_EQ(LeerDecimal("." + ceros + "1e+50"), 0.0);
+    EXPECT_EQ(LeerDecimal("1e-99999999999999999999"), 0.0);
+    EXPECT_EQ(LeerDecimal("1e99999999999999999999"), Infinito);
     EXPECT_TRUE(std::signbit(LeerDecimal("-0")));
 }
 
