@@ -74,7 +74,7 @@ void PonerReglasDeTabla(const Pintado &p, const TablaCoeficientes &tabla, int de
     const int ultima = std::min(tabla.ultima, hasta);
     if (primera > ultima) return;
     const int arriba = reglas[static_cast<std::size_t>(primera - desde)];
-    const int abajo = reglas[static_cast<std::size_t>(ultima - desde + 1)];
+    const int abajo = reglas[static_cast<std::size_t>(ultima - desde) + 1];
     const int c = p.s.anchoCaracter;
     const bool base = c == AnchoFuenteBase && p.s.altoLinea == AltoFuenteBase;
     for (std::size_t i = 0; i < ReglasConFuenteBase.size(); ++i) {

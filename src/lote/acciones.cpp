@@ -44,12 +44,14 @@ struct Accion {
 
 void Quejarse(const std::string &utf8) { std::fprintf(stderr, "tabira-lote: %s\n", utf8.c_str()); }
 
-// What a menu command refuses while no data type was chosen.
-bool HayTipoDeDatos(const char *mensaje = "Tipo de datos no válidos"_w) {
+// What a menu command refuses while no data type was chosen; the text is the command's.
+bool HayTipoDeDatos(const char *mensaje) {
     if (ArchivoTrabajo.TipoDatos < SinTipoDatos) return true;
     MostrarMensaje(nullptr, mensaje);
     return false;
 }
+
+bool HayTipoDeDatos() { return HayTipoDeDatos("Tipo de datos no válidos"_w); }
 
 // ---------------------------------------------------------------------------------------------------------------
 // Readers of values

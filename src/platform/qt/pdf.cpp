@@ -15,6 +15,8 @@
 
 namespace {
 
+QGuiApplication *Propia = nullptr;
+
 // Fonts need a QGuiApplication. One of our own takes no display, reads no arguments of the user's, and says nothing:
 // its warnings on the locale or the run-time folder are none of the user's business. It stays until the process ends,
 // since fonts that were used once remember it.
@@ -24,7 +26,7 @@ void CrearAplicacionSinPantalla() {
     static int numero = 3;
     const auto anterior =
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    new QGuiApplication(numero, argumentos); // found again through QCoreApplication::instance()
+    Propia = new QGuiApplication(numero, argumentos);
     qInstallMessageHandler(anterior);
     std::setlocale(LC_NUMERIC, "C"); // the toolkit takes the desktop's locale, and numbers don't
 }
