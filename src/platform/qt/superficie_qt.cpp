@@ -1,0 +1,85 @@
+// The surface over QPainter.
+#include "platform/qt/superficie_qt.h"
+
+#include "platform/qt/texto_qt.h"
+
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QFontMetrics>
+#include <QPen>
+
+namespace {
+
+PintorSuperficie &Propio(void *p) { return *static_cast<PintorSuperficie *>(p); }
+
+QColor De(Color c) { return {c.r, c.g, c.b}; }
+
+QPen De(const Pluma &pluma) {
+    static constexpr Qt::PenStyle Estilos[] = {Qt::SolidLine, Qt::DotLine, Qt::DashLine, Qt::DashDotLine};
+    QPen p(De(pluma.color), pluma.ancho, Estilos[pluma.estilo]);
+    p.setCapStyle(Qt::FlatCap);
+    return p;
+}
+
+void PintarLinea(void *p, int x1, int y1, int x2, int y2, const Pluma &pluma) {
+    Propio(p).pintor->setPen(De(pluma));
+    Propio(p).pintor->drawLine(x1, y1, x2, y2);
+}
+
+void PintarRectangulo(void *p, int x1, int y1, int x2, int y2, const Pluma &pluma, const Color *relleno) {
+    QPainter &pintor = *Propio(p).pintor;
+    pintor.setPen(De(pluma));
+    pintor.setBrush(relleno != nullptr ? QBrush(De(*relleno)) : QBrush(Qt::NoBrush));
+    pintor.drawRect(QRect(QPoint(x1, y1), QPoint(x2 - 1, y2 - 1)));
+}
+
+// Each character is set in its own cell: the columns stand even where a fallback font brings a character, or where
+// the advance of the font isn't a whole number of units.
+void PintarTexto(void *p, int x, int y, std::string_view texto) {
+    const PintorSuperficie &s = Propio(p);
+    s.pintor->setPen(Qt::black);
+    const QString todo = QDe1252(texto);
+    for (qsizetype i = 0; i < todo.size(); ++i) {
+        if (todo[i] == u' ') continue;
+        s.pintor->drawText(x + static_cast<int>(i) * s.anchoCaracter, y + s.ascenso, QString(todo[i]));
+    }
+}
+
+QFont Base() {
+    static const QFont Fija = [] {
+        for (const char *familia : {"DejaVu Sans Mono", "Liberation Mono", "Noto Sans Mono"}) {
+            QFont f(QString::fromLatin1(familia));
+            f.setStyleHint(QFont::TypeWriter);
+            if (QFontInfo(f).exactMatch() && QFontInfo(f).fixedPitch()) return f;
+        }
+        QFont f = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+        f.setStyleHint(QFont::TypeWriter);
+        return f;
+    }();
+    return Fija;
+}
+
+} // namespace
+
+QFont FuenteFija(int anchoCaracter) {
+    QFont f = Base();
+    // The widest size whose cell still fits.
+    int tamano = anchoCaracter * 2;
+    do {
+        f.setPixelSize(tamano);
+    } while (--tamano > 4 && QFontMetrics(f).horizontalAdvance(QLatin1Char('0')) > anchoCaracter);
+    return f;
+}
+
+QFont FuenteFijaDePantalla() {
+    QFont f = Base();
+    f.setPointSizeF(QFontDatabase::systemFont(QFontDatabase::GeneralFont).pointSizeF());
+    return f;
+}
+
+Superficie SuperficieDePintor(PintorSuperficie &propio, QPainter &pintor, const QFont &fuente, int ancho, int alto) {
+    pintor.setFont(fuente);
+    const QFontMetrics metrica(fuente, pintor.device());
+    propio = {&pintor, metrica.horizontalAdvance(QLatin1Char('0')), metrica.ascent()};
+    return {&propio, ancho, alto, propio.anchoCaracter, metrica.lineSpacing(), PintarLinea, PintarRectangulo, PintarTexto};
+}
