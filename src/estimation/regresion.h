@@ -6,7 +6,11 @@
 #include <string>
 #include <vector>
 
-enum TiposDeCovarianza { CovarianzaNormal = 1, CovarianzaHeterocedasticidad = 2, CovarianzaAutocorrelacion = 3 };
+enum TiposDeCovarianza {
+    CovarianzaNormal = 1,
+    CovarianzaHeterocedasticidad = 2,
+    CovarianzaAutocorrelacion = 3
+};
 
 // The record of the last MC or MCP: what tests, predictions and charts read.
 struct RegistroRegresion {

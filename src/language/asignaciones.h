@@ -15,7 +15,8 @@ extern DestinosAsignacion Destinos;
 // SER, ESC, OBS, CAL, SER FICTIC and MAT from behind the first word: parses target and "=", groups priorities,
 // evaluates and stores. `codigo` is the CodigoOrden of the first word and becomes OrdenFICTIC for a SER FICTIC.
 // 1 to go on, 0 to stop.
-int EjecutarAsignacion(LineasSentencia &lineas, int &posicion, Ventana *ventana, int primera, int ultima, int &codigo);
+int EjecutarAsignacion(LineasSentencia &lineas, int &posicion, Ventana *ventana, int primera, int ultima,
+                       int &codigo);
 
 // Stores the top column as the series Destinos.serie, over PrimeraEval to UltimaEval. 1, or 0 without a message when
 // the name is taken by another table or no more series fit.
@@ -32,3 +33,14 @@ int GuardarObservacionMuestra(std::string_view periodo, Ventana *ventana);
 // Fills the series with the one column of a matrix from row InicioRegresion on, up to FinRegresion: the form
 // SER serie = {matriz}, `texto` from behind the "{" on. 1, or 0 after a message.
 int SerieDesdeMatriz(std::string_view serie, const std::string &texto, int posicion, Ventana *ventana);
+
+// SER codigo = codigo(-n) resto, with `posicion` of the statement's line behind the "=": stores row after row, each
+// from the row just stored n places before it, for the rows i with primera + n <= i < ultima - primera + 1. 1 when
+// the statement had this form, whether or not it failed ("Error en el cálculo", "Error en las asignaciones": the
+// batch goes on), else 0.
+int SerieRecursiva(int posicion, Ventana *ventana, LineasSentencia &lineas, int primera, int ultima);
+
+// Makes a series of ones and zeros for each distinct whole value, at most 99, that Destinos.serie has in the rows
+// primera <= i < ultima - primera + 1. An unknown series gives the box "(%s)", title "Serie no existe"; a full table
+// ends it in silence, with the series made so far.
+void SeriesFicticias(Ventana *ventana, int primera, int ultima);

@@ -6,5 +6,5 @@
 // Runs the block whose first line, as the driver normalised it, is in buffer 0 of `lineas`. `cuerpo` is the text
 // behind that line up to the end of the selection. On return `avance` is the number of characters of `cuerpo` that
 // the block took. 1, or 0 after a message.
-int EjecutarBloque(const std::string &cuerpo, LineasSentencia &lineas, int &avance, Ventana *ventana, int &primera,
-                   int &ultima);
+int EjecutarBloque(std::string_view cuerpo, LineasSentencia &lineas, int &avance, Ventana *ventana,
+                   int &primera, int &ultima);

@@ -39,7 +39,8 @@ struct EstadoEvaluador {
 
 extern EstadoEvaluador Evaluador;
 
-// Clears the state of a statement (everything but the stack's memory, the bounds and the window).
+// Clears the state of a statement (everything but the stack's memory, the bounds and the window) and sets
+// SeriesPermitidas. Whoever evaluates several formulas in one statement calls it before each.
 void LimpiarEvaluador();
 
 // Allocates PilaColumnas, or frees it. False when there is no memory.
@@ -62,7 +63,8 @@ double ValorSuperior();
 // `desde` up to `hasta` (not included) and not beyond the end.
 void AgruparPrioridades(std::string &texto, int desde, int hasta);
 
-// Pushes a constant column or the rows of a series. False when the stack is full (50 columns).
+// Pushes a constant column, or the values and flags of a series, in the rows PrimeraEval to UltimaEval of Evaluador.
+// False when the stack is full (50 columns) or not open.
 bool ApilarNumero(double valor);
 bool ApilarSerie(int serie);
 

@@ -31,10 +31,10 @@ enum CodigosOrden {
 };
 
 struct EstadoLote {
-    int VerRegresion;           // 0: MC and MCP show no window; start value 1
-    int DecimalesSalida;        // decimals of result windows; start value 2
-    int NingunaSentenciaHecha;  // 1 from the start of a batch until a first statement ended well
-    int detenido;               // 1 when the last batch stopped before its end
+    int VerRegresion;          // 0: MC and MCP show no window; start value 1
+    int DecimalesSalida;       // decimals of result windows; start value 2
+    int NingunaSentenciaHecha; // 1 from the start of a batch until a first statement ended well
+    int detenido;              // 1 when the last batch stopped before its end
 };
 
 extern EstadoLote Lote;
@@ -44,13 +44,18 @@ void IniciarLote();
 
 // Runs a batch. `origen` 0 runs the selection of `control` and ignores `texto`; any other value runs `texto` as one
 // statement. `primera` and `ultima` are the rows to work on. Result always 0; Lote.detenido tells how it ended.
-int ProcesarLote(Ventana *ventana, ControlTexto *control, int origen, std::string_view texto, int primera, int ultima);
+int ProcesarLote(Ventana *ventana, ControlTexto *control, int origen, std::string_view texto, int primera,
+                 int ultima);
 
 // Runs the one statement at `posicion` of `textoCompleto` (`origen` 0, up to `fin`, the end of the selection), or
 // `texto` (`origen` not 0). 1 to go on, 0 to stop. MUEST changes `primera` and `ultima`; `codigo` receives the
 // CodigoOrden.
 int EjecutarSentencia(int origen, LineasSentencia &lineas, int fin, int &posicion, std::string_view texto,
-                      const std::string &textoCompleto, Ventana *ventana, int &primera, int &ultima, int &codigo);
+                      const std::string &textoCompleto, Ventana *ventana, int &primera, int &ultima,
+                      int &codigo);
+
+// The box "Punto %d, %s", title "Proceso cancelado". Always returns 0, the result of a statement that stops.
+int MensajeNumerado(Ventana *ventana, int punto, std::string_view texto);
 
 // The box "No ensamblada", title "Opción del menú", for a feature that is announced and not built yet. Returns 0: the
 // batch stops. All statements that are not built yet come here.

@@ -19,6 +19,11 @@ void MostrarMensaje(Ventana *ventana, std::string_view texto, std::string_view t
     MostrarCaja(ventana, texto, titulo, IconoInformacion, BotonesAceptar);
 }
 
+int MensajeAviso(Ventana *ventana, std::string_view texto) {
+    MostrarMensaje(ventana, texto, TituloAviso);
+    return 0;
+}
+
 int MensajePunto(Ventana *ventana, std::string_view texto, int punto) {
     MostrarMensaje(ventana, std::string(texto) + Formatear(". Pto %d", punto));
     return 0;

@@ -60,6 +60,9 @@ Respuesta MostrarCaja(Ventana *ventana, std::string_view texto, std::string_view
 // A box with the information icon and one button.
 void MostrarMensaje(Ventana *ventana, std::string_view texto, std::string_view titulo = TituloCancelado);
 
+// The same with the title "Aviso". Always returns 0, the result of a dialog that goes on.
+int MensajeAviso(Ventana *ventana, std::string_view texto);
+
 // The box "texto. Pto punto", title "Proceso cancelado". Always returns 0, the result of a routine that stops.
 int MensajePunto(Ventana *ventana, std::string_view texto, int punto);
 

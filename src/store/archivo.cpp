@@ -3,6 +3,7 @@
 
 #include "platform/numeros.h"
 #include "platform/strstr.h"
+#include "store/panel.h"
 #include "store/periodos.h"
 
 #include <cstring>
@@ -52,8 +53,8 @@ void IniciarArchivoTrabajo() {
     for (auto &codigo : a.Codigos) codigo[0] = '\0'; // empty until the first reset
     TablaEscalares = {};
     TablaEcuaciones = {};
-    DescripcionPanel = {};
-    for (auto &etiqueta : DescripcionPanel.EtiquetasIndividuo) RellenarCadena(etiqueta, ' ', AnchoEtiqueta - 1);
+    LimpiarEdicionPanel();
+    DescripcionPanel = EdicionPanel.panel;
     Muestra = {};
 }
 

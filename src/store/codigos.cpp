@@ -44,8 +44,6 @@ int CodigoValido(std::string_view texto, Codigo codigo) {
     if (EsFuncionMatriz(texto) || EsFuncionSerie(texto)) return 0;
     if (!EsLetra(codigo[0]) && codigo[0] != ' ' && codigo[0] != '_') return 0;
     if (CadenaDeCaracter(codigo + SignificativosCodigo, ' ') == 0) return 0;
-    // A text cut at 12 characters may hide more behind them.
-    if (texto.size() > AnchoCodigo - 1 && CadenaDeCaracter(texto.substr(AnchoCodigo - 1), ' ') == 0) return 0;
     Codigo copia;
     RecortarCadena(copia, codigo, RecorteIzquierda);
     for (int i = 0; i <= SignificativosCodigo; ++i)

@@ -34,6 +34,7 @@ inline constexpr int MaxColumnasPila = 50;         // columns of PilaColumnas
 inline constexpr int MaxFuncionesPendientes = 12;  // functions whose arguments are being evaluated
 inline constexpr int MaxOperadoresPendientes = 50; // operators waiting for their right operand
 inline constexpr int MaxTemporalesMatriz = 10;     // entries of the stacks of the matrix evaluator
+inline constexpr int MaxListaENUM = 100;        // codes of MIENTRAS (ENUM = ...)
 inline constexpr int MaxFilasTraspuestas = 100;    // rows of a matrix that its transpose keeps
 inline constexpr int MaxInversa = 300;             // n times n above this can't be inverted: 17 is the largest n
 inline constexpr int MaxValoresFicticios = 99;     // distinct values of SER FICTIC

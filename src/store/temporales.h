@@ -7,8 +7,31 @@
 
 // The 25 result families of a regression.
 enum Familias {
-    FamBETA, FamNREG, FamANREG, FamSCR, FamDTR, FamDIV, FamMTR, FamCOV, FamDTE, FamMVD, FamSTVD, FamLV, FamAIC,
-    FamSCVD, FamDTVD, FamDCR, FamRC, FamDW, FamRCC, FamEA1, FamPROBT, FamNORE, FamFORLA, FamESTF, FamRES,
+    FamBETA,
+    FamNREG,
+    FamANREG,
+    FamSCR,
+    FamDTR,
+    FamDIV,
+    FamMTR,
+    FamCOV,
+    FamDTE,
+    FamMVD,
+    FamSTVD,
+    FamLV,
+    FamAIC,
+    FamSCVD,
+    FamDTVD,
+    FamDCR,
+    FamRC,
+    FamDW,
+    FamRCC,
+    FamEA1,
+    FamPROBT,
+    FamNORE,
+    FamFORLA,
+    FamESTF,
+    FamRES,
     NumFamilias
 };
 

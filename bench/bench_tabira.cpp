@@ -1,0 +1,255 @@
+// What the program costs, as ratios in one run: regressions against Eigen and against their formulas one by one, series
+// formulas against a loop by hand, statements split into text, columns and store, and the batch runner as a process.
+#include "apoyo/cadena_formulas.h"
+#include "apoyo/plataforma_prueba.h"
+#include "language/asignaciones.h"
+#include "language/lote_sentencias.h"
+#include "store/archivo.h"
+#include "store/periodos.h"
+
+#include <Eigen/Dense>
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <map>
+#include <random>
+#include <spawn.h>
+#include <string>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+constexpr int NumColumnas = 10;
+
+// Y and X1 to X10 over `n` observations without periodicity.
+void PrepararSeries(int n) {
+    EmpezarConDatos(TipoSinPeriodicidad, "");
+    std::mt19937 azar(7);
+    std::normal_distribution<double> normal(5.0, 2.0);
+    std::vector<double> y(static_cast<std::size_t>(n));
+    for (int j = 1; j <= NumColumnas; ++j) {
+        std::vector<double> x(y.size());
+        for (std::size_t i = 0; i < x.size(); ++i) {
+            x[i] = normal(azar);
+            y[i] += x[i] / j;
+        }
+        PonerSerie("X" + std::to_string(j), x);
+    }
+    for (double &v : y) v += normal(azar);
+    PonerSerie("Y", y);
+    ActualizarMuestra();
+    Lote.VerRegresion = 0;
+}
+
+void Ejecutar(const std::string &sentencia) {
+    ProcesarLote(nullptr, nullptr, 246, sentencia, Muestra.InicioMuestra, Muestra.FinMuestra);
+    if (Lote.detenido != 0) {
+        std::fprintf(stderr, "%s: %s\n", sentencia.c_str(), Prueba.cajas.empty() ? "" : Prueba.cajas.back().texto.c_str());
+        std::exit(1);
+    }
+}
+
+// ----- Regression
+
+void RegresionTabira(benchmark::State &estado) {
+    PrepararSeries(MaxObservaciones);
+    for (auto _ : estado) Ejecutar("MC Y 1 X1 X2 X3 X4 X5 X6 X7 X8 X9");
+}
+
+void RegresionEigen(benchmark::State &estado) {
+    PrepararSeries(MaxObservaciones);
+    Eigen::MatrixXd x(MaxObservaciones, NumColumnas);
+    Eigen::VectorXd y(MaxObservaciones);
+    for (int i = 0; i < MaxObservaciones; ++i) {
+        x(i, 0) = 1.0;
+        for (int j = 1; j < NumColumnas; ++j) x(i, j) = ArchivoTrabajo.ValoresObs[i][j - 1];
+        y(i) = ArchivoTrabajo.ValoresObs[i][NumColumnas];
+    }
+    for (auto _ : estado) {
+        const Eigen::MatrixXd momentos = x.transpose() * x;
+        const Eigen::VectorXd beta = momentos.ldlt().solve(x.transpose() * y);
+        const Eigen::VectorXd residuos = y - x * beta;
+        benchmark::DoNotOptimize(residuos.squaredNorm());
+    }
+}
+
+void RegresionPorFormulas(benchmark::State &estado) {
+    PrepararSeries(MaxObservaciones);
+    std::vector<std::string> columnas = {"1"};
+    for (int j = 1; j < NumColumnas; ++j) columnas.push_back("X" + std::to_string(j));
+    Muestra.InicioRegresion = Muestra.InicioMuestra;
+    Muestra.FinRegresion = Muestra.FinMuestra;
+    for (auto _ : estado) {
+        AbrirPilaColumnas();
+        if (!EstimarPorFormulas("Y", columnas, NumColumnas - 1)) std::exit(1);
+        CerrarPilaColumnas();
+    }
+}
+
+// ----- Series formulas
+
+void SerieTabira(benchmark::State &estado) {
+    PrepararSeries(MaxObservaciones);
+    Ejecutar("SER Z = X1");
+    for (auto _ : estado) Ejecutar("SER Z = X1 + X2 - X3 + X4 - X5 + X6 - X7 + X8 - X9 + X10");
+}
+
+void SerieAMano(benchmark::State &estado) {
+    PrepararSeries(MaxObservaciones);
+    Ejecutar("SER Z = X1");
+    const int z = BuscarSerie("Z");
+    for (auto _ : estado) {
+        for (int i = 0; i < MaxObservaciones; ++i) {
+            const double *x = ArchivoTrabajo.ValoresObs[i];
+            ArchivoTrabajo.ValoresObs[i][z] = x[0] + x[1] - x[2] + x[3] - x[4] + x[5] - x[6] + x[7] - x[8] + x[9];
+        }
+        benchmark::ClobberMemory();
+    }
+}
+
+// ----- Statements of a loop over 100 observations
+
+constexpr int ObservacionesBucle = 100;
+constexpr int VueltasBucle = 1000;
+constexpr int SentenciasVuelta = 3;
+
+// One turn: ESC, SER and OBS.
+const char *const LineasBucle = "ESC A = A + 1\nSER Z = X1 + A * X2\nOBS Z[50] = A / 2\n";
+
+void PrepararBucle() {
+    PrepararSeries(ObservacionesBucle);
+    Ejecutar("ESC A = 0");
+    Ejecutar("SER Z = X1");
+}
+
+void CorrerBucle(const std::string &lineas) {
+    Prueba.textoControl = "REPITE J DESDE 1 HASTA " + std::to_string(VueltasBucle) + "\n" + lineas + "FINREPITE\n";
+    Prueba.desde = 0;
+    Prueba.hasta = static_cast<int>(Prueba.textoControl.size());
+    ProcesarLote(nullptr, nullptr, 0, {}, Muestra.InicioMuestra, Muestra.FinMuestra);
+    if (Lote.detenido != 0) std::exit(1);
+}
+
+void Bucle(benchmark::State &estado) {
+    PrepararBucle();
+    for (auto _ : estado) CorrerBucle(LineasBucle);
+}
+
+// The three formulas of a turn, evaluated over the given rows.
+void FormulasDeVuelta(benchmark::State &estado, int ultima) {
+    PrepararBucle();
+    AbrirPilaColumnas();
+    LineasSentencia lineas;
+    const char *const formulas[] = {"A + 1", "X1 +( A * X2)", "A / 2"};
+    for (auto _ : estado) {
+        for (const char *f : formulas) {
+            LimpiarEvaluador();
+            lineas[0].assign(f);
+            int posicion = 0;
+            EvaluarFormula(lineas, posicion, 0, ultima);
+        }
+    }
+    CerrarPilaColumnas();
+}
+void FormulasEnUnaFila(benchmark::State &estado) { FormulasDeVuelta(estado, 0); }
+void FormulasEnLasFilas(benchmark::State &estado) { FormulasDeVuelta(estado, ObservacionesBucle - 1); }
+
+// The three store operations of a turn, on a column at hand.
+void AlmacenDeVuelta(benchmark::State &estado) {
+    PrepararBucle();
+    AbrirPilaColumnas();
+    std::snprintf(Destinos.escalar, sizeof Destinos.escalar, "%-12s", "A");
+    std::snprintf(Destinos.serie, sizeof Destinos.serie, "%-12s", "Z");
+    LineasSentencia lineas;
+    lineas[0] = "X1";
+    LimpiarEvaluador();
+    int posicion = 0;
+    EvaluarFormula(lineas, posicion, 0, ObservacionesBucle - 1);
+    for (auto _ : estado) {
+        Evaluador.profundidad = 1;
+        GuardarEscalar();
+        GuardarSerie();
+        GuardarObservacion("50", nullptr);
+    }
+    CerrarPilaColumnas();
+}
+
+// ----- The batch runner as a process
+
+long MemoriaDelProceso = 0; // kB, the largest run
+
+void ProcesoKlein(benchmark::State &estado) {
+    if (chdir(TABIRA_DATOS) != 0) std::exit(1);
+    const char *const argumentos[] = {TABIRA_LOTE, "--tipo", "anual:1920:1941", "--importar", "klein.csv", "--procesar", "klein.txt", nullptr};
+    posix_spawn_file_actions_t acciones;
+    posix_spawn_file_actions_init(&acciones);
+    posix_spawn_file_actions_addopen(&acciones, STDOUT_FILENO, "/dev/null", 1, 0);
+    for (auto _ : estado) {
+        pid_t hijo = 0;
+        if (posix_spawn(&hijo, TABIRA_LOTE, &acciones, nullptr, const_cast<char **>(argumentos), environ) != 0) std::exit(1);
+        int fin = 0;
+        rusage uso{};
+        wait4(hijo, &fin, 0, &uso);
+        if (fin != 0) std::exit(1);
+        MemoriaDelProceso = std::max(MemoriaDelProceso, uso.ru_maxrss);
+    }
+    posix_spawn_file_actions_destroy(&acciones);
+}
+
+// ----- The table of ratios
+
+// Keeps the time of each benchmark, in nanoseconds of its wall clock.
+class Recogedor : public benchmark::ConsoleReporter {
+public:
+    std::map<std::string, double> tiempo;
+    void ReportRuns(const std::vector<Run> &corridas) override {
+        for (const Run &r : corridas)
+            if (r.run_type == Run::RT_Iteration) tiempo[r.benchmark_name()] = r.real_accumulated_time / static_cast<double>(r.iterations) * 1e9;
+        ConsoleReporter::ReportRuns(corridas);
+    }
+};
+
+void Razon(const char *que, double valor, const char *unidad, const char *quiere) {
+    std::printf("  %-66s %10.2f %-6s (%s)\n", que, valor, unidad, quiere);
+}
+
+} // namespace
+
+int main(int numArgumentos, char **argumentos) {
+    const auto registrar = [](const char *nombre, void (*rutina)(benchmark::State &), benchmark::TimeUnit unidad) {
+        benchmark::RegisterBenchmark(nombre, rutina)->Unit(unidad)->UseRealTime();
+    };
+    registrar("RegresionTabira", RegresionTabira, benchmark::kMicrosecond);
+    registrar("RegresionEigen", RegresionEigen, benchmark::kMicrosecond);
+    registrar("RegresionPorFormulas", RegresionPorFormulas, benchmark::kMillisecond);
+    registrar("SerieTabira", SerieTabira, benchmark::kMicrosecond);
+    registrar("SerieAMano", SerieAMano, benchmark::kMicrosecond);
+    registrar("Bucle", Bucle, benchmark::kMillisecond);
+    registrar("FormulasEnUnaFila", FormulasEnUnaFila, benchmark::kMicrosecond);
+    registrar("FormulasEnLasFilas", FormulasEnLasFilas, benchmark::kMicrosecond);
+    registrar("AlmacenDeVuelta", AlmacenDeVuelta, benchmark::kMicrosecond);
+    registrar("ProcesoKlein", ProcesoKlein, benchmark::kMillisecond);
+    benchmark::Initialize(&numArgumentos, argumentos);
+    Recogedor recogedor;
+    benchmark::RunSpecifiedBenchmarks(&recogedor);
+
+    const auto t = [&](const char *nombre) { return recogedor.tiempo[std::string(nombre) + "/real_time"]; };
+    const double sentencia = t("Bucle") / (VueltasBucle * SentenciasVuelta);
+    const double columnas = (t("FormulasEnLasFilas") - t("FormulasEnUnaFila")) / SentenciasVuelta;
+    const double almacen = t("AlmacenDeVuelta") / SentenciasVuelta;
+    std::printf("\nRatios of this run\n");
+    Razon("MC, 4,000 observations, 10 regressors / Eigen's X'X, ldlt, residuals", t("RegresionTabira") / t("RegresionEigen"), "times", "at most 5");
+    Razon("MC formula by formula / MC", t("RegresionPorFormulas") / t("RegresionTabira"), "times", "at least 50");
+    Razon("SER of ten operands, 4,000 rows / the loop by hand", t("SerieTabira") / t("SerieAMano"), "times", "at most 8");
+    Razon("A statement of a loop over 100 observations", sentencia / 1e3, "us", "");
+    Razon("  its columns", columnas / 1e3, "us", "");
+    Razon("  its store", almacen / 1e3, "us", "");
+    Razon("  its text", (sentencia - columnas - almacen) / 1e3, "us", "below 5");
+    Razon("tabira-lote on Klein's example, the whole process", t("ProcesoKlein") / 1e6, "ms", "below 20");
+    Razon("  its memory", static_cast<double>(MemoriaDelProceso) / 1024.0, "MB", "below 64");
+    return 0;
+}

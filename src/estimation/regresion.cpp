@@ -1,0 +1,60 @@
+// The engine of least squares: equation, pipeline, record, report.
+#include "estimation/regresion.h"
+
+#include "estimation/ecuacion.h"
+#include "estimation/informe.h"
+#include "estimation/pasos.h"
+#include "language/lote_sentencias.h"
+#include "platform/strstr.h"
+#include "store/archivo.h"
+#include "store/periodos.h"
+#include "store/temporales.h"
+
+RegistroRegresion UltimaRegresion;
+
+void IniciarRegresion() {
+    UltimaRegresion = {};
+    UltimaRegresion.MetodoRegresion = OrdenMC;
+    UltimaRegresion.TipoCovarianza = CovarianzaNormal;
+    UltimaRegresion.RetardosCovarianza = 1;
+    UltimaRegresion.RegresorRetardado = -1;
+    PonerCampo(UltimaRegresion.CodigoDependiente, "", AnchoCodigo);
+    PonerCampo(UltimaRegresion.DependienteMostrado, "", AnchoCodigo);
+}
+
+namespace {
+
+// The report reads the store with every block locked. A report that can't be built is no failure of the statement.
+void Informar(Estimacion &e) {
+    for (int m = 0; m < TablaMatrices.numero; ++m) FijarMatriz(m);
+    MostrarRegresion(e.ventana, e.codigo);
+    SoltarTodasMatrices();
+}
+
+int Estimar(Estimacion &e, int posicion) {
+    if (LeerEcuacion(e, posicion) == 0 || EjecutarPasos(e) == 0 || CompletarRegresion(e) == 0) return 0;
+    SoltarTodasMatrices();
+    if (e.codigo != OrdenMC && e.codigo != OrdenMCP) return ParteSinEnsamblar(e);
+    Informar(e);
+    return 1;
+}
+
+} // namespace
+
+int EstimarRegresion(LineasSentencia &lineas, int &posicion, Ventana *ventana, int &codigo) {
+    if (codigo < OrdenMC || codigo > OrdenMCP) return 0;
+    const int primera = Muestra.InicioRegresion, ultima = Muestra.FinRegresion;
+    Estimacion e;
+    e.lineas = &lineas;
+    e.ventana = ventana;
+    e.codigo = codigo;
+    const int bien = Estimar(e, posicion);
+    SoltarTodasMatrices();
+    BorrarTemporales(ventana, codigo);
+    if (codigo == OrdenCR) {
+        // Its own lags may have moved the range, which the next test needs as MC left it.
+        Muestra.InicioRegresion = primera;
+        Muestra.FinRegresion = ultima;
+    }
+    return bien;
+}

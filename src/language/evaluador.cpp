@@ -1,0 +1,296 @@
+// The walk over the text of a series formula: tokens, elements, levels.
+#include "language/evaluador_interno.h"
+
+#include "matrix/formula_matriz.h"
+#include "platform/numeros.h"
+#include "platform/texto.h"
+#include "store/archivo.h"
+#include "store/periodos.h"
+
+EstadoEvaluador Evaluador;
+
+void LimpiarEvaluador() {
+    EstadoEvaluador &e = Evaluador;
+    e.profundidad = 0;
+    e.NivelLinea = 0;
+    e.numOperadores = 0;
+    e.numFunciones = 0;
+    e.EstadoElemento = ElementoInicio;
+    e.OperadorLogico[0] = '\0';
+    e.MarcaRetardo = 0;
+    e.ValorRetardo = 0;
+    SeriesPermitidas = 1;
+}
+
+// ---------------------------------------------------------------------------------------------------------------
+// Tokens
+
+bool EsCaracterFormula(char c) {
+    if (c == ' ') return true;
+    // Compared as char on purpose: bytes above 127 are no text of a formula, whatever the sign of char.
+    if (c < '(' || c > '|') return false;
+    switch (c) {
+    case ',':
+    case ';':
+    case '[':
+    case '\\':
+    case ']':
+    case '_':
+    case '`': return false;
+    default: return true;
+    }
+}
+
+int ParentesisCierre(const std::string &texto, int abre) {
+    const int largo = static_cast<int>(texto.size());
+    int abiertos = 0;
+    for (int i = abre; i < largo; ++i) {
+        const char c = texto[static_cast<std::size_t>(i)];
+        if (c == '(') ++abiertos;
+        if (c == ')' && --abiertos == 0) return i;
+    }
+    return largo;
+}
+
+namespace {
+
+constexpr int Bien = 1; // result of an element that was dealt with; any other is the number of a failure
+
+// A code can begin with "_", which is no text of a formula otherwise.
+bool EsDeToken(char c) {
+    return EsCaracterFormula(c) || c == '_';
+}
+
+// The characters that are a token by themselves. "@" isn't among them, so it needs blanks; the byte 191 has no
+// operator behind it and ends as an unknown word.
+bool EsCaracterOperador(char c) {
+    switch (c) {
+    case '+':
+    case '-':
+    case '/':
+    case '*':
+    case ':':
+    case '=':
+    case '>':
+    case '<':
+    case '?':
+    case '|':
+    case '\xBF': return true;
+    default: return false;
+    }
+}
+
+bool EsDelimitador(char c) {
+    return c == ' ' || c == '(' || c == ')';
+}
+
+} // namespace
+
+std::string_view SiguienteToken(const std::string &texto, int &posicion) {
+    SaltarBlancos(texto, posicion);
+    const int inicio = posicion;
+    const char primero = CaracterEn(texto, inicio);
+    if (primero == '(') return "(";
+    if (EsCaracterOperador(primero)) {
+        ++posicion;
+    } else {
+        for (char c = primero; EsDeToken(c) && !EsDelimitador(c) && !EsCaracterOperador(c);)
+            c = CaracterEn(texto, ++posicion);
+    }
+    const std::string_view token = std::string_view(texto).substr(
+        static_cast<std::size_t>(inicio), static_cast<std::size_t>(posicion - inicio));
+    SaltarBlancos(texto, posicion);
+    return token;
+}
+
+// ---------------------------------------------------------------------------------------------------------------
+// Elements
+
+namespace {
+
+int Elemento(std::string_view token, LineasSentencia &lineas, int &posicion);
+
+const std::string &TextoDelNivel(const LineasSentencia &lineas) {
+    return lineas[static_cast<std::size_t>(Evaluador.NivelLinea)];
+}
+
+bool TrasOperando() {
+    return Evaluador.EstadoElemento == ElementoOperando;
+}
+
+int OperandoHecho() {
+    Evaluador.EstadoElemento = ElementoOperando;
+    return Bien;
+}
+
+// The element behind an operator.
+int ElementoDerecho(LineasSentencia &lineas, int &posicion) {
+    const std::string_view token = SiguienteToken(TextoDelNivel(lineas), posicion);
+    return Elemento(token, lineas, posicion);
+}
+
+int ElementoFuncion(const FuncionSerie &funcion, LineasSentencia &lineas, int &posicion) {
+    if (TrasOperando()) return 4444;
+    const int fallo = AplicarFuncionSerie(funcion, lineas, posicion);
+    return fallo != 0 ? fallo : OperandoHecho();
+}
+
+// AND and OR. The word is kept in one place for the whole statement, so that a right side with a logical operator of
+// its own overwrites it: A AND (B OR C) computes OR twice.
+int ElementoLogico(std::string_view palabra, LineasSentencia &lineas, int &posicion) {
+    if (!TrasOperando()) return 44;
+    Evaluador.OperadorLogico[palabra.copy(Evaluador.OperadorLogico, 3)] = '\0';
+    Evaluador.EstadoElemento = ElementoOperador;
+    const int r = ElementoDerecho(lineas, posicion);
+    if (r != Bien) return r + 200;
+    if (Evaluador.profundidad < 2) return 29;
+    if (!AplicarLogico()) return 220;
+    return OperandoHecho();
+}
+
+int ElementoSerie(int serie, const std::string &texto, int &posicion) {
+    if (!ApilarSerie(serie)) return 6;
+    if (TrasOperando()) return 7;
+    if (CaracterEn(texto, posicion) == '(' && !AplicarRetardo(serie, texto, posicion)) return 8;
+    SaltarBlancos(texto, posicion);
+    if (CaracterEn(texto, posicion) == '[' && !AplicarPeriodo(texto, posicion)) return 88;
+    return OperandoHecho();
+}
+
+int ElementoConstante(double valor, int pilaLlena, int trasOperando) {
+    if (!ApilarNumero(valor)) return pilaLlena;
+    if (TrasOperando()) return trasOperando;
+    return OperandoHecho();
+}
+
+int ElementoFuncionMatriz(std::string_view nombre, LineasSentencia &lineas, int &posicion) {
+    if (TrasOperando()) return 13;
+    double valor = 0.0;
+    if (nombre == "NOBS") {
+        // The size of the whole sample, not of the rows of this evaluation.
+        valor = static_cast<double>(Muestra.FinMuestra) - Muestra.InicioMuestra + 1;
+    } else {
+        if (CaracterEn(TextoDelNivel(lineas), posicion) != '(') return 14;
+        const std::int32_t nivel = Evaluador.NivelLinea;
+        const int r = ValorFuncionMatriz(nombre, valor, posicion, lineas, Evaluador.ventana);
+        Evaluador.NivelLinea = nivel;
+        if (r != 1) return 14;
+    }
+    if (!ApilarNumero(valor)) return 14;
+    return OperandoHecho();
+}
+
+// An operator takes exactly one element as its right operand and is applied at once: all are of equal rank, from left
+// to right. The ranks there are were written into the text as parentheses (AgruparPrioridades).
+int ElementoConOperador(char operador, LineasSentencia &lineas, int &posicion) {
+    const bool signo = operador == '-' && !TrasOperando();
+    if (!signo && Evaluador.EstadoElemento == ElementoOperador) return 15;
+    Evaluador.EstadoElemento = ElementoOperador;
+    if (!AnotarOperador(operador)) return 16;
+    const int r = ElementoDerecho(lineas, posicion);
+    if (r != Bien) return r + 100;
+    if (Evaluador.profundidad < 1) return 1119;
+    if (signo) {
+        if (!AplicarSigno()) return 18;
+    } else {
+        if (Evaluador.profundidad < 2) return 1129;
+        if (!AplicarOperador()) return 20;
+    }
+    return OperandoHecho();
+}
+
+int ElementoParentesis(LineasSentencia &lineas, int &posicion) {
+    if (TrasOperando()) return 21;
+    if (UltimoNivel()) return 22;
+    const std::string &texto = TextoDelNivel(lineas);
+    const int cierre = ParentesisCierre(texto, posicion);
+    if (EvaluarTrozo(lineas, posicion + 1, cierre) == 0) return 22;
+    posicion = std::min(cierre + 1, static_cast<int>(texto.size()));
+    return OperandoHecho();
+}
+
+int ElementoMatriz(int matriz, const std::string &texto, int &posicion) {
+    if (TrasOperando()) return 211;
+    const int r = ApilarElementoMatriz(matriz, texto, posicion);
+    return r != Bien ? r : OperandoHecho();
+}
+
+int PalabraDesconocida(std::string_view token) {
+    MostrarMensaje(Evaluador.ventana, Formatear("Función desconocida [%s]"_w, std::string(token).c_str()));
+    return 199;
+}
+
+// How the ")" that a function leaves behind is consumed, and why a stray one does no harm.
+int ElementoVacio(const std::string &texto, int &posicion) {
+    if (posicion < static_cast<int>(texto.size())) ++posicion;
+    return Bien;
+}
+
+int SerieVisible(std::string_view token) {
+    return SeriesPermitidas != 0 && token.size() < AnchoCodigo ? BuscarSerie(token) : -1;
+}
+
+// One element; `posicion` is behind its token and the blanks there. The first test that fits decides: a name is a
+// function rather than a series, and a series rather than a scalar or a matrix.
+int Elemento(std::string_view token, LineasSentencia &lineas, int &posicion) {
+    const std::string &texto = TextoDelNivel(lineas);
+    // In front of all, because a scalar or a matrix can have a code of blanks, which nothing should call up.
+    if (token.empty()) return ElementoVacio(texto, posicion);
+
+    if (const FuncionSerie *f = BuscarFuncionSerie(token); f != nullptr)
+        return ElementoFuncion(*f, lineas, posicion);
+    if (token == "AND" || token == "OR") return ElementoLogico(token, lineas, posicion);
+    if (const int s = SerieVisible(token); s >= 0) return ElementoSerie(s, texto, posicion);
+    if (EsNumero(token)) return ElementoConstante(LeerDecimal(token), 9, 10);
+    if (const int e = BuscarEscalar(token); e >= 0)
+        return ElementoConstante(TablaEscalares.registro[e].Valor, 11, 12);
+    if (EsFuncionMatriz(token)) return ElementoFuncionMatriz(token, lineas, posicion);
+    if (EsOperador(token)) return ElementoConOperador(token[0], lineas, posicion);
+    if (token == "(") return ElementoParentesis(lineas, posicion);
+    if (const int m = BuscarMatriz(token); m >= 0) return ElementoMatriz(m, texto, posicion);
+    return PalabraDesconocida(token);
+}
+
+// ---------------------------------------------------------------------------------------------------------------
+// Levels
+
+// Evaluates the buffer of the present level from `posicion` to the first character that is no text of a formula:
+// what stands behind a comma or a semicolon is ignored without a word.
+int EvaluarNivel(LineasSentencia &lineas, int &posicion) {
+    Evaluador.EstadoElemento = ElementoInicio;
+    const std::string &texto = TextoDelNivel(lineas);
+    while (EsDeToken(CaracterEn(texto, posicion))) {
+        const std::string_view token = SiguienteToken(texto, posicion);
+        const int r = Elemento(token, lineas, posicion);
+        if (r != Bien) return MensajePunto(Evaluador.ventana, texto, r);
+        SaltarBlancos(texto, posicion);
+    }
+    return 1;
+}
+
+} // namespace
+
+int EvaluarTrozo(LineasSentencia &lineas, int desde, int hasta) {
+    const std::string &texto = TextoDelNivel(lineas);
+    const std::size_t inicio = std::min(static_cast<std::size_t>(desde), texto.size());
+    lineas[static_cast<std::size_t>(Evaluador.NivelLinea) + 1].assign(
+        texto, inicio, static_cast<std::size_t>(hasta) - inicio);
+    ++Evaluador.NivelLinea;
+    int posicion = 0;
+    const int r = EvaluarNivel(lineas, posicion);
+    --Evaluador.NivelLinea;
+    return r;
+}
+
+int EvaluarFormula(LineasSentencia &lineas, int &posicion, int primera, int ultima) {
+    Evaluador.PrimeraEval = primera;
+    Evaluador.UltimaEval = ultima;
+    if (primera < 0 || ultima < 0 || ArchivoTrabajo.NumObs > MaxObservaciones) return 1;
+    const std::string &texto = TextoDelNivel(lineas);
+    // A sample without data ends at row 100,000.
+    if (primera >= MaxObservaciones || ultima >= MaxObservaciones)
+        return MensajePunto(Evaluador.ventana, texto, 88);
+    if (EvaluarNivel(lineas, posicion) == 0) return 0;
+    // An empty parenthesis counts as an operand and leaves none.
+    return Evaluador.profundidad > 0 ? 1 : MensajePunto(Evaluador.ventana, texto, 1119);
+}

@@ -1,0 +1,88 @@
+// What the files of the series evaluator share with each other and with nobody else.
+#pragma once
+
+#include "language/evaluador.h"
+
+#include <algorithm>
+#include <string_view>
+
+// ----- Tokens
+
+// The token at `posicion`, which moves behind it, the blanks on both sides skipped. "(" is a token that stays unread,
+// ")" and whatever is no text of a formula give the empty token and stay unread too. The view is into `texto`.
+std::string_view SiguienteToken(const std::string &texto, int &posicion);
+
+// ----- Levels
+
+// Evaluates the characters from `desde` up to `hasta` (not included) of the present level, in the buffer of the next
+// one, which exists. 1, or 0 after the boxes of the levels below.
+int EvaluarTrozo(LineasSentencia &lineas, int desde, int hasta);
+
+// True when no further level exists.
+inline bool UltimoNivel() {
+    return Evaluador.NivelLinea >= MaxNiveles - 1;
+}
+
+// ----- The stack
+
+// The rows that an evaluation works on; empty when `hasta` is below `desde`.
+struct FilasEvaluacion {
+    int desde, hasta;
+};
+
+inline FilasEvaluacion FilasDeEvaluacion() {
+    return {std::max(Evaluador.PrimeraEval, 0), std::min(Evaluador.UltimaEval, MaxObservaciones - 1)};
+}
+
+// The rows that a push fills: the row PrimeraEval even when the evaluation has no rows, since a scalar reads it.
+inline FilasEvaluacion FilasDeCarga() {
+    const FilasEvaluacion f = FilasDeEvaluacion();
+    return {f.desde, std::max(f.hasta, std::min(f.desde, MaxObservaciones - 1))};
+}
+
+// Column `k` places below the top one.
+inline ColumnaPila &Columna(int k) {
+    return Evaluador.PilaColumnas[Evaluador.profundidad - 1 - k];
+}
+
+// ----- Operands
+
+// The lag of a series that was pushed just now; `posicion` is on the "(". False when it is no lag.
+bool AplicarRetardo(int serie, const std::string &texto, int &posicion);
+
+// The period of the series on top; `posicion` is on the "[". False when there is no such row in the sample.
+bool AplicarPeriodo(const std::string &texto, int &posicion);
+
+// Element of a matrix, `posicion` where its "[" should be. 1, or the number of the failure.
+int ApilarElementoMatriz(int matriz, const std::string &texto, int &posicion);
+
+// ----- Operators
+
+// True for the one-character texts that are operators.
+bool EsOperador(std::string_view token);
+
+// Takes an operator into OperadoresPendientes. False when it is full.
+bool AnotarOperador(char operador);
+
+// Applies the last pending operator, which is taken off, to the two top columns. False when it is none.
+bool AplicarOperador();
+
+// Applies the pending "-" as a sign to the top column. False when the zero on its left finds no room.
+bool AplicarSigno();
+
+// Applies OperadorLogico to the two top columns. False when it is neither AND nor OR.
+bool AplicarLogico();
+
+// A row of the left column is missing where the right one is. Nothing ever makes it present again.
+void JuntarPresencia(ColumnaPila &a, const ColumnaPila &b);
+
+// ----- Functions
+
+struct FuncionSerie;
+
+// The function of this name, or null.
+const FuncionSerie *BuscarFuncionSerie(std::string_view nombre);
+
+// Reads the arguments of a function from `posicion`, where its "(" stands if it has one, and applies it. 0, with
+// `posicion` on the closing ")" of the call, or the number of the failure.
+int AplicarFuncionSerie(const FuncionSerie &funcion, LineasSentencia &lineas, int &posicion);

@@ -1,0 +1,112 @@
+// The store operations: the top column of the stack becomes a series, a scalar or one observation.
+#include "language/asignaciones.h"
+#include "platform/numeros.h"
+#include "store/archivo.h"
+#include "store/periodos.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int UltimaFila = MaxObservaciones - 1;
+
+// With such a work file or such bounds every step of a formula does nothing and reports success.
+bool SinEfecto() {
+    return ArchivoTrabajo.NumObs > MaxObservaciones || Evaluador.PrimeraEval < 0 || Evaluador.UltimaEval < 0;
+}
+
+// A series can't bear the name of a matrix or a scalar. With nothing on the stack there is nothing to store.
+bool Rechazada(const char *serie) {
+    return BuscarMatriz(serie) >= 0 || BuscarEscalar(serie) >= 0 || Evaluador.profundidad < 1;
+}
+
+// Rows of the sample with their value and flag where there is one; all else of the 4,000 rows is cleared. A row
+// without its flag holds 0.0 already, and leaving its value alone halves the memory that a store goes through.
+void CopiarColumna(int serie, int primera, int ultima) {
+    const ColumnaPila &columna = ColumnaSuperior();
+    CabeceraArchivo &a = ArchivoTrabajo;
+    for (int i = 0; i < MaxObservaciones; ++i) {
+        const bool hay = i >= primera && i <= ultima && columna.presente[i] == 1;
+        if (!hay && a.PresenciaObs[i][serie] == 0) continue;
+        a.ValoresObs[i][serie] = hay ? columna.valor[i] : 0.0;
+        a.PresenciaObs[i][serie] = hay ? 1 : 0;
+    }
+}
+
+// A lag leaves the first rows of the work file without a value, whatever the sample; a lead the last rows of the
+// sample. With several lags in the formula the last one read rules.
+void LimpiarRetardo(int serie, int primera, int ultima) {
+    const std::int64_t n = Evaluador.ValorRetardo;
+    std::int64_t desde = 0;
+    std::int64_t hasta = std::min<std::int64_t>(-n - 1, UltimaFila);
+    if (n > 0) {
+        desde = std::max<std::int64_t>(ultima - n + 1, primera);
+        hasta = ultima;
+    }
+    for (std::int64_t i = desde; i <= hasta; ++i) {
+        ArchivoTrabajo.ValoresObs[i][serie] = 0.0;
+        ArchivoTrabajo.PresenciaObs[i][serie] = 0;
+    }
+}
+
+// First row from `desde` to `hasta` whose text reads as this number, or -1. Two equal texts read as equal numbers, so
+// this is also the first row that bears the text.
+int FilaDeValor(double valor, int desde, int hasta) {
+    const double *valores = ArchivoTrabajo.ValoresPeriodo;
+    const double *fin = valores + std::clamp(hasta + 1, desde, MaxObservaciones);
+    const double *fila = std::find(valores + desde, fin, valor);
+    return fila == fin ? -1 : static_cast<int>(fila - valores);
+}
+
+int GuardarEnPeriodo(std::string_view periodo, bool fueraDeMuestra) {
+    if (SinEfecto()) return 1;
+    if (Rechazada(Destinos.serie)) return 0;
+    const int serie = BuscarSerie(Destinos.serie);
+    if (serie < 0) return 0;
+    const int primera = std::min(Evaluador.PrimeraEval, UltimaFila);
+    const int ultima = std::min(Evaluador.UltimaEval, UltimaFila);
+    const double numero = LeerDecimal(periodo);
+    int fila = FilaDeValor(numero, primera, ultima);
+    const int escalar = fila < 0 ? BuscarEscalar(periodo) : -1;
+    if (escalar >= 0) fila = FilaDeValor(TablaEscalares.registro[escalar].Valor, primera, ultima);
+    if (fila < 0 && fueraDeMuestra) fila = FilaDeValor(numero, 0, ArchivoTrabajo.NumObs - 1);
+    if (fila < 0) return 1;
+    // The value is that of the first row of the bounds, for every row, and it is stored as present even where the
+    // formula had it missing.
+    ArchivoTrabajo.ValoresObs[fila][serie] = ValorSuperior();
+    ArchivoTrabajo.PresenciaObs[fila][serie] = 1;
+    RefrescarEditor();
+    --Evaluador.profundidad;
+    return 1;
+}
+
+} // namespace
+
+int GuardarSerie() {
+    if (SinEfecto()) return 1;
+    if (Rechazada(Destinos.serie)) return 0;
+    const int serie = TomarSerie(Destinos.serie);
+    if (serie < 0) return 0;
+    const int primera = std::min(Evaluador.PrimeraEval, UltimaFila);
+    const int ultima = std::min(Evaluador.UltimaEval, UltimaFila);
+    CopiarColumna(serie, primera, ultima);
+    if (Evaluador.MarcaRetardo == 1) LimpiarRetardo(serie, primera, ultima);
+    ArchivoTrabajo.PrimeraObs[serie] = static_cast<std::int16_t>(primera);
+    ArchivoTrabajo.UltimaObs[serie] = static_cast<std::int16_t>(ultima);
+    PonerCodigoSerie(serie, Destinos.serie);
+    RefrescarEditor();
+    return 1;
+}
+
+int GuardarEscalar() {
+    if (SinEfecto()) return 0;
+    return PonerEscalar(Evaluador.ventana, Destinos.escalar, ValorSuperior());
+}
+
+int GuardarObservacion(std::string_view periodo, Ventana *) {
+    return GuardarEnPeriodo(periodo, true);
+}
+
+int GuardarObservacionMuestra(std::string_view periodo, Ventana *) {
+    return GuardarEnPeriodo(periodo, false);
+}

@@ -1,0 +1,88 @@
+// The loop that runs a batch of statements: the selection of a text control, or the one statement of a dialog.
+#include "language/lote_sentencias.h"
+
+#include "estimation/regresion.h"
+#include "platform/texto.h"
+#include "store/archivo.h"
+
+#include <algorithm>
+
+EstadoLote Lote{1, 2, 0, 0};
+
+namespace {
+
+constexpr std::size_t MinimoLinea = 60;   // characters of a line buffer, however short the selection is
+constexpr std::size_t LineaDialogo = 600; // of a line buffer for the statement of a dialog
+
+// The text of a batch and the stretch of it that runs: [desde, hasta).
+struct TextoDeLote {
+    std::string completo;
+    int desde, hasta;
+};
+
+// False after its message when nothing is selected: the whole text isn't taken then, the user must select.
+bool TomarSeleccion(Ventana *ventana, ControlTexto *control, TextoDeLote &texto) {
+    texto.completo = TextoDeControl(control);
+    SeleccionDeControl(control, texto.desde, texto.hasta);
+    const int largo = static_cast<int>(texto.completo.size());
+    texto.desde = std::clamp(texto.desde, 0, largo);
+    texto.hasta = std::clamp(texto.hasta, texto.desde, largo);
+    if (texto.hasta - texto.desde + 2 >= 3) return true;
+    MostrarMensaje(ventana, "No hay datos a procesar. Punto 3.");
+    return false;
+}
+
+// Runs the statements. True when none of them stopped the batch.
+bool RecorrerLote(Ventana *ventana, int origen, std::string_view sentencia, const TextoDeLote &texto,
+                  int primera, int ultima) {
+    LineasSentencia lineas;
+    const std::size_t seleccion = static_cast<std::size_t>(texto.hasta - texto.desde);
+    for (std::string &linea : lineas)
+        linea.reserve(origen == 0 ? std::max(2 * seleccion + 4, MinimoLinea) : LineaDialogo);
+    PonerCursor(CursorEspera);
+    int codigo = OrdenDesconocida;
+    for (int posicion = texto.desde; posicion < texto.hasta;) {
+        if (EjecutarSentencia(origen, lineas, texto.hasta, posicion, sentencia, texto.completo, ventana,
+                              primera, ultima, codigo) == 0)
+            return false;
+        Lote.NingunaSentenciaHecha = 0;
+    }
+    return true;
+}
+
+} // namespace
+
+void IniciarLote() {
+    Lote = {1, 2, 0, 0};
+    IniciarRegresion();
+}
+
+int MensajeNumerado(Ventana *ventana, int punto, std::string_view texto) {
+    MostrarMensaje(ventana, Formatear("Punto %d, ", punto).append(texto));
+    return 0;
+}
+
+int ProcesarLote(Ventana *ventana, ControlTexto *control, int origen, std::string_view texto, int primera,
+                 int ultima) {
+    Lote.detenido = 1;
+    Evaluador.ventana = ventana;
+    LimpiarEvaluador();
+    Lote.NingunaSentenciaHecha = 1;
+    Evaluador.PrimeraEval = primera;
+    Evaluador.UltimaEval = ultima;
+    if (ArchivoTrabajo.TipoDatos >= SinTipoDatos) {
+        MostrarMensaje(ventana, "Tipo de datos no válidos"_w);
+        return 0;
+    }
+    if (!AbrirPilaColumnas()) {
+        MensajeSinMemoria(2001, 2002, ventana);
+        return 0;
+    }
+    TextoDeLote deLote{{}, 0, 1};
+    if (origen != 0 || TomarSeleccion(ventana, control, deLote)) {
+        if (RecorrerLote(ventana, origen, texto, deLote, primera, ultima)) Lote.detenido = 0;
+        PonerCursor(CursorFlecha);
+    }
+    CerrarPilaColumnas();
+    return 0;
+}

@@ -1,0 +1,158 @@
+// The tables of the help pages and the walk from page to page.
+#include "shell/ayuda.h"
+
+#include "shell/ayuda_textos.h"
+
+int CerrarAyuda;
+
+namespace {
+
+constexpr const char *TituloReglas = "Reglas generales";
+constexpr const char *TituloSeries = "Generación de series"_w;
+constexpr const char *TituloMatrices = "Generación de matrices"_w;
+constexpr const char *TituloMetodos = "Métodos y contrastes"_w;
+constexpr const char *TituloControl = "Control de flujo y otros";
+
+// Three texts stand twice: in a chain, and alone behind an entry of their own.
+constexpr PaginaManual Paginas[] = {
+    {1194, TituloReglas, 2067, 5074, TextoReglas1},
+    {1138, TituloReglas, 0, 5035, TextoReglas2},
+    {1128, TituloReglas, 0, 0, TextoReglas3},
+    {1197, TituloSeries, 2051, 5015, TextoSeries1},
+    {1130, TituloSeries, 0, 5058, TextoSeries2},
+    {1127, TituloSeries, 0, 5033, TextoSeries3},
+    {1131, TituloSeries, 0, 5034, TextoSeries4},
+    {1132, TituloSeries, 0, 5073, TextoProbabilidades},
+    {1217, TituloSeries, 0, 5075, TextoLogicos},
+    {1218, TituloSeries, 0, 0, TextoFicticias},
+    {1192, TituloMatrices, 2069, 5018, TextoMatrices1},
+    {1129, TituloMatrices, 0, 0, TextoMatrices2},
+    {1191, TituloMetodos, 2084, 5065, TextoMetodos1},
+    {1133, TituloMetodos, 0, 5068, TextoMetodos2},
+    {1134, TituloMetodos, 0, 0, TextoMetodos3},
+    {1190, TituloControl, 2089, 5070, TextoControl1},
+    {1135, TituloControl, 0, 5071, TextoControl2},
+    {1136, TituloControl, 0, 0, TextoControl3},
+    {1193, "Generación de escalares"_w, 2068, 0, TextoEscalares},
+    {1196, "Calculadora", 2053, 0, TextoCalculadora},
+    {PaginaMuestra, "Acotación intervalos muestra"_w, 2101, 0, TextoMuestra},
+    {1220, TituloSeries, 2096, 0, TextoLogicos},
+    {1221, TituloSeries, 2097, 0, TextoFicticias},
+    {1219, TituloSeries, 2098, 0, TextoProbabilidades},
+    {1224, "Acceso a procedimientos desde la Pantalla de Edición"_w, 2102, 0, TextoPantalla},
+    {1223, "Ejemplos de ayuda", 2100, 0, TextoEjemplos},
+    {PaginaAcerca, "Acerca de..", 2046, 0, TextoAcerca},
+    {1222, TituloSeries, 2099, 0, TextoRetardadas},
+    {1195, "Alisado exponencial", 2052, 0, TextoAlisado},
+    {PaginaEdicion, "Ventana de Edición"_w, 0, 0, TextoEdicion},
+    {PaginaNoEnsamblada, "Opción del menú"_w, 0, 0, TextoNoEnsamblada},
+    {PaginaAscii, "Importación/Exportación a/de  ASCII"_w, 0, 0, TextoAscii},
+    {PaginaPanel, "Datos Panel", 0, 0, TextoPanel},
+};
+
+// Commands that have no routine.
+constexpr int ComandosSinEnsamblar[] = {2001, 2002, 2003, 2010};
+
+struct EnlaceAyuda {
+    int origen, pagina;
+};
+
+constexpr EnlaceAyuda ComandosEditor[] = {{2046, PaginaEdicion}, {2074, PaginaNoEnsamblada}};
+
+constexpr EnlaceAyuda BotonesSiguiente[] = {
+    {5015, 1130}, {5018, 1129}, {5033, 1131}, {5034, 1132}, {5035, 1128}, {5058, 1127}, {5065, 1133},
+    {5068, 1134}, {5070, 1135}, {5071, 1136}, {5072, 1137}, {5073, 1217}, {5074, 1138}, {5075, 1218},
+};
+
+constexpr EntradaMenuAyuda Menu[] = {
+    {2067, "&Reglas generales..."},
+    {2101, "Acotación de la muestra..."_w},
+    {2051, "&Transformación de series..."_w},
+    {2068, "&Escalares..."},
+    {2053, "&Calculadora..."},
+    {2069, "Cálculo &matricial..."_w},
+    {2084, "Mét&odos y contrastes..."_w},
+    {2089, "Co&ntrol de flujo y otros..."},
+    {2096, "Operadores lógicos..."_w},
+    {2097, "Series ficticias..."},
+    {2098, "Probabilidades..."},
+    {2102, "Funciones desde Pantalla Edición"_w},
+    {2100, "Ejemplos de ayuda..."},
+    {2046, "&Acerca de Tabira..."},
+};
+
+constexpr const char *Nombres[] = {"Los autores de Tabira", "Los autores de Tabira",
+                                   "Colaboradores de Tabira"};
+
+int Enlazada(std::span<const EnlaceAyuda> enlaces, int origen) {
+    for (const EnlaceAyuda &e : enlaces)
+        if (e.origen == origen) return e.pagina;
+    return 0;
+}
+
+bool TieneAnterior(const PaginaManual &pagina) {
+    for (const PaginaManual &p : Paginas)
+        if (p.botonSiguiente != 0 && PaginaDeBoton(p.botonSiguiente) == pagina.id) return true;
+    return false;
+}
+
+} // namespace
+
+std::span<const PaginaManual> PaginasManual() {
+    return Paginas;
+}
+
+std::span<const EntradaMenuAyuda> MenuAyuda() {
+    return Menu;
+}
+
+std::span<const char *const> NombresAcercaDe() {
+    return Nombres;
+}
+
+const PaginaManual *BuscarPagina(int id) {
+    for (const PaginaManual &p : Paginas)
+        if (p.id == id) return &p;
+    return nullptr;
+}
+
+int PaginaDeComando(int comando) {
+    for (const int c : ComandosSinEnsamblar)
+        if (c == comando) return PaginaNoEnsamblada;
+    for (const PaginaManual &p : Paginas)
+        if (p.comando != 0 && p.comando == comando) return p.id;
+    return 0;
+}
+
+int PaginaDeComandoEditor(int comando) {
+    return Enlazada(ComandosEditor, comando);
+}
+
+int PaginaDeBoton(int boton) {
+    return Enlazada(BotonesSiguiente, boton);
+}
+
+BotonesPagina BotonesDePagina(const PaginaManual &pagina) {
+    BotonesPagina b{};
+    const bool anterior = TieneAnterior(pagina), siguiente = pagina.botonSiguiente != 0;
+    if (!anterior && !siguiente) {
+        b.boton[b.numero++] = {BotonAyudaOK, "OK"};
+        return b;
+    }
+    if (anterior) b.boton[b.numero++] = {BotonAyudaAnterior, "Anterior"};
+    if (siguiente) b.boton[b.numero++] = {pagina.botonSiguiente, "Siguiente"};
+    b.boton[b.numero++] = {BotonAyudaCancelar, "Cancelar"};
+    return b;
+}
+
+void PaginaAyuda(Ventana *ventana, int id, AbrirPagina abrir) {
+    const PaginaManual *pagina = BuscarPagina(id);
+    while (pagina != nullptr) {
+        const int boton = abrir(ventana, *pagina);
+        if (boton == BotonAyudaCancelar) CerrarAyuda = 1;
+        if (boton == 0 || boton != pagina->botonSiguiente) return;
+        CerrarAyuda = 0;
+        PaginaAyuda(ventana, PaginaDeBoton(boton), abrir);
+        if (CerrarAyuda != 0) return;
+    }
+}

@@ -1,0 +1,86 @@
+// The help pages: what each one says, which command opens it, and how the buttons lead from page to page.
+#pragma once
+
+#include "platform/plataforma.h"
+
+#include <span>
+
+// An example line holds a statement, or a line of a block, that runs as it stands.
+enum TiposDeLineaAyuda { LineaDeTexto, LineaDeEjemplo };
+
+struct LineaAyuda {
+    TiposDeLineaAyuda tipo;
+    const char *texto; // at most AnchoLineaAyuda characters; null behind the last line of a page
+};
+
+inline constexpr int AnchoLineaAyuda = 78;
+
+// The pages that something else than the menu "Ayuda" opens too, by their id.
+inline constexpr int PaginaMuestra = 1114; // sample dialog, data type dialog
+inline constexpr int PaginaNoEnsamblada = 1125;
+inline constexpr int PaginaEdicion = 1126;
+inline constexpr int PaginaAscii = 1141;
+inline constexpr int PaginaPanel = 1144;
+inline constexpr int PaginaAcerca = 1198;
+
+struct PaginaManual {
+    int id;
+    const char *titulo;
+    int comando;        // command of the main window that opens it, 0 for none
+    int botonSiguiente; // id of its button "Siguiente", 0 for none
+    const LineaAyuda *lineas;
+};
+
+// All the pages.
+std::span<const PaginaManual> PaginasManual();
+
+// The page with this id, null when there is none.
+const PaginaManual *BuscarPagina(int id);
+
+// Id of the page that a command of the main window opens, 0 when it opens none. The commands that aren't built yet
+// and have no routine at all (2001 to 2003, 2010) open the page "No ensamblada".
+int PaginaDeComando(int comando);
+
+// The same for the commands of the editor window, where "Ayuda" bears the id that "Acerca de" has elsewhere.
+int PaginaDeComandoEditor(int comando);
+
+// Id of the page that a "Siguiente" button opens, 0 for any other id. Button 5072 leads to a page that doesn't exist.
+int PaginaDeBoton(int boton);
+
+// The entries of the menu "Ayuda", in their order.
+struct EntradaMenuAyuda {
+    int comando;
+    const char *texto; // with its mnemonic
+};
+std::span<const EntradaMenuAyuda> MenuAyuda();
+
+// What stands in the name fields of the page "Acerca de..", the first beside "Diseño :" and the others beside
+// "Programación informática:".
+std::span<const char *const> NombresAcercaDe();
+
+// Ids of the buttons that every page may have; "Siguiente" has an id of its own on each page.
+enum BotonesAyuda { BotonAyudaOK = 1, BotonAyudaCancelar = 2, BotonAyudaAnterior = 3 };
+
+struct BotonPagina {
+    int id;
+    const char *texto;
+};
+
+// The buttons of a page, from left to right. A page alone has "OK"; a page of a chain has "Anterior" if a page leads to
+// it, "Siguiente" if it leads to one, and "Cancelar". "OK" closes only the page on top, which on the last page of a chain
+// would be another "Anterior"; so no page of a chain bears it.
+struct BotonesPagina {
+    BotonPagina boton[3];
+    int numero;
+};
+BotonesPagina BotonesDePagina(const PaginaManual &pagina);
+
+// 1 once "Cancelar" was pressed, so that every page below closes too.
+extern int CerrarAyuda;
+
+// Shows one page, modal, and returns the id of the button that closed it; BotonAyudaCancelar when it was closed otherwise.
+using AbrirPagina = int (*)(Ventana *ventana, const PaginaManual &pagina);
+
+// Shows a page, and those to which its buttons lead, until they are closed: "Siguiente" opens the next page above this
+// one, "Anterior" and "OK" go back to the page below, "Cancelar" closes all. An id without a page shows nothing.
+void PaginaAyuda(Ventana *ventana, int id, AbrirPagina abrir);

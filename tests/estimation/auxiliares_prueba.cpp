@@ -1,0 +1,212 @@
+// The auxiliary regressions: restricted model, the halves of Goldfeld and Quandt, White's equation.
+#include "apoyo/datos_regresion.h"
+#include "estimation/ecuacion.h"
+#include "estimation/pasos.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace {
+
+using Textos = std::vector<std::string>;
+
+std::string Unir(const std::vector<std::string> &nombres) {
+    std::string r;
+    for (const std::string &n : nombres) r += n + " ";
+    return r;
+}
+
+// The regression of a code up to where its report would come; what it stored stays.
+struct Corrida {
+    LineasSentencia lineas;
+    Estimacion e;
+    bool leida, estimada;
+};
+
+void Correr(Corrida &c, int codigo, const char *texto) {
+    AbrirPilaColumnas();
+    LimpiarEvaluador();
+    c.lineas[0] = texto;
+    c.e.lineas = &c.lineas;
+    c.e.codigo = codigo;
+    c.leida = LeerEcuacion(c.e, 0) == 1;
+    c.estimada = c.leida && EjecutarPasos(c.e) == 1 && CompletarRegresion(c.e) == 1;
+    SoltarTodasMatrices();
+    CerrarPilaColumnas();
+}
+
+double Prob(const char *formula) {
+    EXPECT_TRUE(Procesar(std::string("ESC PROBADA = ") + formula));
+    return EscalarDe("PROBADA");
+}
+
+} // namespace
+
+TEST(ModeloRestringido, ComparaSumasDeCuadrados) {
+    EmpezarRegresion();
+    ASSERT_TRUE(Procesar("MC Y 1 X Z"));
+    const double scr = EscalarDe("_SCR");
+    const std::vector<double> res = ValoresDe("_RES", 20);
+    Corrida c;
+    Correr(c, OrdenCR, "Y 1 X");
+    ASSERT_TRUE(c.estimada) << Unir(TextosDeCajas());
+    const double scrr = EscalarDe("_SCRR");
+    EXPECT_GT(scrr, scr);
+    EXPECT_EQ(EscalarDe("_SCR"), scr);
+    EXPECT_EQ(EscalarDe("_EST5"), 1.0);
+    EXPECT_DOUBLE_EQ(EscalarDe("_FORLAR"), ((scrr - scr) / 1) / (scr / 17));
+    EXPECT_EQ(EscalarDe("_ESTFR"), Prob("PROBF(_FORLAR,1,17)"));
+    EXPECT_EQ(Unir(UltimaRegresion.TextosRegresores), "1 X ");
+    EXPECT_EQ(Unir(UltimaRegresion.CodigosRegresores), "1 X Z ");
+    EXPECT_EQ(UltimaRegresion.NumTextos, 2);
+
+    // The statement itself removes all of it, and leaves the MC as it was.
+    EXPECT_FALSE(Procesar("CR Y 1 X"));
+    for (const char *e : {"_EST5", "_FORLAR", "_ESTFR", "_SCRR", "_NORER"})
+        EXPECT_EQ(BuscarEscalar(e), -1) << e;
+    for (const char *s : {"_RESR", "_DIVR", "_PROBTR", "_DTER2", "_YAJUS", "_BETA2"})
+        EXPECT_EQ(BuscarSerie(s), -1) << s;
+    for (const char *m : {"_BETAR", "_COVR", "_DTER", "_DTER1"}) EXPECT_EQ(BuscarMatriz(m), -1) << m;
+    EXPECT_EQ(ValoresDe("_RES", 20), res);
+    EXPECT_GE(BuscarMatriz("_BETA"), 0);
+    EXPECT_GE(BuscarMatriz("_COV"), 0);
+}
+
+TEST(ModeloRestringido, LosGradosSonLosDelRangoDelMomento) {
+    EmpezarRegresion();
+    ASSERT_TRUE(Procesar("MC Y 1 X Z"));
+    Corrida c;
+    Correr(c, OrdenCR, "Y 1 X(-2)");
+    ASSERT_TRUE(c.estimada) << Unir(TextosDeCajas());
+    const double scr = EscalarDe("_SCR"), scrr = EscalarDe("_SCRR");
+    EXPECT_DOUBLE_EQ(EscalarDe("_FORLAR"), (scrr - scr) / (scr / (18 - 3)));
+}
+
+TEST(ModeloRestringido, FamiliaOcupada) {
+    const struct {
+        const char *nombre, *caja;
+    } Casos[] = {
+        {"_EST5", "Secuencia no válida. Pto 656"},
+        {"_SCRR", "Secuencia no válida. Pto 656"},
+        {"_ESTFR", "Secuencia no válida. Pto 881"}, // the common step comes first
+    };
+    for (const auto &caso : Casos) {
+        EmpezarRegresion();
+        ASSERT_TRUE(Procesar("MC Y 1 X Z"));
+        PonerSerie(caso.nombre, {1.0});
+        EXPECT_FALSE(Procesar("CR Y 1 X"));
+        EXPECT_EQ(TextosDeCajas(), Textos{caso.caja}) << caso.nombre;
+    }
+}
+
+TEST(GoldfeldQuandt, HeredaLaCuentaDelUltimoMC) {
+    EmpezarRegresion();
+    ASSERT_TRUE(Procesar("MC Y 1 X Z"));
+    Corrida c;
+    Muestra.FinRegresion = 9;
+    Correr(c, OrdenMGN, "Y 1 X");
+    ASSERT_TRUE(c.estimada);
+    EXPECT_EQ(EscalarDe("_ANREGGN"), 2.0);
+    EXPECT_EQ(EscalarDe("_NREGGN"), 2.0);
+    EXPECT_EQ(EscalarDe("_NOREGN"), 8.0);
+    EXPECT_EQ(UltimaRegresion.NumRegresores, 3);
+    EXPECT_EQ(BuscarSerie("_RESGN") >= 0, true);
+}
+
+// ----- White
+
+struct CasoWhite {
+    const char *antes; // statements
+    const char *opciones;
+    const char *textos; // the list of the auxiliary regression
+    int grados;
+};
+
+class EcuacionWhite : public testing::TestWithParam<CasoWhite> {};
+
+TEST_P(EcuacionWhite, Regresores) {
+    const CasoWhite &caso = GetParam();
+    EmpezarRegresion();
+    ASSERT_TRUE(Procesar(caso.antes)) << Unir(TextosDeCajas());
+    Corrida c;
+    Correr(c, OrdenCWH, caso.opciones);
+    ASSERT_TRUE(c.estimada) << Unir(TextosDeCajas());
+    EXPECT_EQ(Unir(c.e.textos), caso.textos);
+    EXPECT_EQ(Unir(UltimaRegresion.TextosRegresores), caso.textos);
+    EXPECT_EQ(UltimaRegresion.SeriesRegresion[OrdenCWH], caso.grados);
+    EXPECT_EQ(EscalarDe("_TM12"), caso.grados);
+    EXPECT_NEAR(EscalarDe("_TM11"), c.e.observaciones * EscalarDe("_RCW"), 5e-7);
+    EXPECT_EQ(EscalarDe("_TM13"), Prob("PROBC(_TM11,_TM12)"));
+    EXPECT_EQ(c.e.dependiente, "_RESCUAD");
+    // Squares in all 4,000 rows, all present.
+    const int r = BuscarSerie("_RES"), s = BuscarSerie("_RESCUAD");
+    ASSERT_GE(s, 0);
+    for (const int i : {0, 7, 19, 20, 3999}) {
+        EXPECT_EQ(ArchivoTrabajo.ValoresObs[i][s],
+                  ArchivoTrabajo.ValoresObs[i][r] * ArchivoTrabajo.ValoresObs[i][r]);
+        EXPECT_EQ(ArchivoTrabajo.PresenciaObs[i][s], 1);
+    }
+    EXPECT_EQ(std::string(UltimaRegresion.CodigoDependiente), "Y           ");
+
+    EXPECT_FALSE(Procesar(std::string("CWH ") + caso.opciones)); // its report is still to come
+    for (const char *n : {"_RESCUAD", "_TMP1", "_TMP2", "_RESW", "_TMR1", "_DTEW2"})
+        EXPECT_EQ(BuscarSerie(n), -1) << n;
+    for (const char *n : {"_TM11", "_TM12", "_TM13", "_RCW"}) EXPECT_EQ(BuscarEscalar(n), -1) << n;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Listas, EcuacionWhite,
+    testing::Values(CasoWhite{"MC Y 1 X Z", "", "1 X Z X*X Z*Z ", 4},
+                    CasoWhite{"MC Y 1 X Z", "RA", "1 X Z X*X Z*Z ", 4},
+                    CasoWhite{"MC Y 1 X Z", "PC", "1 X Z X*X Z*Z X*Z ", 5},
+                    CasoWhite{"MC Y X Z", "", "X Z 1 X*X Z*Z ", 4},               // a constant is added
+                    CasoWhite{"SER D = X > 10\nMC Y 1 X D", "", "1 X D X*X ", 3}, // a dummy is its own square
+                    CasoWhite{"SER XX = X * X\nMC Y 1 X XX", "", "1 X XX XX*XX ", 3},
+                    CasoWhite{"MC Y 1 X(-1)", "", "1 X(-1) X(-1)*X(-1) ", 2}));
+
+TEST(EcuacionWhiteFallos, SinResiduos) {
+    EmpezarRegresion();
+    ASSERT_TRUE(Procesar("MC Y 1 X"));
+    EliminarSerie(BuscarSerie("_RES"));
+    EXPECT_FALSE(Procesar("CWH"));
+    EXPECT_EQ(TextosDeCajas(), Textos{"No existen los residuos. Pto 1634"});
+    // After a weighted regression the residuals are those on the original data.
+    Prueba.cajas.clear();
+    UltimaRegresion.MetodoRegresion = OrdenMCP;
+    PonerSerie("_RES", {1, 2, 3});
+    EXPECT_FALSE(Procesar("CWH"));
+    EXPECT_EQ(TextosDeCajas(), Textos{"No existen los residuos. Pto 1634"});
+}
+
+TEST(EcuacionWhiteFallos, SinSitio) {
+    EmpezarRegresion();
+    ASSERT_TRUE(Procesar("MC Y 1 X"));
+    while (CabeOtraSerie()) PonerSerie(Formatear("S%d", ArchivoTrabajo.NumSeries), {1.0});
+    EXPECT_FALSE(Procesar("CWH"));
+    EXPECT_EQ(TextosDeCajas(), Textos{"Borre algunas series. Pto 1634"});
+    EmpezarRegresion();
+    ASSERT_TRUE(Procesar("MC Y 1 X"));
+    while (ArchivoTrabajo.NumSeries < 98) PonerSerie(Formatear("S%d", ArchivoTrabajo.NumSeries), {1.0});
+    EXPECT_FALSE(Procesar("CWH"));
+    EXPECT_EQ(TextosDeCajas(), Textos{"Borre algunas series. Pto 862"});
+}
+
+TEST(Ponderada, LaHeredanLosContrastesHastaElSiguienteMC) {
+    EmpezarRegresion();
+    ASSERT_TRUE(Procesar("MC Y 1 X Z"));
+    EXPECT_FALSE(Procesar("MCP ( LN(X) / 2 ) Y 1 X"));
+    EXPECT_EQ(UltimaRegresion.Ponderada, 1);
+    EXPECT_EQ(UltimaRegresion.TextoPonderacion, " LN(X) / 2 ");
+    EXPECT_EQ(UltimaRegresion.TextoEcuacion, " Y 1 X");
+    EXPECT_EQ(UltimaRegresion.MetodoRegresion, 13);
+    EXPECT_NEAR(ValoresDe("_VORD", 20)[4], std::log(6.0) / 2, 1e-15);
+    ASSERT_TRUE(Procesar("MC Y 1 X"));
+    EXPECT_EQ(UltimaRegresion.Ponderada, 0);
+    EXPECT_EQ(UltimaRegresion.MetodoRegresion, 8);
+    // Its own name is refused to a scalar and a matrix.
+    EliminarSerie(BuscarSerie("_VORD"));
+    PonerEscalar(nullptr, "_VORD", 1.0);
+    Prueba.cajas.clear();
+    EXPECT_FALSE(Procesar("MCP (X) Y 1 X"));
+    EXPECT_EQ(TextosDeCajas(), Textos{"Borre algunas series. Pto 8628"});
+}

@@ -1,0 +1,131 @@
+// Published results, and the special shapes of a regression.
+#include "apoyo/datos_csv.h"
+#include "apoyo/datos_regresion.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace {
+
+std::vector<double> Matriz(std::string_view codigo) {
+    int f = 0, c = 0;
+    return MatrizDe(codigo, f, c);
+}
+
+// Nine digits.
+void Iguales9(double valor, double publicado) {
+    EXPECT_NEAR(valor, publicado, std::fabs(publicado) * 5e-10);
+}
+
+} // namespace
+
+// NIST Statistical Reference Datasets, linear regression, "Norris".
+TEST(Publicados, Norris) {
+    EmpezarConDatos(TipoSinPeriodicidad, "");
+    ASSERT_TRUE(CargarCsv("norris.csv"));
+    Lote.VerRegresion = 0;
+    ASSERT_TRUE(Procesar("MC Y 1 X"));
+    const std::vector<double> beta = Matriz("_BETA"), dte = ValoresDe("_DTE2", 2);
+    ASSERT_EQ(beta.size(), 2u);
+    Iguales9(beta[0], -0.262323073774029);
+    Iguales9(beta[1], 1.00211681802045);
+    Iguales9(EscalarDe("_DTR"), 0.884796396144373);
+    Iguales9(dte[0], 0.232818234301152);
+    Iguales9(dte[1], 0.000429796848199937);
+    EXPECT_EQ(EscalarDe("_NREG"), 2);
+    EXPECT_EQ(EscalarDe("_NORE"), 34);
+    // R squared is computed from sums of six decimals and deleted at the end; F comes from it.
+    EXPECT_NEAR(EscalarDe("_FORLA"), 5436385.54079785, 1.0);
+}
+
+// L. Klein (1950): consumption on profits, profits a year before and wages, United States, 1921 to 1941.
+TEST(Publicados, Klein) {
+    EmpezarConDatos(TipoAnual, "1920#1941");
+    ASSERT_TRUE(CargarCsv("klein.csv"));
+    Lote.VerRegresion = 0;
+    ASSERT_TRUE(Procesar("SER SAL = SALPRIV + SALPUB\nMC CONSUMO 1 BENEF BENEF(-1) SAL"));
+    const std::vector<double> beta = Matriz("_BETA"), dte = ValoresDe("_DTE2", 22);
+    const double publicados[4][2] = {{16.237, 1.303}, {0.193, 0.091}, {0.090, 0.091}, {0.796, 0.040}};
+    ASSERT_EQ(beta.size(), 4u);
+    for (std::size_t i = 0; i < 4; ++i) {
+        EXPECT_NEAR(beta[i], publicados[i][0], 0.0005);
+        EXPECT_NEAR(dte[i + 1], publicados[i][1], 0.0005);
+    }
+    EXPECT_EQ(UltimaRegresion.PrimeraObsRegresion, 1);
+    EXPECT_EQ(EscalarDe("_NORE"), 17);
+}
+
+// ----- Shapes
+
+TEST(Formas, UnaSolaConstante) {
+    EmpezarRegresion();
+    ASSERT_TRUE(Procesar("MC Y 1"));
+    EXPECT_EQ(EscalarDe("_NREG"), 1);
+    EXPECT_EQ(EscalarDe("_FORLA"), 0.0);
+    EXPECT_EQ(UltimaRegresion.SeriesRegresion[OrdenMC], 0);
+    EXPECT_NEAR(Matriz("_BETA")[0], 307.0 / 20, 1e-12); // the mean
+}
+
+TEST(Formas, SinConstantePasaPorElOrigen) {
+    EmpezarRegresion();
+    ASSERT_TRUE(Procesar("MC Y X"));
+    const std::vector<double> y = ValoresDe("Y", 20), x = ValoresDe("X", 20);
+    double xy = 0, xx = 0;
+    for (std::size_t i = 0; i < 20; ++i) {
+        xy += x[i] * y[i];
+        xx += x[i] * x[i];
+    }
+    EXPECT_NEAR(Matriz("_BETA")[0], xy / xx, 1e-14);
+}
+
+// As many observations as regressors: no degrees of freedom, and nothing divides by them.
+TEST(Formas, SinGradosDeLibertad) {
+    EmpezarRegresion();
+    ASSERT_TRUE(Procesar("MUEST 1 3\nMC Y 1 X Z"));
+    EXPECT_EQ(EscalarDe("_DTR"), 0.0);
+    EXPECT_EQ(EscalarDe("_FORLA"), 0.0);
+    EXPECT_EQ(EscalarDe("_NORE"), 0.0);
+    EXPECT_EQ(Matriz("_COV"), std::vector<double>(9, 0.0));
+    const std::vector<double> t = ValoresDe("_DIV", 3);
+    for (const double v : t) EXPECT_EQ(v, 0.0); // a division by zero gives zero
+    EXPECT_TRUE(Prueba.cajas.empty());
+}
+
+TEST(Formas, AjustePerfecto) {
+    EmpezarRegresion();
+    ASSERT_TRUE(Procesar("SER W = X * 2\nMC W X"));
+    EXPECT_EQ(EscalarDe("_SCR"), 0.0);
+    EXPECT_EQ(EscalarDe("_FORLA"), 0.0);
+    ASSERT_TRUE(Procesar("MC Y 1 X")); // and the next one is not disturbed
+    EXPECT_GT(EscalarDe("_FORLA"), 0.0);
+}
+
+TEST(Formas, LoQueQueda) {
+    EmpezarRegresion();
+    ASSERT_TRUE(Procesar("MC Y 1 X(-1)"));
+    for (const char *m : {"_BETA", "_COV"}) EXPECT_GE(BuscarMatriz(m), 0) << m;
+    for (const char *m :
+         {"_YDEP", "_XIND", "_YAJU1", "_DTE", "_DTE1", "_RESM", "_SCR1", "_TMF2", "_TMF5", "_TMF6"})
+        EXPECT_EQ(BuscarMatriz(m), -1) << m;
+    for (const char *s : {"_RES", "_YAJUS", "_DTE2", "_BETA2", "_DIV", "_PROBT"})
+        EXPECT_GE(BuscarSerie(s), 0) << s;
+    EXPECT_EQ(BuscarSerie("_TMR1"), -1);
+    for (const char *e : {"_SCR", "_DTR", "_FORLA", "_ESTF", "_NORE", "_NREG", "_DW"})
+        EXPECT_GE(BuscarEscalar(e), 0) << e;
+    for (const char *e :
+         {"_MTR", "_MVD", "_STVD", "_LV", "_AIC", "_SCVD", "_DTVD", "_DCR", "_RC", "_RCC", "_EA1", "_ANREG"})
+        EXPECT_EQ(BuscarEscalar(e), -1) << e;
+    for (int m = 0; m < MaxMatrices; ++m) EXPECT_NE(TablaMatrices.EstadoBloque[m], BloqueFijado);
+    EXPECT_EQ(ArchivoTrabajo.NumSeries, 4 + 6);
+}
+
+// Sums over values with more digits than pass through a text: the mean is stored with six decimals, the variation is
+// about the exact mean.
+TEST(Formas, SeisDecimales) {
+    EmpezarRegresion();
+    PonerSerie("CHICA", {1e-7, 2e-7, 4e-7, 3e-7, 6e-7, 9e-7, 1e-7, 2e-7, 2e-7, 1e-7});
+    Lote.VerRegresion = 1;
+    ASSERT_TRUE(Procesar("MUEST 1 10\nMC CHICA 1 X"));
+    ASSERT_EQ(Prueba.resultados.size(), 1u);
+    EXPECT_EQ(Prueba.resultados[0].lineas[7].second.substr(0, 33), "Media Var. Dependiente:    0.0000");
+}

@@ -1,0 +1,376 @@
+// The statement driver: what is cut out of the text, checked, recognised, and what stops a batch.
+#include "apoyo/plataforma_prueba.h"
+#include "language/lote_sentencias.h"
+#include "platform/texto.h"
+#include "store/archivo.h"
+#include "store/periodos.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace {
+
+using Textos = std::vector<std::string>;
+
+// Ten years, 1990 to 1999, with the series X (1 to 10) and Y (2, 4, ... 20).
+void EmpezarLote() {
+    EmpezarConDatos(TipoAnual, "1990#1999");
+    std::vector<double> x, y;
+    for (int i = 1; i <= 10; ++i) {
+        x.push_back(i);
+        y.push_back(2.0 * i);
+    }
+    PonerSerie("X", x);
+    PonerSerie("Y", y);
+    ActualizarMuestra();
+}
+
+const Textos NoHay = {"No hay datos a procesar. Punto 3."};
+
+TEST(Lote, SinTipoDeDatosNoCorreNada) {
+    EmpezarPrueba();
+    EXPECT_FALSE(Procesar("ESC A = 1"));
+    EXPECT_FALSE(Sentencia("ESC A = 1"));
+    const CajaVista caja{"Proceso cancelado", "Tipo de datos no válidos", IconoInformacion, BotonesAceptar};
+    EXPECT_EQ(Prueba.cajas, (std::vector<CajaVista>{caja, caja}));
+    EXPECT_TRUE(std::isnan(EscalarDe("A")));
+}
+
+// ----- Selections
+
+struct CasoSeleccion {
+    const char *texto;
+    int desde, hasta;
+    Textos cajas;
+    double a, b; // scalars afterwards, NaN for none
+};
+
+constexpr double Nada = std::numeric_limits<double>::quiet_NaN();
+
+const CasoSeleccion Selecciones[] = {
+    {"ESC A = 12\r\nESC B = 34", 0, 0, NoHay, Nada, Nada},
+    {"ESC A = 12\r\nESC B = 34", 7, 7, NoHay, Nada, Nada},
+    {"ESC A = 12\r\nESC B = 34", 9, 3, NoHay, Nada, Nada},
+    {"", 0, 0, NoHay, Nada, Nada},
+    {"ESC A = 12\r\nESC B = 34", 100, 200, NoHay, Nada, Nada},
+    {"ESC A = 12\r\nESC B = 34", 0, 22, {}, 12, 34},
+    {"ESC A = 12\r\nESC B = 34", 0, 100, {}, 12, 34},
+    {"ESC A = 12\r\nESC B = 34", -5, 10, {}, 12, Nada},
+    {"ESC A = 12\nESC B = 34", 0, 21, {}, 12, 34},
+    // Inside a line one character more than selected is taken.
+    {"ESC A = 12\r\nESC B = 34", 0, 9, {}, 12, Nada},
+    {"ESC A = 12\r\nESC B = 34", 0, 8, {}, 1, Nada},
+    {"ESC A = 12\r\nESC B = 34", 0, 20, {}, 12, 3},
+    // At a line's end that character is the line feed or the next line's first one, which alone says nothing.
+    {"ESC A = 12\r\nESC B = 34", 0, 10, {}, 12, Nada},
+    {"ESC A = 12\r\nESC B = 34", 0, 12, {}, 12, Nada},
+    {"ESC A = 12\r\n(", 0, 12, {"Número inadecuado de paréntesis"}, 12, Nada},
+    // A selection that begins inside a line runs what is left of it.
+    {"AESC A = 12", 1, 11, {}, 12, Nada},
+    {"  \t\r\n\r\n   ESC A = 7   \r\n\t \r\n", 0, 30, {}, 7, Nada},
+    {" ", 0, 1, {}, Nada, Nada},
+};
+
+TEST(Lote, CorreLaSeleccion) {
+    for (const CasoSeleccion &c : Selecciones) {
+        SCOPED_TRACE(std::string(c.texto) + " " + std::to_string(c.desde) + " " + std::to_string(c.hasta));
+        EmpezarLote();
+        Prueba.textoControl = c.texto;
+        Prueba.desde = c.desde;
+        Prueba.hasta = c.hasta;
+        EXPECT_EQ(ProcesarLote(nullptr, nullptr, 0, {}, 0, 9), 0);
+        EXPECT_EQ(TextosDeCajas(), c.cajas);
+        EXPECT_EQ(Lote.detenido, c.cajas.empty() ? 0 : 1);
+        const double a = EscalarDe("A");
+        const double b = EscalarDe("B");
+        EXPECT_TRUE(a == c.a || (std::isnan(a) && std::isnan(c.a))) << a;
+        EXPECT_TRUE(b == c.b || (std::isnan(b) && std::isnan(c.b))) << b;
+        EXPECT_EQ(Prueba.cursor, CursorFlecha);
+    }
+}
+
+// ----- Statements with their boxes
+
+struct CasoSentencia {
+    const char *texto;
+    Textos cajas;
+    bool sigue; // the batch runs to its end
+};
+
+const CasoSentencia Sentencias[] = {
+    // Parentheses and brackets: totals only, comments too.
+    {"SER Z = (X", {"Número inadecuado de paréntesis"}, false},
+    {"SER Z = X)", {"Número inadecuado de paréntesis"}, false},
+    {"SER Z = X[1990", {"Número inadecuado de corchetes"}, false},
+    {"SER Z = (X[1990", {"Número inadecuado de paréntesis"}, false},
+    {"OBS X 1990] = 3", {"Número inadecuado de corchetes"}, false},
+    {"; a comment (", {"Número inadecuado de paréntesis"}, false},
+    {";a comment ]", {"Número inadecuado de corchetes"}, false},
+    {"Q)(", {"Funciones o parámetros no válidos: \n (Q))"}, false},
+    {"; )(", {}, true},
+    {";", {}, true},
+    {";comment", {}, true},
+    {"; comment of any length = 3", {}, true},
+    {";;", {}, true},
+    // Unknown words.
+    {"Q", {}, true},
+    {"Q = 3", {}, true},
+    {"(Q)", {}, true}, // the word in front of the parenthesis is empty
+    {"QQ", {"Funciones o parámetros no válidos: \n (QQ)"}, false},
+    {"qq x", {"Funciones o parámetros no válidos: \n (QQ)"}, false},
+    {"año 3", {"Funciones o parámetros no válidos: \n (AñO)"}, false},
+    {"SER(X)", {"Funciones o parámetros no válidos: \n (SER)"}, false},
+    {"SER (X) = 3", {"Funciones o parámetros no válidos: \n (SER)"}, false},
+    {"MAT (X)", {"Funciones o parámetros no válidos: \n (MAT)"}, false},
+    {"SER\tZ = 1", {"Funciones o parámetros no válidos: \n (SER\tZ)"}, false},
+    {"FINREPITE", {"Funciones o parámetros no válidos: \n (FINREPITE)"}, false},
+    {"SINO", {"Funciones o parámetros no válidos: \n (SINO)"}, false},
+    {"ROMPE", {"Funciones o parámetros no válidos: \n (ROMPE)"}, false},
+    {"SERIE X", {"Funciones o parámetros no válidos: \n (SERIE)"}, false},
+    // Accepted and ignored.
+    {"AES LOG 0.3 X", {}, true},
+    {"AED X", {}, true},
+    {"aes", {}, true},
+    // VSR.
+    {"VSR", {"Punto 39,  : Faltan datos"}, false},
+    {"VSR   ", {"Punto 39,  : Faltan datos"}, false},
+    {"VSR SI", {}, true},
+    // CAL.
+    {"CAL", {"Punto 39,  : Faltan datos"}, false},
+    {"CAL 2 + 3 * 4", {"  14.0000 "}, true},
+    {"CAL 2 * 3 + 4", {"  10.0000 "}, true},
+    {"cal (2 + 3)*4", {"  20.0000 "}, true},
+    {"CAL(2 + 3)*4", {"  20.0000 "}, true},
+    {"CAL 2 ** 3", {"   8.0000 "}, true},
+    {"CAL 0 - 3.25", {"  -3.2500 "}, true},
+    {"CAL X", {"   1.0000 "}, true},
+    {"CAL 12345678 * 10", {" 123456780.0000 "}, true},
+    {"CAL 3 >= 3", {"   1.0000 "}, true},
+    {"CAL 3 <> 3", {"   0.0000 "}, true},
+    {"CAL 3 <= 2", {"   0.0000 "}, true},
+    // Not built yet.
+    {"GRAF X", {"No ensamblada"}, false},
+    {"HIST X", {"No ensamblada"}, false},
+    {"CHN", {"No ensamblada"}, false},
+    {"CGQ X", {"No ensamblada"}, false},
+    {"CRA X", {"No ensamblada"}, false},
+    {"CDU", {"No ensamblada"}, false},
+    {"CWA", {"No ensamblada"}, false},
+    // Sample and decimals go on whatever they are given.
+    {"MUEST", {}, true},
+    {"MUEST 3000 4000", {}, true},
+    {"DECI 3", {}, true},
+};
+
+TEST(Lote, CadaSentenciaConSusCajas) {
+    for (const CasoSentencia &c : Sentencias) {
+        SCOPED_TRACE(c.texto);
+        EmpezarLote();
+        EXPECT_EQ(Procesar(c.texto), c.sigue);
+        EXPECT_EQ(TextosDeCajas(), c.cajas);
+        EXPECT_EQ(Lote.NingunaSentenciaHecha, c.sigue ? 0 : 1);
+        EXPECT_EQ(ArchivoTrabajo.NumSeries, 2);
+    }
+}
+
+TEST(Lote, UnaSentenciaDeDialogoEsComoUnaLinea) {
+    // Taken as it is, a dialog's statement that begins with a blank has an empty first word.
+    const CasoSentencia casos[] = {
+        {"CAL 2 + 3 * 4", {"  14.0000 "}, true},
+        {"SER Z = (X", {"Número inadecuado de paréntesis"}, false},
+        {"QQ", {"Funciones o parámetros no válidos: \n (QQ)"}, false},
+        {"", {}, true},
+        {" QQ", {}, true},
+        {"REPITE J DESDE 1 HASTA 3", {"Funciones o parámetros no válidos: \n (REPITE)"}, false},
+        {"MIENTRAS (X > 1) ENTONCES", {"Funciones o parámetros no válidos: \n (MIENTRAS)"}, false},
+        {"SI (X > 1) ENTONCES", {"Funciones o parámetros no válidos: \n (SI)"}, false},
+    };
+    for (const CasoSentencia &c : casos) {
+        SCOPED_TRACE(c.texto);
+        EmpezarLote();
+        EXPECT_EQ(Sentencia(c.texto), c.sigue);
+        EXPECT_EQ(TextosDeCajas(), c.cajas);
+    }
+}
+
+TEST(Lote, TitulosDeLasCajas) {
+    const struct {
+        const char *texto, *titulo;
+    } casos[] = {
+        {"QQ", "Proceso Cancelado"},
+        {"SER Z = (X", "Proceso cancelado"},
+        {"VSR", "Proceso cancelado"},
+        {"CAL 1", "Resultado"},
+        {"GRAF X", "Opción del menú"},
+        {"SER FICTIC NADA", "Serie no existe"},
+    };
+    for (const auto &c : casos) {
+        SCOPED_TRACE(c.texto);
+        EmpezarLote();
+        Procesar(c.texto);
+        ASSERT_EQ(Prueba.cajas.size(), 1u);
+        EXPECT_EQ(Prueba.cajas[0].titulo, c.titulo);
+        EXPECT_EQ(Prueba.cajas[0].icono, IconoInformacion);
+        EXPECT_EQ(Prueba.cajas[0].botones, BotonesAceptar);
+    }
+}
+
+TEST(Lote, DECISiempreLeeLaPropiaPalabra) {
+    const struct {
+        const char *texto;
+        int decimales;
+    } casos[] = {{"DECI 3", 0}, {"DECI 9", 0}, {"deci x", 0}, {"DECI", 4}, {"DECI  ", 4}, {"DECI(3)", 4}};
+    for (const auto &c : casos) {
+        SCOPED_TRACE(c.texto);
+        EmpezarLote();
+        Lote.DecimalesSalida = 4;
+        EXPECT_TRUE(Procesar(c.texto));
+        EXPECT_EQ(Lote.DecimalesSalida, c.decimales);
+    }
+}
+
+TEST(Lote, VSRPreguntaSoloConSI) {
+    const struct {
+        const char *texto;
+        int ver;
+    } casos[] = {{"VSR SI", 1}, {"VSR si", 1},  {"VSR   SI  ", 1}, {"VSR NO", 0},
+                 {"VSR X", 0},  {"VSR SIN", 0}, {"VSR S I", 0}};
+    for (const auto &c : casos) {
+        SCOPED_TRACE(c.texto);
+        EmpezarLote();
+        Lote.VerRegresion = 1 - c.ver;
+        EXPECT_TRUE(Procesar(c.texto));
+        EXPECT_EQ(Lote.VerRegresion, c.ver);
+    }
+}
+
+TEST(Lote, LoHechoQuedaYLoDeDetrasNoCorre) {
+    EmpezarLote();
+    EXPECT_FALSE(Procesar("ESC A = 1\nESC B = 2\nQQ\nESC C = 3"));
+    EXPECT_EQ(EscalarDe("A"), 1.0);
+    EXPECT_EQ(EscalarDe("B"), 2.0);
+    EXPECT_TRUE(std::isnan(EscalarDe("C")));
+    EXPECT_EQ(Lote.NingunaSentenciaHecha, 0);
+}
+
+TEST(Lote, UnaLetraNoDetieneElLote) {
+    EmpezarLote();
+    EXPECT_TRUE(Procesar("Q\n;\nESC A = 1\n; fin"));
+    EXPECT_EQ(EscalarDe("A"), 1.0);
+    EXPECT_TRUE(Prueba.cajas.empty());
+}
+
+TEST(Lote, MUESTCambiaLaMuestraDeLoQueSigue) {
+    EmpezarLote();
+    EXPECT_TRUE(Procesar("ESC A = SUMSER(X)\nMUEST 1992 1994\nESC B = SUMSER(X)\nSER Z = X"));
+    EXPECT_EQ(EscalarDe("A"), 55.0);
+    EXPECT_EQ(EscalarDe("B"), 12.0); // 3 + 4 + 5
+    const std::vector<double> z = ValoresDe("Z", 10);
+    for (int i = 0; i < 10; ++i) EXPECT_EQ(std::isnan(z[static_cast<std::size_t>(i)]), i < 2 || i > 4) << i;
+}
+
+TEST(Lote, LaMuestraLlegaConLaLlamada) {
+    EmpezarLote();
+    ProcesarLote(nullptr, nullptr, 246, "ESC A = SUMSER(X)", 3, 5);
+    EXPECT_EQ(EscalarDe("A"), 15.0);
+}
+
+// Each operator of two characters becomes one and a blank; the order of the passes decides what overlaps.
+TEST(Lote, OperadoresDeDosCaracteres) {
+    const struct {
+        const char *texto;
+        double valor;
+    } casos[] = {{"ESC A = 2**3", 8},    {"ESC A = 2 ** 3 ** 2", 64}, {"ESC A = 3>=3", 1},
+                 {"ESC A = 3 <= 2", 0}, {"ESC A = 3<>2", 1},         {"esc a = 2", 2}};
+    for (const auto &c : casos) {
+        SCOPED_TRACE(c.texto);
+        EmpezarLote();
+        EXPECT_TRUE(Procesar(c.texto));
+        EXPECT_EQ(EscalarDe("A"), c.valor);
+    }
+    EmpezarLote();
+    EXPECT_FALSE(Procesar("ESC A = 2 <>= 3")); // ">=" is rewritten first: "<" and "?" stand together
+    EXPECT_FALSE(Procesar("ESC A = 2 *** 3"));
+}
+
+// MC works on the bounds of the batch; CR goes on with those of the last MC.
+TEST(Lote, LaMuestraDeLaRegresion) {
+    EmpezarLote();
+    EXPECT_TRUE(Procesar("VSR NO\nMUEST 1992 1998\nMC Y 1 X"));
+    EXPECT_EQ(Muestra.InicioRegresion, 2);
+    EXPECT_EQ(Muestra.FinRegresion, 8);
+    EXPECT_TRUE(Prueba.cajas.empty());
+    Procesar("MUEST 1990 1999\nCR Y 1");
+    EXPECT_EQ(Muestra.InicioRegresion, 2);
+    EXPECT_EQ(Muestra.FinRegresion, 8);
+    // Residuals come back to series in the rows of the regression.
+    EXPECT_TRUE(Procesar("MAT R = {X}\nSER Z = {R}"));
+    const std::vector<double> z = ValoresDe("Z", 10);
+    for (int i = 0; i < 10; ++i) EXPECT_EQ(std::isnan(z[static_cast<std::size_t>(i)]), i < 2 || i > 8) << i;
+}
+
+TEST(Lote, LasMatricesQuedanSueltas) {
+    EmpezarLote();
+    PonerMatriz("M", {1, 2, 3, 4}, 2, 2);
+    FijarMatriz(0);
+    EXPECT_FALSE(Procesar("QQ"));
+    EXPECT_EQ(TablaMatrices.EstadoBloque[0], BloqueSuelto);
+    FijarMatriz(0);
+    EXPECT_TRUE(Procesar("CAL 1"));
+    EXPECT_EQ(TablaMatrices.EstadoBloque[0], BloqueSuelto);
+}
+
+TEST(Lote, CualquierTextoTermina) {
+    // Lines of 100,000 characters and bytes of any value. What is asked is that nothing breaks.
+    const std::string textos[] = {
+        std::string(100000, 'A'),
+        std::string(100000, '('),
+        std::string(100000, '*'),
+        std::string(50000, '(') + std::string(50000, ')'),
+        "ESC A = " + std::string(10000, '(') + "1" + std::string(10000, ')'),
+        "ESC A = 1" + std::string(100000, '0'),
+        "SER " + std::string(100000, 'A') + " = 1",
+        "OBS X[" + std::string(100000, '1') + "] = 1",
+        "VSR " + std::string(100000, 'S'),
+        "CAL " + std::string(300, '9') + " * " + std::string(300, '9'),
+        "SER X = X(-" + std::string(1000, '9') + ") * 2",
+        "REPITE J DESDE " + std::string(400, '9') + " HASTA " + std::string(400, '9') + "\nCAL J\nFINREPITE",
+    };
+    for (const std::string &texto : textos) {
+        SCOPED_TRACE(texto.substr(0, 20));
+        EmpezarLote();
+        Procesar(texto);
+    }
+    std::string bytes;
+    for (int i = 1; i < 256; ++i) bytes += static_cast<char>(i);
+    const char *const comienzos[] = {"",      "SER ", "SER A=", "OBS X[", "ESC ", "MAT ", "CAL ",
+                                     "MC ",   "MUEST ", "SI (", "REPITE ", "SER A={"};
+    for (const char *comienzo : comienzos) {
+        SCOPED_TRACE(comienzo);
+        EmpezarLote();
+        Prueba.textoControl = comienzo + bytes;
+        Prueba.hasta = static_cast<int>(Prueba.textoControl.size());
+        ProcesarLote(nullptr, nullptr, 0, {}, 0, 9);
+    }
+}
+
+// Series with nothing beyond row 0 leave the end of the sample at 100,000.
+TEST(Lote, MuestraFueraDeLasTablas) {
+    const char *const textos[] = {"SER Z = X",          "ESC A = X",       "CAL X",          "OBS X[1995] = X",
+                                  "SER X = X(-1) * 2",  "SER FICTIC X",    "SER Z = TEND",   "ESC A = SUMSER(X)",
+                                  "SER Z = {M}",        "MUEST 1995 1999", "ESC A = X[1995]"};
+    for (const char *texto : textos) {
+        SCOPED_TRACE(texto);
+        EmpezarConDatos(TipoAnual, "1990#1999");
+        PonerSerie("X", {5});
+        PonerMatriz("M", {1, 2}, 2, 1);
+        ActualizarMuestra();
+        Muestra.FinRegresion = 100000;
+        ProcesarLote(nullptr, nullptr, 246, texto, Muestra.InicioMuestra, Muestra.FinMuestra);
+        ProcesarLote(nullptr, nullptr, 246, texto, 100000, 100000);
+        ProcesarLote(nullptr, nullptr, 246, texto, -1, -1);
+    }
+}
+
+} // namespace

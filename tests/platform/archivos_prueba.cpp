@@ -1,0 +1,73 @@
+// Whole files: read, and written beside the old one and renamed over it.
+#include "platform/archivos.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// A folder of its own for each test, with accents and a blank in its name.
+class Archivos : public testing::Test {
+protected:
+    void SetUp() override {
+        carpeta = fs::temp_directory_path() / ("tabira año " + std::to_string(getpid()));
+        fs::remove_all(carpeta);
+        fs::create_directories(carpeta);
+    }
+    void TearDown() override { fs::remove_all(carpeta); }
+    std::string Ruta(const char *nombre) const { return (carpeta / nombre).string(); }
+    long Ficheros() const { return std::distance(fs::directory_iterator(carpeta), fs::directory_iterator()); }
+    fs::path carpeta;
+};
+
+TEST_F(Archivos, SeLeeLoQueSeEscribe) {
+    for (const std::string &contenido :
+         {std::string(), std::string("a\0b\r\n\xF1", 6), std::string(200000, 'x')}) {
+        ASSERT_TRUE(EscribirArchivo(Ruta("peñón.txt"), contenido));
+        std::string leido = "antes";
+        ASSERT_TRUE(LeerArchivo(Ruta("peñón.txt"), leido));
+        EXPECT_EQ(leido, contenido);
+        EXPECT_TRUE(ExisteArchivo(Ruta("peñón.txt")));
+        EXPECT_EQ(Ficheros(), 1); // nothing is left beside it
+    }
+}
+
+TEST_F(Archivos, LoQueNoSePuedeLeer) {
+    std::string leido;
+    EXPECT_FALSE(LeerArchivo(Ruta("no hay"), leido));
+    EXPECT_FALSE(ExisteArchivo(Ruta("no hay")));
+    EXPECT_FALSE(LeerArchivo(carpeta.string(), leido)); // a folder
+    EXPECT_FALSE(LeerArchivo("", leido));
+}
+
+TEST_F(Archivos, LoQueNoSePuedeEscribirDejaLoQueHabia) {
+    EXPECT_FALSE(EscribirArchivo(Ruta("no hay/x"), "a"));
+    EXPECT_FALSE(EscribirArchivo(carpeta.string(), "a")); // a folder stands under the name
+    EXPECT_EQ(Ficheros(), 0);
+    EXPECT_FALSE(EscribirArchivo("", "a"));
+}
+
+TEST_F(Archivos, SeConservanPermisosYEnlaces) {
+    ASSERT_TRUE(EscribirArchivo(Ruta("a"), "1"));
+    fs::permissions(Ruta("a"), fs::perms::owner_read | fs::perms::owner_write);
+    fs::create_symlink("a", Ruta("enlace"));
+    ASSERT_TRUE(EscribirArchivo(Ruta("enlace"), "2"));
+    EXPECT_TRUE(fs::is_symlink(Ruta("enlace")));
+    std::string leido;
+    ASSERT_TRUE(LeerArchivo(Ruta("a"), leido));
+    EXPECT_EQ(leido, "2");
+    EXPECT_EQ(fs::status(Ruta("a")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(Ficheros(), 2);
+}
+
+TEST_F(Archivos, UnDispositivoSeEscribeEnSuSitio) {
+    EXPECT_TRUE(EscribirArchivo("/dev/null", "a"));
+    EXPECT_TRUE(fs::is_character_file("/dev/null"));
+}
+
+} // namespace
