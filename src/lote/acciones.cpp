@@ -1,13 +1,17 @@
 // The actions of tabira-lote. Each one calls the routine that the menu or the statement calls; it computes nothing.
 #include "lote/acciones.h"
 
+#include "charts/seleccion.h"
 #include "language/lote_sentencias.h"
 #include "lote/corrida.h"
+#include "lote/impresora.h"
 #include "lote/sucesos.h"
 #include "lote/tipo.h"
 #include "platform/archivos.h"
 #include "platform/texto.h"
+#include "platform/strstr.h"
 #include "shell/listas.h"
+#include "shell/ultima_regresion.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 
@@ -35,14 +39,15 @@ struct Accion {
     FormatoAscii formato;
     int numero;           // a choice or a count, by action
     std::string elemento; // behind the first ":" of the value, in the characters of the core
+    bool pendiente;       // announced in this form and not available yet
 };
 
 void Quejarse(const std::string &utf8) { std::fprintf(stderr, "tabira-lote: %s\n", utf8.c_str()); }
 
 // What a menu command refuses while no data type was chosen.
-bool HayTipoDeDatos() {
+bool HayTipoDeDatos(const char *mensaje = "Tipo de datos no válidos"_w) {
     if (ArchivoTrabajo.TipoDatos < SinTipoDatos) return true;
-    MostrarMensaje(nullptr, "Tipo de datos no válidos"_w);
+    MostrarMensaje(nullptr, mensaje);
     return false;
 }
 
@@ -51,6 +56,8 @@ bool HayTipoDeDatos() {
 
 constexpr std::string_view NombresLista[] = {"series", "matrices", "escalares"};
 constexpr std::string_view NombresElemento[] = {"serie", "matriz", "escalar"};
+constexpr std::string_view NombresListado[] = {"series", "matrices"}; // in the order of ModosSeleccion
+constexpr std::string_view ListadosPendientes[] = {"covarianza", "valores", "varianza"};
 constexpr std::string_view NombresRespuesta[] = {"si", "no", "cancelar"};
 
 template <std::size_t N> bool Elegir(const std::string_view (&nombres)[N], std::string_view palabra, int &cual) {
@@ -84,6 +91,17 @@ bool LeerElemento(const std::string &valor, Accion &accion) {
     accion.elemento = Texto1252DeUtf8(std::string_view(valor).substr(dosPuntos + 1));
     return Elegir(NombresElemento, std::string_view(valor).substr(0, dosPuntos), accion.numero);
 }
+
+bool LeerListado(const std::string &valor, Accion &accion) {
+    accion.pendiente = Elegir(ListadosPendientes, valor, accion.numero);
+    if (accion.pendiente) return true;
+    const std::size_t dosPuntos = valor.find(':');
+    if (dosPuntos == std::string::npos) return false;
+    accion.elemento = Texto1252DeUtf8(std::string_view(valor).substr(dosPuntos + 1));
+    return Elegir(NombresListado, std::string_view(valor).substr(0, dosPuntos), accion.numero);
+}
+
+bool LeerRuta(const std::string &valor, Accion &) { return !valor.empty(); }
 
 // ---------------------------------------------------------------------------------------------------------------
 // The actions
@@ -173,6 +191,44 @@ bool HacerMuestraActual(const Accion &) {
     return true;
 }
 
+bool HacerUltimaRegresion(const Accion &) {
+    ActualizarMuestra();
+    SucesoLineas(SalidaUltimaRegresion, TituloUltimaRegresion, LineasUltimaRegresion());
+    return true;
+}
+
+// The listings are a command of the editor, which opens with this guard.
+bool HacerListado(const Accion &accion) {
+    if (!HayTipoDeDatos("Tipo de datos no válido"_w)) return false;
+    ActualizarMuestra();
+    EstadoSeleccion seleccion = IniciarSeleccion(static_cast<ModosSeleccion>(accion.numero));
+    bool bien = true;
+    std::string_view resto = accion.elemento;
+    while (!resto.empty()) {
+        const std::size_t coma = std::min(resto.find(','), resto.size());
+        const std::string_view codigo = Recortado(resto.substr(0, coma));
+        resto.remove_prefix(std::min(coma + 1, resto.size()));
+        const auto p = std::find(seleccion.disponibles.begin(), seleccion.disponibles.end(), codigo);
+        if (p != seleccion.disponibles.end()) {
+            AnadirASeleccion(seleccion, static_cast<int>(p - seleccion.disponibles.begin()), nullptr);
+        } else {
+            Quejarse("no se puede listar '" + Utf8De1252(codigo) + "'");
+            bien = false;
+        }
+    }
+    return ImprimirElegidas(seleccion, nullptr) == 0 && bien;
+}
+
+bool HacerImprimir(const Accion &accion) {
+    ElegirDocumento(accion.valor);
+    return true;
+}
+
+bool HacerImprimirSalidas(const Accion &) {
+    Corrida.imprimirSalidas = true;
+    return true;
+}
+
 bool HacerVolcado(const Accion &) {
     SucesoVolcado();
     return true;
@@ -204,6 +260,10 @@ constexpr FilaDeAccion TablaAcciones[] = {
     {"--relacion", "series|matrices|escalares", LeerRelacion, HacerRelacion, "lista los elementos"},
     {"--borrar", "serie:X|matriz:M|escalar:E", LeerElemento, HacerBorrar, "borra un elemento"},
     {"--muestra-actual", nullptr, nullptr, HacerMuestraActual, "muestra la muestra en curso"},
+    {"--ultima-regresion", nullptr, nullptr, HacerUltimaRegresion, "muestra la última regresión"},
+    {"--imprimir", "F.pdf", LeerRuta, HacerImprimir, "lo que se imprima después va a este documento"},
+    {"--imprimir-salidas", nullptr, nullptr, HacerImprimirSalidas, "imprime también cada ventana de resultados"},
+    {"--listado", "series:X,Y|matrices:A,B", LeerListado, HacerListado, "imprime series o matrices"},
     {"--volcado", nullptr, nullptr, HacerVolcado, "muestra el contenido del archivo de trabajo"},
     {"--abrir", "ARCHIVO", nullptr, nullptr, nullptr},
     {"--guardar", "ARCHIVO", nullptr, nullptr, nullptr},
@@ -216,12 +276,8 @@ constexpr FilaDeAccion TablaAcciones[] = {
     {"--transformar", "X:DESTINO", nullptr, nullptr, nullptr},
     {"--histograma", "X", nullptr, nullptr, nullptr},
     {"--grafico", "G", nullptr, nullptr, nullptr},
-    {"--listado", "L", nullptr, nullptr, nullptr},
-    {"--ultima-regresion", nullptr, nullptr, nullptr, nullptr},
     {"--ordenar", "X", nullptr, nullptr, nullptr},
     {"--eliminar-observacion", "N", nullptr, nullptr, nullptr},
-    {"--imprimir", "F.pdf", nullptr, nullptr, nullptr},
-    {"--imprimir-salidas", nullptr, nullptr, nullptr, nullptr},
     {"--graficos", "DIR", nullptr, nullptr, nullptr},
 };
 
@@ -264,6 +320,10 @@ bool LeerLinea(const std::vector<std::string> &argumentos, std::vector<Accion> &
             queja = "valor incorrecto de " + nombre + ": '" + accion.valor + "'";
             return false;
         }
+        if (accion.pendiente) {
+            queja = "la acción " + nombre + " " + accion.valor + " no está disponible todavía";
+            return false;
+        }
     }
     return true;
 }
@@ -272,6 +332,7 @@ bool LeerLinea(const std::vector<std::string> &argumentos, std::vector<Accion> &
 
 int EjecutarLinea(const std::vector<std::string> &argumentos) {
     Corrida = {};
+    OlvidarDocumentos();
     Corrida.formato = FormatoInicial();
     std::vector<Accion> acciones;
     std::string queja;
@@ -290,6 +351,8 @@ int EjecutarLinea(const std::vector<std::string> &argumentos) {
         estado = EstadoFallo;
         if (!Corrida.seguir) break;
     }
+    // What was printed before a failure is kept.
+    if (!EscribirDocumentos()) estado = EstadoFallo;
     SucesoFin(estado);
     return estado;
 }

@@ -10,6 +10,7 @@ enum RespuestasDeCorrida { ResponderSi, ResponderNo, ResponderCancelar };
 struct EstadoDeCorrida {
     bool json;                     // events as JSON objects, one a line
     bool seguir;                   // go on after an action that failed
+    bool imprimirSalidas;          // print every result window, too
     RespuestasDeCorrida respuesta; // to the questions that follow
     FormatoAscii formato;          // of the imports and exports that follow
 };

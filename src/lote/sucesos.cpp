@@ -1,7 +1,9 @@
 // The events of a run.
 #include "lote/sucesos.h"
 
+#include "charts/ventana_resultado.h"
 #include "lote/corrida.h"
+#include "lote/impresora.h"
 #include "lote/json.h"
 #include "platform/strstr.h"
 #include "platform/texto.h"
@@ -18,8 +20,6 @@ constexpr const char *NombresRespuesta[] = {"aceptar", "cancelar", "si", "no"};
 constexpr const char *NombresVentana[] = {"resultado",   "hipotesis",  "autocorrelacion",  "normalidad", "prediccion",
                                           "descriptivos", "histograma", "ultima-regresion", "muestra",    "relacion"};
 
-constexpr std::size_t AnchoBloque = 70; // characters of a line that a result window shows
-
 std::string AbrirSuceso(const char *suceso) {
     std::string json = "{";
     PonerParJson(json, "suceso", suceso);
@@ -31,15 +31,17 @@ void EscribirLinea(std::string_view linea) {
     std::fputc('\n', stdout);
 }
 
+void PonerLineaJson(std::string &json, int grupo, std::string_view texto) {
+    PonerComaJson(json);
+    json += '[' + std::to_string(grupo) + ',';
+    PonerTextoJson(json, Recortado(texto, RecorteDerecha));
+    json += ']';
+}
+
 void PonerLineasJson(std::string &json, const char *clave, const TextoSalida &lineas) {
     PonerClaveJson(json, clave);
     json += '[';
-    for (const LineaSalida &l : lineas) {
-        PonerComaJson(json);
-        json += '[' + std::to_string(l.Grupo) + ',';
-        PonerTextoJson(json, Recortado(l.texto, RecorteDerecha));
-        json += ']';
-    }
+    for (const LineaSalida &l : lineas) PonerLineaJson(json, l.Grupo, l.texto);
     json += ']';
 }
 
@@ -53,27 +55,21 @@ bool EsFilaDeCoeficientes(const SalidaResultado &salida, int linea) {
 // their vertical rules where the fields leave a blank.
 void EscribirEnBloque(std::string_view linea, bool coeficientes) {
     static constexpr std::size_t Columnas[] = {15, 30, 45, 54};
-    std::string texto(linea.substr(0, AnchoBloque));
-    texto.resize(AnchoBloque, ' ');
+    std::string texto(linea.substr(0, AnchoBloqueSalida));
+    texto.resize(AnchoBloqueSalida, ' ');
     for (const std::size_t c : Columnas)
         if (coeficientes && texto[c] == ' ') texto[c] = '|';
     EscribirLinea("| " + Utf8De1252(texto) + " |");
 }
 
-void EscribirRegla() { EscribirLinea("+" + std::string(AnchoBloque + 2, '-') + "+"); }
+void EscribirRegla() { EscribirLinea("+" + std::string(AnchoBloqueSalida + 2, '-') + "+"); }
 
-// The block as the result window paints it: a rule above, below, and between neighbouring lines of different kind, for
-// a regression not in the last three lines.
+// The block with the rules of the result window.
 void EscribirBloque(const SalidaResultado &salida) {
-    const TextoSalida &lineas = *salida.lineas;
-    const bool regresion = salida.tipo == SalidaRegresion && (salida.Clase == 8 || salida.Clase == 11 || salida.Clase == 13);
-    const int ultima = static_cast<int>(lineas.size()) - 1;
     EscribirRegla();
-    for (int i = 0; i <= ultima; ++i) {
-        const auto &linea = lineas[static_cast<std::size_t>(i)];
-        EscribirEnBloque(linea.texto, EsFilaDeCoeficientes(salida, i));
-        const bool cambia = i < ultima && lineas[static_cast<std::size_t>(i) + 1].Grupo != linea.Grupo;
-        if (cambia && !(regresion && i >= ultima - 2)) EscribirRegla();
+    for (int i = 0; i < static_cast<int>(salida.lineas->size()); ++i) {
+        EscribirEnBloque((*salida.lineas)[static_cast<std::size_t>(i)].texto, EsFilaDeCoeficientes(salida, i));
+        if (ReglaDetras(salida, i)) EscribirRegla();
     }
     EscribirRegla();
 }
@@ -101,6 +97,11 @@ std::string TextoDelControl(ControlTexto *control) { return *reinterpret_cast<co
 void SeleccionDelControl(ControlTexto *control, int &desde, int &hasta) {
     desde = 0;
     hasta = static_cast<int>(reinterpret_cast<const std::string *>(control)->size());
+}
+
+void MostrarResultado(Ventana *, const SalidaResultado &salida) {
+    SucesoSalida(salida);
+    if (Corrida.imprimirSalidas) ImprimirVentana(salida);
 }
 
 std::int32_t Segundos() { return static_cast<std::int32_t>(std::time(nullptr)); }
@@ -145,9 +146,45 @@ void SucesoSalida(const SalidaResultado &salida) {
 }
 
 void SucesoLineas(TiposDeSalida tipo, std::string_view titulo, const std::vector<std::string> &lineas) {
-    TextoSalida texto;
-    for (const std::string &l : lineas) AnadirLinea(texto, 0, l);
-    SucesoSalida({.tipo = tipo, .titulo = titulo, .Clase = 0, .Contenido = 0, .lineas = &texto, .fijas = nullptr, .tablas = nullptr});
+    if (!Corrida.json) {
+        EscribirLinea("");
+        EscribirLinea(Utf8De1252(titulo));
+        for (const std::string &l : lineas) EscribirLinea("  " + Utf8De1252(l));
+        return;
+    }
+    std::string json = AbrirSuceso("salida");
+    PonerParJson(json, "ventana", NombresVentana[tipo]);
+    PonerParJson(json, "titulo", titulo);
+    PonerClaveJson(json, "lineas");
+    json += '[';
+    for (const std::string &l : lineas) PonerLineaJson(json, 0, l);
+    EscribirLinea(json + "]}");
+}
+
+void SucesoImpresion(const TrabajoImpreso &trabajo) {
+    if (!Corrida.json) {
+        for (std::size_t p = 0; p < trabajo.paginas.size(); ++p) {
+            EscribirLinea("");
+            EscribirLinea("Impresión: " + Utf8De1252(trabajo.titulo) + ", página " + std::to_string(p + 1));
+            for (const std::string &l : LineasDePagina(trabajo.paginas[p])) EscribirLinea("  " + Utf8De1252(l));
+        }
+        return;
+    }
+    std::string json = AbrirSuceso("impresion");
+    PonerParJson(json, "documento", trabajo.documento);
+    PonerParJson(json, "titulo", trabajo.titulo);
+    PonerClaveJson(json, "paginas");
+    json += '[';
+    for (const PaginaImpresa &p : trabajo.paginas) {
+        PonerComaJson(json);
+        json += '[';
+        for (const std::string &l : LineasDePagina(p)) {
+            PonerComaJson(json);
+            PonerTextoJson(json, l);
+        }
+        json += ']';
+    }
+    EscribirLinea(json + "]}");
 }
 
 void SucesoFin(int estado) {
@@ -162,15 +199,18 @@ const OperacionesPlataforma PlataformaLote = {
     .cursor = [](Cursor) {},
     .textoDeControl = TextoDelControl,
     .seleccionDeControl = SeleccionDelControl,
-    .mostrarResultado = [](Ventana *, const SalidaResultado &salida) { SucesoSalida(salida); },
+    .seleccionarEnControl = [](ControlTexto *, int, int) {},
+    .mostrarResultado = MostrarResultado,
     .mostrarGrafico = [](Ventana *, const Grafico &) {},
     .refrescarEditor = [] {},
-    .abrirImpresora = []() -> DispositivoImpresion * { return nullptr; },
-    .iniciarDocumento = [](DispositivoImpresion *, const char *) { return false; },
-    .iniciarPagina = [](DispositivoImpresion *) { return false; },
-    .superficieDePagina = [](DispositivoImpresion *) -> Superficie * { return nullptr; },
-    .terminarPagina = [](DispositivoImpresion *) { return false; },
-    .terminarDocumento = [](DispositivoImpresion *) { return false; },
-    .cerrarImpresora = [](DispositivoImpresion *) {},
+    .empezarTrabajo = EmpezarTrabajoGrabado,
+    .terminarTrabajo = TerminarTrabajoDeCorrida,
+    .abrirImpresora = AbrirImpresoraGrabadora,
+    .iniciarDocumento = IniciarDocumentoGrabado,
+    .iniciarPagina = IniciarPaginaGrabada,
+    .superficieDePagina = SuperficieGrabada,
+    .terminarPagina = TerminarPaginaGrabada,
+    .terminarDocumento = TerminarDocumentoGrabado,
+    .cerrarImpresora = CerrarImpresoraGrabadora,
     .segundos = Segundos,
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "charts/resultado.h"
+#include "platform/impresora_grabadora.h"
 #include "platform/plataforma.h"
 
 #include <string>
@@ -17,11 +18,14 @@ void SucesoSalida(const SalidaResultado &salida);
 // The same for a dialog that shows lines of one kind.
 void SucesoLineas(TiposDeSalida tipo, std::string_view titulo, const std::vector<std::string> &lineas);
 
+// A print job that is over.
+void SucesoImpresion(const TrabajoImpreso &trabajo);
+
 // The content of the store.
 void SucesoVolcado();
 
 // The end of the run.
 void SucesoFin(int estado);
 
-// The platform of the batch runner: events out, answers from the command line, nothing to draw on.
+// The platform of the batch runner: events out, answers from the command line, a printer that records.
 extern const OperacionesPlataforma PlataformaLote;

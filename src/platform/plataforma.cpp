@@ -41,6 +41,10 @@ void SeleccionDeControl(ControlTexto *control, int &desde, int &hasta) {
     Instalada->seleccionDeControl(control, desde, hasta);
 }
 
+void SeleccionarEnControl(ControlTexto *control, int desde, int hasta) {
+    Instalada->seleccionarEnControl(control, desde, hasta);
+}
+
 void MostrarVentanaResultado(Ventana *ventana, const SalidaResultado &salida) {
     Instalada->mostrarResultado(ventana, salida);
 }

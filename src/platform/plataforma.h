@@ -21,7 +21,7 @@ enum Botones { BotonesAceptar, BotonesAceptarCancelar, BotonesSiNo, BotonesSiNoC
 enum Respuesta { RespuestaAceptar, RespuestaCancelar, RespuestaSi, RespuestaNo };
 enum Cursor { CursorFlecha, CursorEspera };
 
-// A document of the printer, or what stands in for it.
+// A document of the printer, or what stands in for it (platform/impresora_grabadora.h has the one that records).
 struct DispositivoImpresion;
 
 struct OperacionesPlataforma {
@@ -30,13 +30,18 @@ struct OperacionesPlataforma {
     // The whole text of a control and its selection, [desde, hasta) in characters.
     std::string (*textoDeControl)(ControlTexto *control);
     void (*seleccionDeControl)(ControlTexto *control, int &desde, int &hasta);
+    void (*seleccionarEnControl)(ControlTexto *control, int desde, int hasta);
     // Shows a result window and returns when it is closed.
     void (*mostrarResultado)(Ventana *ventana, const SalidaResultado &salida);
     // Shows a chart window and returns when it is closed.
     void (*mostrarGrafico)(Ventana *ventana, const Grafico &grafico);
     // The grid of the editor shows the tables anew, if it is open.
     void (*refrescarEditor)();
-    // Print job: null, or false, when the printer refuses.
+    // Around every print job, whatever documents it opens: what the user is told about it and where its pages go is
+    // decided here.
+    void (*empezarTrabajo)(std::string_view titulo);
+    void (*terminarTrabajo)();
+    // Steps of a print job: null, or false, when the printer refuses.
     DispositivoImpresion *(*abrirImpresora)();
     bool (*iniciarDocumento)(DispositivoImpresion *dispositivo, const char *nombre);
     bool (*iniciarPagina)(DispositivoImpresion *dispositivo);
@@ -72,6 +77,7 @@ void MensajeSinMemoria(int a, int b, Ventana *ventana);
 void PonerCursor(Cursor cursor);
 std::string TextoDeControl(ControlTexto *control);
 void SeleccionDeControl(ControlTexto *control, int &desde, int &hasta);
+void SeleccionarEnControl(ControlTexto *control, int desde, int hasta);
 void MostrarVentanaResultado(Ventana *ventana, const SalidaResultado &salida);
 void MostrarVentanaGrafico(Ventana *ventana, const Grafico &grafico);
 void RefrescarEditor();

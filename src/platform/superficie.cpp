@@ -23,3 +23,13 @@ void GrabarTexto(void *propio, int x, int y, std::string_view texto) {
 Superficie SuperficieGrabadora(std::vector<OrdenDibujo> &ordenes, int ancho, int alto, int anchoCaracter, int altoLinea) {
     return {&ordenes, ancho, alto, anchoCaracter, altoLinea, GrabarLinea, GrabarRectangulo, GrabarTexto};
 }
+
+void Reproducir(const std::vector<OrdenDibujo> &ordenes, Superficie &s) {
+    for (const OrdenDibujo &o : ordenes) {
+        switch (o.clase) {
+        case OrdenLinea: Linea(s, o.x1, o.y1, o.x2, o.y2, o.pluma); break;
+        case OrdenRectangulo: Rectangulo(s, o.x1, o.y1, o.x2, o.y2, o.pluma, o.conRelleno ? &o.relleno : nullptr); break;
+        case OrdenTexto: Texto(s, o.x1, o.y1, o.texto); break;
+        }
+    }
+}

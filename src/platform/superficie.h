@@ -51,5 +51,8 @@ struct OrdenDibujo {
     std::string texto;
 };
 
+// Draws on `s` what was kept, in the same order.
+void Reproducir(const std::vector<OrdenDibujo> &ordenes, Superficie &s);
+
 // A surface of the given size and cell that appends what is drawn to `ordenes`, which must outlive it.
 Superficie SuperficieGrabadora(std::vector<OrdenDibujo> &ordenes, int ancho, int alto, int anchoCaracter, int altoLinea);

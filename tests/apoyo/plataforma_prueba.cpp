@@ -39,6 +39,32 @@ void Resultado(Ventana *, const SalidaResultado &s) {
         {s.tipo, Utf8De1252(s.titulo), s.Clase, s.Contenido, Lineas(s.lineas), Lineas(s.fijas)});
 }
 
+int VecesDelPaso[NumPasosDeImpresora];
+
+// Writes the step down; false when it is told to refuse.
+bool DarPaso(PasosDeImpresora paso, const std::string &nombre) {
+    Prueba.pasosImpresora.push_back(nombre);
+    const int desde = Prueba.fallaPaso[paso];
+    return ++VecesDelPaso[paso] < desde || desde == 0;
+}
+
+void EmpezarTrabajo(std::string_view titulo) {
+    std::fill(std::begin(VecesDelPaso), std::end(VecesDelPaso), 0);
+    EmpezarTrabajoGrabado(titulo);
+}
+
+void TerminarTrabajo() {
+    TrabajoImpreso t = TerminarTrabajoGrabado();
+    TrabajoVisto &visto = Prueba.trabajos.emplace_back();
+    visto.titulo = Utf8De1252(t.titulo);
+    visto.documento = t.documento;
+    for (const PaginaImpresa &p : t.paginas) {
+        std::vector<std::string> &lineas = visto.paginas.emplace_back();
+        for (const std::string &l : LineasDePagina(p)) lineas.push_back(Utf8De1252(l));
+    }
+    visto.dibujo = std::move(t.paginas);
+}
+
 const OperacionesPlataforma Operaciones = {
     .caja = Caja,
     .cursor = [](Cursor c) { Prueba.cursor = c; },
@@ -48,16 +74,33 @@ const OperacionesPlataforma Operaciones = {
             desde = Prueba.desde;
             hasta = Prueba.hasta;
         },
+    .seleccionarEnControl =
+        [](ControlTexto *, int desde, int hasta) {
+            const int n = static_cast<int>(Prueba.textoControl.size());
+            Prueba.desde = std::min(desde, n);
+            Prueba.hasta = std::min(hasta, n);
+        },
     .mostrarResultado = Resultado,
     .mostrarGrafico = [](Ventana *, const Grafico &) {},
     .refrescarEditor = [] { ++Prueba.refrescos; },
-    .abrirImpresora = []() -> DispositivoImpresion * { return nullptr; },
-    .iniciarDocumento = [](DispositivoImpresion *, const char *) { return false; },
-    .iniciarPagina = [](DispositivoImpresion *) { return false; },
-    .superficieDePagina = [](DispositivoImpresion *) -> Superficie * { return nullptr; },
-    .terminarPagina = [](DispositivoImpresion *) { return false; },
-    .terminarDocumento = [](DispositivoImpresion *) { return false; },
-    .cerrarImpresora = [](DispositivoImpresion *) {},
+    .empezarTrabajo = EmpezarTrabajo,
+    .terminarTrabajo = TerminarTrabajo,
+    .abrirImpresora = [] { return DarPaso(PasoAbrir, "abrir") ? AbrirImpresoraGrabadora() : nullptr; },
+    .iniciarDocumento =
+        [](DispositivoImpresion *d, const char *nombre) {
+            return DarPaso(PasoDocumento, std::string("documento ") + nombre) && IniciarDocumentoGrabado(d, nombre);
+        },
+    .iniciarPagina = [](DispositivoImpresion *d) { return DarPaso(PasoPagina, "pagina") && IniciarPaginaGrabada(d); },
+    .superficieDePagina = SuperficieGrabada,
+    .terminarPagina =
+        [](DispositivoImpresion *d) { return DarPaso(PasoFinPagina, "fin pagina") && TerminarPaginaGrabada(d); },
+    .terminarDocumento =
+        [](DispositivoImpresion *d) { return DarPaso(PasoFinDocumento, "fin documento") && TerminarDocumentoGrabado(d); },
+    .cerrarImpresora =
+        [](DispositivoImpresion *d) {
+            Prueba.pasosImpresora.emplace_back("cerrar");
+            CerrarImpresoraGrabadora(d);
+        },
     .segundos = [] { return Prueba.segundos; },
 };
 

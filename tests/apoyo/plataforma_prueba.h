@@ -3,6 +3,7 @@
 #pragma once
 
 #include "charts/resultado.h"
+#include "platform/impresora_grabadora.h"
 #include "platform/plataforma.h"
 
 #include <cstdint>
@@ -30,6 +31,16 @@ struct ResultadoVisto {
     std::vector<std::pair<int, std::string>> fijas;
 };
 
+// A print job that came to its end. The pages are kept as drawn, too.
+struct TrabajoVisto {
+    std::string titulo, documento;
+    std::vector<std::vector<std::string>> paginas; // the lines of each page
+    std::deque<PaginaImpresa> dibujo;
+};
+
+// Steps at which the printer can refuse.
+enum PasosDeImpresora { PasoAbrir, PasoDocumento, PasoPagina, PasoFinPagina, PasoFinDocumento, NumPasosDeImpresora };
+
 struct PlataformaDePrueba {
     std::vector<CajaVista> cajas;
     std::vector<ResultadoVisto> resultados;
@@ -37,6 +48,10 @@ struct PlataformaDePrueba {
     int refrescos = 0;                // calls of RefrescarEditor
     Cursor cursor = CursorFlecha;
     std::int32_t segundos = 1234567; // what SegundosDeCalendario answers
+    std::vector<TrabajoVisto> trabajos;
+    std::vector<std::string> pasosImpresora; // "abrir", "documento NOMBRE", "pagina", "fin pagina", "fin documento", "cerrar"
+    // A step refuses from this occurrence in a job on, counted from 1; 0: never.
+    int fallaPaso[NumPasosDeImpresora] = {};
     std::string textoControl;        // text of the one control, in Windows-1252
     int desde = 0, hasta = 0;        // its selection
 };

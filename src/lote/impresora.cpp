@@ -1,0 +1,71 @@
+// The printer of a run.
+#include "lote/impresora.h"
+
+#include "charts/impresion.h"
+#include "lote/sucesos.h"
+#include "platform/qt/pdf.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <iterator>
+#include <utility>
+
+namespace {
+
+struct DocumentoDeCorrida {
+    std::string ruta, titulo;
+    std::deque<PaginaImpresa> paginas;
+};
+
+struct EstadoImpresora {
+    std::deque<DocumentoDeCorrida> documentos;
+    DocumentoDeCorrida *enUso = nullptr;
+};
+
+EstadoImpresora Impresora;
+
+// What a window of each kind asks for, by TiposDeSalida. The result window proper goes by its content, and dialogs
+// can't be printed.
+constexpr int SinImpresion = -1;
+constexpr int ClaseDeVentana[] = {ImprimirInforme,    ImprimirHipotesis,    ImprimirTablaAutocorrelacion,
+                                  ImprimirNormalidad, ImprimirPrediccion,   ImprimirDescriptivos,
+                                  ImprimirHistograma, SinImpresion,         SinImpresion,
+                                  SinImpresion};
+
+} // namespace
+
+void ElegirDocumento(const std::string &ruta) {
+    const auto p = std::find_if(Impresora.documentos.begin(), Impresora.documentos.end(),
+                                [&](const DocumentoDeCorrida &d) { return d.ruta == ruta; });
+    if (p != Impresora.documentos.end()) {
+        Impresora.enUso = &*p;
+    } else {
+        Impresora.enUso = &Impresora.documentos.emplace_back(DocumentoDeCorrida{ruta, {}, {}});
+    }
+}
+
+void TerminarTrabajoDeCorrida() {
+    TrabajoImpreso trabajo = TerminarTrabajoGrabado();
+    SucesoImpresion(trabajo);
+    if (Impresora.enUso == nullptr) return;
+    DocumentoDeCorrida &d = *Impresora.enUso;
+    if (d.paginas.empty()) d.titulo = trabajo.titulo;
+    std::move(trabajo.paginas.begin(), trabajo.paginas.end(), std::back_inserter(d.paginas));
+}
+
+void ImprimirVentana(const SalidaResultado &salida) {
+    const int clase = salida.tipo == SalidaRegresion ? salida.Contenido : ClaseDeVentana[salida.tipo];
+    if (clase != SinImpresion) ImprimirResultado(nullptr, clase, salida);
+}
+
+bool EscribirDocumentos() {
+    bool bien = true;
+    for (const DocumentoDeCorrida &d : Impresora.documentos) {
+        if (d.paginas.empty() || EscribirPdf(d.ruta, d.titulo, d.paginas)) continue;
+        std::fprintf(stderr, "tabira-lote: no se puede escribir '%s'\n", d.ruta.c_str());
+        bien = false;
+    }
+    return bien;
+}
+
+void OlvidarDocumentos() { Impresora = {}; }

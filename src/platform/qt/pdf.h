@@ -1,0 +1,9 @@
+// Printed pages as a PDF document.
+#pragma once
+
+#include "platform/impresora_grabadora.h"
+
+// Writes the pages to `ruta`, A4 in portrait, the fixed-pitch font embedded; the old file stays whole until the new one
+// is complete. `titulo` is what a reader shows. Needs no desktop: a program without a QGuiApplication gets one for the
+// time of the call. False when there are no pages or the file can't be written.
+bool EscribirPdf(const std::string &ruta, std::string_view titulo, const std::deque<PaginaImpresa> &paginas);
