@@ -65,7 +65,7 @@ constexpr const char *Significatividad = "&Contrastes/Contrastes de &Significati
 constexpr const char *Heteroscedasticidad = "&Contrastes/Contrastes de &heteroscedasticidad";
 constexpr const char *Autocorrelacion = "&Contrastes/Contrastes de &autocorrelación"_w;
 constexpr const char *Util = "&Util.";
-constexpr const char *MenuAyuda = "A&yuda";
+constexpr const char *MenuDeAyuda = "A&yuda";
 
 } // namespace
 
@@ -117,20 +117,20 @@ const Comando TablaComandos[] = {
     {2092, Util, "&Abrir fichero sentencias...", "", false, nullptr, nullptr},
     {2091, Util, "&Guardar fichero sentencias...", "", false, nullptr, nullptr},
     {2090, Util, "Aña&dir fichero sentencias..."_w, "", false, nullptr, nullptr},
-    {2067, MenuAyuda, "&Reglas generales...", "", false, nullptr, Ayuda},
-    {2101, MenuAyuda, "Acotación de la muestra..."_w, "", false, nullptr, Ayuda},
-    {2051, MenuAyuda, "&Transformación de series..."_w, "", false, nullptr, Ayuda},
-    {2068, MenuAyuda, "&Escalares...", "", false, nullptr, Ayuda},
-    {2053, MenuAyuda, "&Calculadora...", "", false, nullptr, Ayuda},
-    {2069, MenuAyuda, "Cálculo &matricial..."_w, "", false, nullptr, Ayuda},
-    {2084, MenuAyuda, "Mét&odos y contrastes..."_w, "", false, nullptr, Ayuda},
-    {2089, MenuAyuda, "Co&ntrol de flujo y otros...", "", false, nullptr, Ayuda},
-    {2096, MenuAyuda, "Operadores lógicos..."_w, "", false, nullptr, Ayuda},
-    {2097, MenuAyuda, "Series ficticias...", "", false, nullptr, Ayuda},
-    {2098, MenuAyuda, "Probabilidades...", "", false, nullptr, Ayuda},
-    {2102, MenuAyuda, "Funciones desde Pantalla Edición"_w, "", false, nullptr, Ayuda},
-    {2100, MenuAyuda, "Ejemplos de ayuda...", "", false, nullptr, Ayuda},
-    {2046, MenuAyuda, "&Acerca de Tabira...", "", false, nullptr, Ayuda},
+    {2067, MenuDeAyuda, "&Reglas generales...", "", false, nullptr, Ayuda},
+    {2101, MenuDeAyuda, "Acotación de la muestra..."_w, "", false, nullptr, Ayuda},
+    {2051, MenuDeAyuda, "&Transformación de series..."_w, "", false, nullptr, Ayuda},
+    {2068, MenuDeAyuda, "&Escalares...", "", false, nullptr, Ayuda},
+    {2053, MenuDeAyuda, "&Calculadora...", "", false, nullptr, Ayuda},
+    {2069, MenuDeAyuda, "Cálculo &matricial..."_w, "", false, nullptr, Ayuda},
+    {2084, MenuDeAyuda, "Mét&odos y contrastes..."_w, "", false, nullptr, Ayuda},
+    {2089, MenuDeAyuda, "Co&ntrol de flujo y otros...", "", false, nullptr, Ayuda},
+    {2096, MenuDeAyuda, "Operadores lógicos..."_w, "", false, nullptr, Ayuda},
+    {2097, MenuDeAyuda, "Series ficticias...", "", false, nullptr, Ayuda},
+    {2098, MenuDeAyuda, "Probabilidades...", "", false, nullptr, Ayuda},
+    {2102, MenuDeAyuda, "Funciones desde Pantalla Edición"_w, "", false, nullptr, Ayuda},
+    {2100, MenuDeAyuda, "Ejemplos de ayuda...", "", false, nullptr, Ayuda},
+    {2046, MenuDeAyuda, "&Acerca de Tabira...", "", false, nullptr, Ayuda},
     // Ids that no entry bears.
     {2052, nullptr, nullptr, "", false, nullptr, Ayuda},
     {2099, nullptr, nullptr, "", false, nullptr, Ayuda},

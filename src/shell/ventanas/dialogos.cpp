@@ -25,7 +25,7 @@ void DialogoMuestra(Ventana *ventana) {
         return true;
     });
     QObject::connect(d.ui.Ayuda, &QPushButton::clicked, &d.dialogo,
-                     [&] { DialogoAyuda(d.ventana(), PaginaDeLaMuestra); });
+                     [&] { DialogoAyuda(d.ventana(), PaginaMuestra); });
     d.Ejecutar();
 }
 

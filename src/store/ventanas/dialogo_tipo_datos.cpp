@@ -72,6 +72,6 @@ void DialogoTipoDatos(Ventana *ventana) {
         return DialogoPeriodos(d.ventana(), propuesta);
     });
     QObject::connect(d.ui.Ayuda, &QPushButton::clicked, &d.dialogo,
-                     [&] { DialogoAyuda(d.ventana(), PaginaDeLaMuestra); });
+                     [&] { DialogoAyuda(d.ventana(), PaginaMuestra); });
     d.Ejecutar();
 }
