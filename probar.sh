@@ -9,7 +9,7 @@ cd "$(dirname "$(readlink -f "$0")")"
 source guiones/preparar.sh
 
 pruebas() {
-    preparar_compilacion libgtest-dev nlohmann-json3-dev locales
+    preparar_compilacion libgtest-dev nlohmann-json3-dev locales poppler-utils
     # A Spanish locale for the tests that need one, beside the build and not in the system.
     mkdir -p build/locale
     [ -d build/locale/es_ES.UTF-8 ] || localedef -i es_ES -f UTF-8 build/locale/es_ES.UTF-8 ||

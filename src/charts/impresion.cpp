@@ -78,7 +78,8 @@ bool HacerTrabajo(Ventana *ventana, RutinaDeImpresion rutina) {
     DocumentoImpresion &d = Impresion.propio;
     d = {.dispositivo = AbrirImpresora(), .conDocumento = false, .conPagina = false};
     if (d.dispositivo == nullptr) return false;
-    bool bien = IniciarDocumento(d, "Imprime1: Imprimiendo") && IniciarPagina(d) && rutina(d.dispositivo, ventana);
+    bool bien =
+        IniciarDocumento(d, "Imprime1: Imprimiendo") && IniciarPagina(d) && rutina(d.dispositivo, ventana);
     bien = CerrarDocumento(d) && bien;
     // No page change follows that would end the document of the last one.
     return CerrarDocumento(Impresion.siguiente) && bien;
@@ -92,7 +93,9 @@ DispositivoImpresion *ErrorDePagina(Ventana *ventana, const char *texto) {
 
 } // namespace
 
-DispositivoImpresion *AbrirImpresora() { return Plataforma().abrirImpresora(); }
+DispositivoImpresion *AbrirImpresora() {
+    return Plataforma().abrirImpresora();
+}
 
 int ImprimirSalida(Ventana *ventana, std::string_view titulo, int clase) {
     const RutinaDeImpresion rutina = RutinaDe(clase);
@@ -106,7 +109,8 @@ int ImprimirSalida(Ventana *ventana, std::string_view titulo, int clase) {
 }
 
 int ImprimirResultado(Ventana *ventana, int contenido, const SalidaResultado &salida) {
-    static constexpr int ClaseDeContenido[] = {ImprimirInforme, ImprimirCovarianza, ImprimirValores, ImprimirVarianza};
+    static constexpr int ClaseDeContenido[] = {ImprimirInforme, ImprimirCovarianza, ImprimirValores,
+                                               ImprimirVarianza};
     const bool propio = contenido >= 0 && contenido < static_cast<int>(std::size(ClaseDeContenido));
     Informe.salida = &salida;
     const int r = ImprimirSalida(ventana, salida.titulo, propio ? ClaseDeContenido[contenido] : contenido);
@@ -125,7 +129,8 @@ DispositivoImpresion *NuevaPaginaImpresion(Ventana *ventana, int primera) {
 }
 
 bool TerminarPaginaImpresion(DispositivoImpresion *dispositivo) {
-    DocumentoImpresion &d = dispositivo == Impresion.propio.dispositivo ? Impresion.propio : Impresion.siguiente;
+    DocumentoImpresion &d =
+        dispositivo == Impresion.propio.dispositivo ? Impresion.propio : Impresion.siguiente;
     d.conPagina = false;
     return Plataforma().terminarPagina(dispositivo);
 }

@@ -17,9 +17,9 @@ constexpr Pluma PlumaRegla = {{0, 0, 0}, 3, PlumaContinua};
 
 constexpr int PrimeraFila = 3; // rows left free at the top of the paper
 
-constexpr int AnchoListado = 65;   // characters between the side rules
-constexpr int AnchoRenglon = 64;   // characters of a printed line of series
-constexpr int AnchoNumero = 15;    // of a value, a code, a period
+constexpr int AnchoListado = 65; // characters between the side rules
+constexpr int AnchoRenglon = 64; // characters of a printed line of series
+constexpr int AnchoNumero = 15;  // of a value, a code, a period
 constexpr int ContadorTrasCabecera = 10;
 constexpr int SeriesPorBloque = 3;
 constexpr int SeriesPorBloqueConEtiquetas = 2;
@@ -29,9 +29,9 @@ constexpr int ElementosPorRenglon = 4;
 
 constexpr int AnchoPantalla = 70;
 constexpr int AnchoCabeceraPantalla = 79;
-constexpr int ContadorPantalla = 12;   // after the head of the main screen's listing
-constexpr int ContadorInicial = 1000;  // above the lines of any page, so that the first line opens a head
-constexpr int FinalPantalla = 32000;   // where the selection of the whole text ends
+constexpr int ContadorPantalla = 12;    // after the head of the main screen's listing
+constexpr int ContadorInicial = 1000;   // above the lines of any page, so that the first line opens a head
+constexpr int FinalPantalla = 32000;    // where the selection of the whole text ends
 constexpr int MascaraPosicion = 0xFFFF; // positions of the control have 16 bits
 
 // ---------------------------------------------------------------------------------------------------------------
@@ -43,7 +43,7 @@ struct Hoja {
     Superficie *s;
     int izquierda, derecha;
     int lineasPagina, contador;
-    int fila;      // next row on the paper
+    int fila;       // next row on the paper
     bool trasRegla; // the row above holds a rule
     const char *titulo;
     int pagina;
@@ -64,7 +64,9 @@ Hoja AbrirHoja(DispositivoImpresion *dispositivo, Ventana *ventana, int ancho) {
     return h;
 }
 
-int AlturaDeRegla(const Hoja &h, int fila) { return fila * h.s->altoLinea + h.s->altoLinea / 2; }
+int AlturaDeRegla(const Hoja &h, int fila) {
+    return fila * h.s->altoLinea + h.s->altoLinea / 2;
+}
 
 void PonerRegla(Hoja &h) {
     if (h.trasRegla) return;
@@ -78,7 +80,9 @@ void PonerTexto(Hoja &h, int x, std::string_view texto) {
     h.trasRegla = false;
 }
 
-void PonerRenglon(Hoja &h, std::string_view texto) { PonerTexto(h, h.izquierda + h.s->anchoCaracter, texto); }
+void PonerRenglon(Hoja &h, std::string_view texto) {
+    PonerTexto(h, h.izquierda + h.s->anchoCaracter, texto);
+}
 
 // ---------------------------------------------------------------------------------------------------------------
 // Pages of the listings of series and matrices
@@ -165,7 +169,8 @@ bool FilasAListar(int &primera, int &ultima) {
 std::string CabeceraDeSeries(const std::vector<int> &bloque) {
     std::string r = ArchivoTrabajo.TipoDatos != TipoSinPeriodicidad ? "  Período     "_w : "  Observac.   ";
     if (ArchivoTrabajo.ConEtiquetas != 0) r += "  Etiquetas   ";
-    for (const int s : bloque) r += Formatear("%15s ", std::string(Recortado(ArchivoTrabajo.Codigos[s])).c_str());
+    for (const int s : bloque)
+        r += Formatear("%15s ", std::string(Recortado(ArchivoTrabajo.Codigos[s])).c_str());
     r.resize(std::max<std::size_t>(r.size(), AnchoRenglon), ' ');
     return r;
 }
@@ -221,11 +226,13 @@ bool ListarFilaDeMatriz(Hoja &h, const double *elementos, int columnas) {
 
 bool ListarMatriz(Hoja &h, int matriz) {
     const RegistroMatriz &r = TablaMatrices.registro[matriz];
-    if (!AbrirBloque(h, Formatear("  Nombre Matriz..: %12s     Nº Filas: %3d Nº Col.: %3d  "_w, r.Codigo, r.Filas, r.Columnas)))
+    if (!AbrirBloque(h, Formatear("  Nombre Matriz..: %12s     Nº Filas: %3d Nº Col.: %3d  "_w, r.Codigo,
+                                  r.Filas, r.Columnas)))
         return false;
     if (!FijarMatriz(matriz)) return true;
     bool bien = true;
-    for (int f = 0; f < r.Filas && bien; ++f) bien = ListarFilaDeMatriz(h, r.Datos + f * r.Columnas, r.Columnas);
+    for (int f = 0; f < r.Filas && bien; ++f)
+        bien = ListarFilaDeMatriz(h, r.Datos + f * r.Columnas, r.Columnas);
     SoltarMatriz(matriz);
     return bien;
 }

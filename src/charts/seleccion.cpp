@@ -34,14 +34,16 @@ bool Mover(std::vector<std::string> &de, std::vector<std::string> &a, int indice
 
 } // namespace
 
-const TextosSeleccion &TextosDe(ModosSeleccion modo) { return Modos[modo].textos; }
+const TextosSeleccion &TextosDe(ModosSeleccion modo) {
+    return Modos[modo].textos;
+}
 
 EstadoSeleccion IniciarSeleccion(ModosSeleccion modo) {
     EstadoSeleccion estado{modo, {}, {}};
     const int n = modo == SeleccionDeSeries ? ArchivoTrabajo.NumSeries : TablaMatrices.numero;
     for (int i = 0; i < n; ++i)
-        estado.disponibles.emplace_back(
-            Recortado(modo == SeleccionDeSeries ? ArchivoTrabajo.Codigos[i] : TablaMatrices.registro[i].Codigo));
+        estado.disponibles.emplace_back(Recortado(
+            modo == SeleccionDeSeries ? ArchivoTrabajo.Codigos[i] : TablaMatrices.registro[i].Codigo));
     return estado;
 }
 

@@ -14,11 +14,12 @@ constexpr int LineasDePaginado = 5;
 constexpr int LineasDeMuesca = 3;
 constexpr int LineasFinalesSinRegla = 3;
 
-// Thin rules of the coefficient table: units from the left edge of the window as it opens with the stock font of 8 by
-// 16, where the block begins at 32. In a window of another size or font they keep their place within the block.
-constexpr std::array ReglasDeTabla = {160, 290, 410, 510};
-constexpr int BordeConFuenteBase = 32;
-constexpr int AnchoFuenteBase = 8;
+// Thin rules of the coefficient table. With the stock font of 8 by 16: units from the left edge of the window as it
+// opens, where the block begins at 32; in a wider window they move with the block. With any other font: the character
+// of the line with which a field begins, and which its numbers leave blank.
+constexpr int AnchoFuenteBase = 8, AltoFuenteBase = 16, BordeConFuenteBase = 32;
+constexpr std::array ReglasConFuenteBase = {160, 290, 410, 510};
+constexpr std::array BlancosEntreColumnas = {15, 30, 45, 54};
 
 int NumeroDeLineas(const SalidaResultado &salida) {
     return salida.lineas != nullptr ? static_cast<int>(salida.lineas->size()) : 0;
@@ -34,18 +35,22 @@ struct Pintado {
     Superficie &s;
     const BloqueTexto &bloque;
     int filas = 0;
-    int fondo = 0; // where the last rule is, or where one belongs when a line was drawn last
+    int fondo = 0;      // where the last rule is, or where one belongs when a line was drawn last
     bool regla = false; // a rule is there already
 };
 
-int AlturaDeFila(const Pintado &p) { return p.bloque.superior + p.s.altoLinea / 2 + p.filas * p.s.altoLinea; }
+int AlturaDeFila(const Pintado &p) {
+    return p.bloque.superior + p.s.altoLinea / 2 + p.filas * p.s.altoLinea;
+}
 
 void ReglaEnElFondo(Pintado &p) {
     if (!p.regla) Linea(p.s, p.bloque.izquierda, p.fondo, p.bloque.derecha, p.fondo, PlumaGruesa);
     p.regla = true;
 }
 
-bool CabeOtraLinea(const Pintado &p) { return AlturaDeFila(p) <= p.bloque.limite; }
+bool CabeOtraLinea(const Pintado &p) {
+    return AlturaDeFila(p) <= p.bloque.limite;
+}
 
 void PonerLinea(Pintado &p, const LineaSalida &linea) {
     const std::string_view texto(linea.texto);
@@ -62,15 +67,19 @@ void PonerRegla(Pintado &p) {
 
 // The rules of the table between the one above its first row and the one below its last, as far as they are in sight:
 // `reglas` has the height of the rule or edge below each line from `desde` - 1 on.
-void PonerReglasDeTabla(const Pintado &p, const TablaCoeficientes &tabla, int desde, const std::vector<int> &reglas) {
+void PonerReglasDeTabla(const Pintado &p, const TablaCoeficientes &tabla, int desde,
+                        const std::vector<int> &reglas) {
     const int hasta = desde + static_cast<int>(reglas.size()) - 2; // last line drawn
     const int primera = std::max(tabla.primera, desde);
     const int ultima = std::min(tabla.ultima, hasta);
     if (primera > ultima) return;
     const int arriba = reglas[static_cast<std::size_t>(primera - desde)];
     const int abajo = reglas[static_cast<std::size_t>(ultima - desde + 1)];
-    for (const int posicion : ReglasDeTabla) {
-        const int x = p.bloque.izquierda + (posicion - BordeConFuenteBase) * p.s.anchoCaracter / AnchoFuenteBase;
+    const int c = p.s.anchoCaracter;
+    const bool base = c == AnchoFuenteBase && p.s.altoLinea == AltoFuenteBase;
+    for (std::size_t i = 0; i < ReglasConFuenteBase.size(); ++i) {
+        const int x = p.bloque.izquierda + (base ? ReglasConFuenteBase[i] - BordeConFuenteBase
+                                                 : (BlancosEntreColumnas[i] + 1) * c + c / 2);
         Linea(p.s, x, arriba, x, abajo, PlumaFina);
     }
 }
@@ -91,7 +100,8 @@ BloqueTexto BloqueCentrado(const Superficie &s, int superior, int limite) {
     return {izquierda, std::min(izquierda + AnchoBloqueSalida * s.anchoCaracter, s.ancho), superior, limite};
 }
 
-int PintarBloque(Superficie &s, const BloqueTexto &bloque, const SalidaResultado &salida, int desde, int &filas) {
+int PintarBloque(Superficie &s, const BloqueTexto &bloque, const SalidaResultado &salida, int desde,
+                 int &filas) {
     Pintado p{s, bloque};
     p.fondo = bloque.superior;
     ReglaEnElFondo(p);
@@ -128,7 +138,8 @@ void PintarResultado(Superficie &s, EstadoVentanaResultado &estado, const Salida
     PintarBloque(s, bloque, salida, estado.LineaInicial, estado.Fila);
 }
 
-void DesplazarResultado(EstadoVentanaResultado &estado, const SalidaResultado &salida, Desplazamientos que, int posicion) {
+void DesplazarResultado(EstadoVentanaResultado &estado, const SalidaResultado &salida, Desplazamientos que,
+                        int posicion) {
     static constexpr std::array Pasos = {-1, 1, -LineasDePaginado, LineasDePaginado};
     const int nueva = que == DesplazarA ? posicion : estado.LineaInicial + Pasos[que];
     estado.LineaInicial = std::clamp(nueva, 0, std::max(NumeroDeLineas(salida) - 1, 0));
@@ -140,8 +151,9 @@ void DesplazarConTecla(EstadoVentanaResultado &estado, const SalidaResultado &sa
         Desplazamientos que;
         int posicion;
     };
-    static constexpr FilaDeTecla Teclas[] = {{LineaArriba, 0},  {LineaAbajo, 0}, {PaginaArriba, 0},
-                                             {PaginaAbajo, 0}, {DesplazarA, 0}, {DesplazarA, TopeBarraResultado}};
+    static constexpr FilaDeTecla Teclas[] = {{LineaArriba, 0},  {LineaAbajo, 0},
+                                             {PaginaArriba, 0}, {PaginaAbajo, 0},
+                                             {DesplazarA, 0},   {DesplazarA, TopeBarraResultado}};
     DesplazarResultado(estado, salida, Teclas[tecla].que, Teclas[tecla].posicion);
 }
 

@@ -4,9 +4,10 @@
 #include "charts/resultado.h"
 #include "platform/superficie.h"
 
-inline constexpr int AnchoBloqueSalida = 70;     // characters of a line that are shown
-inline constexpr int ColumnasVentanaResultado = 77; // width of the client area when the window opens, in characters
-inline constexpr int TopeBarraResultado = 4000;  // the vertical bar runs from 0 to here
+inline constexpr int AnchoBloqueSalida = 70; // characters of a line that are shown
+inline constexpr int ColumnasVentanaResultado =
+    77; // width of the client area when the window opens, in characters
+inline constexpr int TopeBarraResultado = 4000; // the vertical bar runs from 0 to here
 
 // State of an open result window.
 struct EstadoVentanaResultado {
@@ -34,7 +35,8 @@ BloqueTexto BloqueCentrado(const Superficie &s, int superior, int limite);
 // Draws the fixed lines, then the others from `desde` on as far as they fit, with the rules between kinds, those around
 // the block, and the thin vertical rules of the coefficient tables. Lines are cut at 70 characters. `filas` receives
 // the rows used. Returns the number of the line behind the last one drawn.
-int PintarBloque(Superficie &s, const BloqueTexto &bloque, const SalidaResultado &salida, int desde, int &filas);
+int PintarBloque(Superficie &s, const BloqueTexto &bloque, const SalidaResultado &salida, int desde,
+                 int &filas);
 
 // Paints the whole window; `estado` gives the first line and receives Fila and the metrics.
 void PintarResultado(Superficie &s, EstadoVentanaResultado &estado, const SalidaResultado &salida);
@@ -44,7 +46,8 @@ enum Desplazamientos { LineaArriba, LineaAbajo, PaginaArriba, PaginaAbajo, Despl
 
 // Moves the first line, held between 0 and the last line of the text, and takes Fila back to 0. The window is then to
 // be painted anew.
-void DesplazarResultado(EstadoVentanaResultado &estado, const SalidaResultado &salida, Desplazamientos que, int posicion = 0);
+void DesplazarResultado(EstadoVentanaResultado &estado, const SalidaResultado &salida, Desplazamientos que,
+                        int posicion = 0);
 
 // The same from the keyboard and from the wheel: a notch, positive towards the user, is three lines.
 enum TeclasResultado { TeclaArriba, TeclaAbajo, TeclaPaginaArriba, TeclaPaginaAbajo, TeclaInicio, TeclaFin };

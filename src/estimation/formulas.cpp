@@ -16,7 +16,7 @@ namespace {
 bool SubirNivel(Estimacion &e, const std::string &texto, int &nivel) {
     nivel = Evaluador.NivelLinea;
     if (nivel >= MaxNiveles - 1) return false;
-    (*e.lineas)[static_cast<std::size_t>(nivel + 1)] = texto;
+    (*e.lineas)[static_cast<std::size_t>(nivel) + 1] = texto;
     LimpiarEvaluador();
     Evaluador.NivelLinea = nivel + 1;
     return true;

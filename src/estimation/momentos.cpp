@@ -26,7 +26,9 @@ int EmpezarSuma(Estimacion &e, std::string_view destino, int punto) {
 
 // Adds the outer products of `filas` rows of k elements from `x` on to the upper half of `XX`, and their products with
 // `y` to `Xy`: every element row after row, in registers.
-template <int Filas> void SumarBloque(const double *x, const double *y, int k, double *XX, double *Xy) {
+template <int Filas>
+void SumarBloque(const double *__restrict x, const double *__restrict y, int k, double *__restrict XX,
+                 double *__restrict Xy) {
     for (int a = 0; a < k; ++a) {
         double *fila = XX + a * k;
         for (int b = a; b < k; ++b) {

@@ -34,17 +34,13 @@ enum FallosGuardar {
 
 using FormulaPaso = std::string (*)(const Estimacion &e);
 
-// Where a step stores: a family with a tail behind its name, or a name that is the same for every code.
-struct DestinoPaso {
-    Familias familia;
-    const char *cola;
-};
-
 constexpr Familias NombreFijo = NumFamilias;
 
+// A step stores in a family with a tail behind its name, or under a name that is the same for every code (NombreFijo).
 struct Paso {
     ClasesPaso clase;
-    DestinoPaso destino;
+    Familias familia;
+    const char *cola;
     FormulaPaso formula;
     int puntoFormula; // of "Secuencia no válida" when the formula fails
     int puntoGuardar = 0;
@@ -56,8 +52,8 @@ const char *N(const Estimacion &e, Familias familia) {
     return NombreFamilia(familia, e.codigo);
 }
 
-std::string NombreDestino(const Estimacion &e, const DestinoPaso &d) {
-    return d.familia == NombreFijo ? d.cola : std::string(N(e, d.familia)) + d.cola;
+std::string NombreDestino(const Estimacion &e, const Paso &p) {
+    return p.familia == NombreFijo ? p.cola : std::string(N(e, p.familia)) + p.cola;
 }
 
 int FallarAlGuardar(Estimacion &e, const Paso &p, int causa) {
@@ -71,7 +67,7 @@ int FallarAlGuardar(Estimacion &e, const Paso &p, int causa) {
 }
 
 int EjecutarPaso(Estimacion &e, const Paso &p) {
-    const std::string destino = NombreDestino(e, p.destino);
+    const std::string destino = NombreDestino(e, p);
     const std::string formula = p.formula(e);
     int causa = 0;
     FinesDeFormula fin = FormulaErronea;
@@ -146,107 +142,73 @@ std::string CuatroCeros(E) {
 }
 
 constexpr Paso PasosPrevios[] = {
-    {PasoMatriz, {NombreFijo, "_TMF2"}, CuatroCeros, 6524},
-    {PasoMatriz, {NombreFijo, "_TMF3"}, CuatroCeros, 6524},
-    {PasoMatriz, {NombreFijo, "_TMF4"}, CuatroCeros, 6524},
+    {PasoMatriz, NombreFijo, "_TMF2", CuatroCeros, 6524},
+    {PasoMatriz, NombreFijo, "_TMF3", CuatroCeros, 6524},
+    {PasoMatriz, NombreFijo, "_TMF4", CuatroCeros, 6524},
 };
 
 constexpr Paso PasosAjuste[] = {
-    {PasoMatriz, {FamBETA, ""}, [](E) -> std::string { return "_TMF5$ * _TMF6"; }, 6535},
-    {PasoMatriz, {NombreFijo, "_YAJU1"}, [](E e) { return Formatear("_XIND * %s", N(e, FamBETA)); }, 653},
-    {PasoSerieDeMatriz, {NombreFijo, "_YAJUS"}, [](E) -> std::string { return "_YAJU1"; }, 0},
-    {PasoMatriz,
-     {NombreFijo, "_RESM"},
-     [](E e) { return Formatear("_YDEP - (_XIND * %s)", N(e, FamBETA)); },
+    {PasoMatriz, FamBETA, "", [](E) -> std::string { return "_TMF5$ * _TMF6"; }, 6535},
+    {PasoMatriz, NombreFijo, "_YAJU1", [](E e) { return Formatear("_XIND * %s", N(e, FamBETA)); }, 653},
+    {PasoSerieDeMatriz, NombreFijo, "_YAJUS", [](E) -> std::string { return "_YAJU1"; }, 0},
+    {PasoMatriz, NombreFijo, "_RESM", [](E e) { return Formatear("_YDEP - (_XIND * %s)", N(e, FamBETA)); },
      653},
-    {PasoSerieDeMatriz, {FamRES, ""}, [](E) -> std::string { return "_RESM"; }, 0},
+    {PasoSerieDeMatriz, FamRES, "", [](E) -> std::string { return "_RESM"; }, 0},
 };
 
 constexpr Paso PasosError[] = {
-    {PasoEscalar, {FamSCR, ""}, [](E) -> std::string { return "ESCAL(_SCR1)"; }, 655, 656},
-    {PasoEscalar,
-     {FamDTR, ""},
+    {PasoEscalar, FamSCR, "", [](E) -> std::string { return "ESCAL(_SCR1)"; }, 655, 656},
+    {PasoEscalar, FamDTR, "",
      [](E e) -> std::string {
          return GradosDeLibertad(e) <= 0 ? " 0.0"
                                          : Formatear("RCUAD(%s/%d)", N(e, FamSCR), GradosDeLibertad(e));
      },
-     955,
-     956},
-    {PasoEscalar,
-     {FamMTR, ""},
-     [](E e) { return Formatear("%s * %s", N(e, FamDTR), N(e, FamDTR)); },
-     655,
-     656},
+     955, 956},
+    {PasoEscalar, FamMTR, "", [](E e) { return Formatear("%s * %s", N(e, FamDTR), N(e, FamDTR)); }, 655, 656},
 };
 
 constexpr Paso PasosCovarianza[] = {
-    {PasoMatriz, {FamCOV, ""}, [](E e) { return Formatear("%s * _TMF5$", N(e, FamMTR)); }, 657},
+    {PasoMatriz, FamCOV, "", [](E e) { return Formatear("%s * _TMF5$", N(e, FamMTR)); }, 657},
 };
 
 // The last one has no number of its own and takes that of its neighbour.
 constexpr Paso PasosMedidas[] = {
-    {PasoMatriz, {FamDTE, ""}, [](E e) { return Formatear("RCMT(VECT(%s))", N(e, FamCOV)); }, 658},
-    {PasoEscalar, {FamMVD, ""}, [](E e) { return Decimal6(e.media); }, 659, 6661},
-    {PasoEscalar, {FamSTVD, ""}, [](E e) { return Decimal6(e.suma); }, 6662, 6636},
-    {PasoEscalar, {FamLV, ""}, Verosimilitud, 6664, 6665},
-    {PasoEscalar,
-     {FamAIC, ""},
-     [](E e) { return Formatear("(-2 * (%s - %d))/%d", N(e, FamLV), e.regresores, e.observaciones); },
-     6667,
+    {PasoMatriz, FamDTE, "", [](E e) { return Formatear("RCMT(VECT(%s))", N(e, FamCOV)); }, 658},
+    {PasoEscalar, FamMVD, "", [](E e) { return Decimal6(e.media); }, 659, 6661},
+    {PasoEscalar, FamSTVD, "", [](E e) { return Decimal6(e.suma); }, 6662, 6636},
+    {PasoEscalar, FamLV, "", Verosimilitud, 6664, 6665},
+    {PasoEscalar, FamAIC, "",
+     [](E e) { return Formatear("(-2 * (%s - %d))/%d", N(e, FamLV), e.regresores, e.observaciones); }, 6667,
      6668},
-    {PasoEscalar, {FamSCVD, ""}, [](E e) { return Decimal6(e.variacion); }, 6669, 70},
-    {PasoEscalar,
-     {FamDTVD, ""},
-     [](E e) { return Formatear("RCUAD(%s/%f)", N(e, FamSCVD), e.observaciones - 1.0); },
-     71,
-     72},
-    {PasoEscalar, {FamDCR, ""}, [](E) -> std::string { return "ESCAL(_SCR1)"; }, 73, 74},
-    {PasoEscalar,
-     {FamRC, ""},
-     [](E e) { return Formatear("1.00 - (ESCAL(_SCR1)/%s)", N(e, FamSCVD)); },
-     75,
+    {PasoEscalar, FamSCVD, "", [](E e) { return Decimal6(e.variacion); }, 6669, 70},
+    {PasoEscalar, FamDTVD, "",
+     [](E e) { return Formatear("RCUAD(%s/%f)", N(e, FamSCVD), e.observaciones - 1.0); }, 71, 72},
+    {PasoEscalar, FamDCR, "", [](E) -> std::string { return "ESCAL(_SCR1)"; }, 73, 74},
+    {PasoEscalar, FamRC, "", [](E e) { return Formatear("1.00 - (ESCAL(_SCR1)/%s)", N(e, FamSCVD)); }, 75,
      76},
-    {PasoEscalar, {FamFORLA, ""}, F, 77, 78},
-    {PasoEscalar, {FamNORE, ""}, [](E e) { return Formatear("%d", GradosDeLibertad(e)); }, 77, 78},
+    {PasoEscalar, FamFORLA, "", F, 77, 78},
+    {PasoEscalar, FamNORE, "", [](E e) { return Formatear("%d", GradosDeLibertad(e)); }, 77, 78},
 };
 
 // The first two have no numbers of their own and take those of their neighbours.
 constexpr Paso PasosFinales[] = {
-    {PasoEscalar, {FamANREG, ""}, [](E e) { return Formatear("%d", SeriesDe(e.codigo)); }, 77, 78},
-    {PasoEscalar, {FamNREG, ""}, [](E e) { return Formatear("%d", e.regresores); }, 77, 78},
-    {PasoEscalar,
-     {FamDW, ""},
-     [](E e) { return Formatear("(1.00/(ESCAL(_SCR1))) * %10.6f", e.saltos); },
-     79,
+    {PasoEscalar, FamANREG, "", [](E e) { return Formatear("%d", SeriesDe(e.codigo)); }, 77, 78},
+    {PasoEscalar, FamNREG, "", [](E e) { return Formatear("%d", e.regresores); }, 77, 78},
+    {PasoEscalar, FamDW, "", [](E e) { return Formatear("(1.00/(ESCAL(_SCR1))) * %10.6f", e.saltos); }, 79,
      80},
-    {PasoEscalar, {FamRCC, ""}, RCuadradoCorregido, 81, 82},
-    {PasoEscalar,
-     {FamESTF, ""},
-     [](E e) { return Formatear("PROBF(%s,%s,%s)", N(e, FamFORLA), N(e, FamANREG), N(e, FamNORE)); },
-     831,
-     880,
-     GuardarCausa},
-    {PasoEscalar,
-     {FamEA1, ""},
-     [](E e) { return Formatear("1.00-(%s/2.00)", N(e, FamDW)); },
-     85,
-     861,
+    {PasoEscalar, FamRCC, "", RCuadradoCorregido, 81, 82},
+    {PasoEscalar, FamESTF, "",
+     [](E e) { return Formatear("PROBF(%s,%s,%s)", N(e, FamFORLA), N(e, FamANREG), N(e, FamNORE)); }, 831,
+     880, GuardarCausa},
+    {PasoEscalar, FamEA1, "", [](E e) { return Formatear("1.00-(%s/2.00)", N(e, FamDW)); }, 85, 861,
      GuardarSinPunto},
-    {PasoMatriz, {FamDTE, "1"}, [](E e) { return Formatear("%s'", N(e, FamDTE)); }, 658},
-    {PasoSerieDeMatriz, {FamDTE, "2"}, [](E e) { return Formatear("%s1", N(e, FamDTE)); }, 0},
-    {PasoSerieDeMatriz, {NombreFijo, "_BETA2"}, [](E e) -> std::string { return N(e, FamBETA); }, 0},
-    {PasoSerie,
-     {FamDIV, ""},
-     [](E e) { return Formatear("_BETA2/%s2", N(e, FamDTE)); },
-     831,
-     8622,
+    {PasoMatriz, FamDTE, "1", [](E e) { return Formatear("%s'", N(e, FamDTE)); }, 658},
+    {PasoSerieDeMatriz, FamDTE, "2", [](E e) { return Formatear("%s1", N(e, FamDTE)); }, 0},
+    {PasoSerieDeMatriz, NombreFijo, "_BETA2", [](E e) -> std::string { return N(e, FamBETA); }, 0},
+    {PasoSerie, FamDIV, "", [](E e) { return Formatear("_BETA2/%s2", N(e, FamDTE)); }, 831, 8622,
      GuardarSeries},
-    {PasoSerie,
-     {FamPROBT, ""},
-     [](E e) { return Formatear("PROBT(%s,%s)", N(e, FamDIV), N(e, FamNORE)); },
-     852,
-     863,
-     GuardarSeries},
+    {PasoSerie, FamPROBT, "", [](E e) { return Formatear("PROBT(%s,%s)", N(e, FamDIV), N(e, FamNORE)); }, 852,
+     863, GuardarSeries},
 };
 
 // CR compares its residuals with those of the last MC, on as many degrees of freedom as regressors were left out. The
@@ -256,26 +218,21 @@ int RegresoresFuera() {
 }
 
 constexpr Paso PasosRestringido[] = {
-    {PasoEscalar, {NombreFijo, "_EST5"}, [](E) { return Formatear("%d", RegresoresFuera()); }, 655, 656},
-    {PasoEscalar,
-     {FamFORLA, ""},
+    {PasoEscalar, NombreFijo, "_EST5", [](E) { return Formatear("%d", RegresoresFuera()); }, 655, 656},
+    {PasoEscalar, FamFORLA, "",
      [](E) {
          return Formatear("((_SCRR - _SCR)/%d)/(_SCR/%d)", RegresoresFuera(),
                           ObservacionesDelRango() - UltimaRegresion.NumRegresores);
      },
-     655,
-     656},
-    {PasoEscalar,
-     {FamESTF, ""},
+     655, 656},
+    {PasoEscalar, FamESTF, "",
      [](E e) { return Formatear("PROBF(%s,_EST5,%s)", N(e, FamFORLA), NombreFamilia(FamNORE, OrdenMC)); },
-     832,
-     780,
-     GuardarCausa},
+     832, 780, GuardarCausa},
 };
 
 // The F of a consistent covariance matrix is the Wald statistic that its steps left.
 constexpr Paso PasosWald[] = {
-    {PasoEscalar, {FamFORLA, ""}, [](E) -> std::string { return "ESCAL(_S3)"; }, 832, 832},
+    {PasoEscalar, FamFORLA, "", [](E) -> std::string { return "ESCAL(_S3)"; }, 832, 832},
 };
 
 double EstadisticoWhite(E e) {
@@ -283,13 +240,10 @@ double EstadisticoWhite(E e) {
 }
 
 constexpr Paso PasosWhite[] = {
-    {PasoEscalar, {NombreFijo, "_TM11"}, [](E e) { return Formatear("%f", EstadisticoWhite(e)); }, 7551, 756},
-    {PasoEscalar, {NombreFijo, "_TM12"}, [](E) { return Formatear("%d", SeriesDe(OrdenCWH)); }, 7552, 756},
-    {PasoEscalar,
-     {NombreFijo, "_TM13"},
-     [](E e) { return Formatear("PROBC(%f,%d)", EstadisticoWhite(e), SeriesDe(OrdenCWH)); },
-     7553,
-     756},
+    {PasoEscalar, NombreFijo, "_TM11", [](E e) { return Formatear("%f", EstadisticoWhite(e)); }, 7551, 756},
+    {PasoEscalar, NombreFijo, "_TM12", [](E) { return Formatear("%d", SeriesDe(OrdenCWH)); }, 7552, 756},
+    {PasoEscalar, NombreFijo, "_TM13",
+     [](E e) { return Formatear("PROBC(%f,%d)", EstadisticoWhite(e), SeriesDe(OrdenCWH)); }, 7553, 756},
 };
 
 // ----- The order

@@ -7,8 +7,8 @@ int LeerPonderacion(Estimacion &e, const std::string &texto, int &posicion) {
     SaltarBlancos(texto, posicion);
     if (CaracterEn(texto, posicion) != '(') return MensajePunto(e.ventana, "Indroduzca ponderación"_w, 1633);
     const int cierre = ParentesisCierre(texto, posicion);
-    const std::string formula =
-        texto.substr(static_cast<std::size_t>(posicion + 1), static_cast<std::size_t>(cierre - posicion - 1));
+    const std::size_t desde = static_cast<std::size_t>(posicion) + 1;
+    const std::string formula = texto.substr(desde, static_cast<std::size_t>(cierre) - desde);
     posicion = std::min(cierre + 1, static_cast<int>(texto.size()));
     if (Evaluador.NivelLinea >= MaxNiveles - 1) return MensajePunto(e.ventana, FaltanSeries, 8621);
     UltimaRegresion.TextoPonderacion = formula;

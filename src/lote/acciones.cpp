@@ -8,8 +8,8 @@
 #include "lote/sucesos.h"
 #include "lote/tipo.h"
 #include "platform/archivos.h"
-#include "platform/texto.h"
 #include "platform/strstr.h"
+#include "platform/texto.h"
 #include "shell/listas.h"
 #include "shell/ultima_regresion.h"
 #include "store/archivo.h"
@@ -101,7 +101,9 @@ bool LeerListado(const std::string &valor, Accion &accion) {
     return Elegir(NombresListado, std::string_view(valor).substr(0, dosPuntos), accion.numero);
 }
 
-bool LeerRuta(const std::string &valor, Accion &) { return !valor.empty(); }
+bool LeerRuta(const std::string &valor, Accion &) {
+    return !valor.empty();
+}
 
 // ---------------------------------------------------------------------------------------------------------------
 // The actions
@@ -251,10 +253,12 @@ constexpr FilaDeAccion TablaAcciones[] = {
     {"--seguir", nullptr, nullptr, HacerSeguir, "una acción que falla no termina la ejecución"},
     {"--respuesta", "si|no|cancelar", LeerRespuesta, HacerRespuesta, "respuesta a las preguntas que siguen"},
     {"--tipo", "TIPO", LeerTipoDeDatos, HacerTipo, "elige el tipo de datos: sin, anual:1990:2005, panel:..."},
-    {"--formato", "F", LeerFormatoDeRegistro, HacerFormato, "formato de registro: variable:OP,... o fijo:..."},
+    {"--formato", "F", LeerFormatoDeRegistro, HacerFormato,
+     "formato de registro: variable:OP,... o fijo:..."},
     {"--importar", "ARCHIVO", LeerTexto, HacerImportar, "importa series de un archivo ASCII"},
     {"--exportar", "ARCHIVO", LeerTexto, HacerExportar, "exporta las series a un archivo ASCII"},
-    {"--procesar", "ARCHIVO", LeerTexto, HacerProcesar, "procesa un archivo de sentencias (-: entrada estándar)"},
+    {"--procesar", "ARCHIVO", LeerTexto, HacerProcesar,
+     "procesa un archivo de sentencias (-: entrada estándar)"},
     {"--sentencia", "TEXTO", LeerTexto, HacerSentencia, "ejecuta una sentencia"},
     {"--decimales", "N", LeerDecimales, HacerDecimales, "decimales de las salidas, de 0 a 6"},
     {"--relacion", "series|matrices|escalares", LeerRelacion, HacerRelacion, "lista los elementos"},
@@ -262,7 +266,8 @@ constexpr FilaDeAccion TablaAcciones[] = {
     {"--muestra-actual", nullptr, nullptr, HacerMuestraActual, "muestra la muestra en curso"},
     {"--ultima-regresion", nullptr, nullptr, HacerUltimaRegresion, "muestra la última regresión"},
     {"--imprimir", "F.pdf", LeerRuta, HacerImprimir, "lo que se imprima después va a este documento"},
-    {"--imprimir-salidas", nullptr, nullptr, HacerImprimirSalidas, "imprime también cada ventana de resultados"},
+    {"--imprimir-salidas", nullptr, nullptr, HacerImprimirSalidas,
+     "imprime también cada ventana de resultados"},
     {"--listado", "series:X,Y|matrices:A,B", LeerListado, HacerListado, "imprime series o matrices"},
     {"--volcado", nullptr, nullptr, HacerVolcado, "muestra el contenido del archivo de trabajo"},
     {"--abrir", "ARCHIVO", nullptr, nullptr, nullptr},

@@ -27,9 +27,9 @@ EstadoImpresora Impresora;
 // What a window of each kind asks for, by TiposDeSalida. The result window proper goes by its content, and dialogs
 // can't be printed.
 constexpr int SinImpresion = -1;
-constexpr int ClaseDeVentana[] = {ImprimirInforme,    ImprimirHipotesis,    ImprimirTablaAutocorrelacion,
-                                  ImprimirNormalidad, ImprimirPrediccion,   ImprimirDescriptivos,
-                                  ImprimirHistograma, SinImpresion,         SinImpresion,
+constexpr int ClaseDeVentana[] = {ImprimirInforme,    ImprimirHipotesis,  ImprimirTablaAutocorrelacion,
+                                  ImprimirNormalidad, ImprimirPrediccion, ImprimirDescriptivos,
+                                  ImprimirHistograma, SinImpresion,       SinImpresion,
                                   SinImpresion};
 
 } // namespace
@@ -68,4 +68,6 @@ bool EscribirDocumentos() {
     return bien;
 }
 
-void OlvidarDocumentos() { Impresora = {}; }
+void OlvidarDocumentos() {
+    Impresora = {};
+}

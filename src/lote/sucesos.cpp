@@ -62,13 +62,16 @@ void EscribirEnBloque(std::string_view linea, bool coeficientes) {
     EscribirLinea("| " + Utf8De1252(texto) + " |");
 }
 
-void EscribirRegla() { EscribirLinea("+" + std::string(AnchoBloqueSalida + 2, '-') + "+"); }
+void EscribirRegla() {
+    EscribirLinea("+" + std::string(AnchoBloqueSalida + 2, '-') + "+");
+}
 
 // The block with the rules of the result window.
 void EscribirBloque(const SalidaResultado &salida) {
     EscribirRegla();
     for (int i = 0; i < static_cast<int>(salida.lineas->size()); ++i) {
-        EscribirEnBloque((*salida.lineas)[static_cast<std::size_t>(i)].texto, EsFilaDeCoeficientes(salida, i));
+        EscribirEnBloque((*salida.lineas)[static_cast<std::size_t>(i)].texto,
+                         EsFilaDeCoeficientes(salida, i));
         if (ReglaDetras(salida, i)) EscribirRegla();
     }
     EscribirRegla();
@@ -166,7 +169,8 @@ void SucesoImpresion(const TrabajoImpreso &trabajo) {
         for (std::size_t p = 0; p < trabajo.paginas.size(); ++p) {
             EscribirLinea("");
             EscribirLinea("Impresión: " + Utf8De1252(trabajo.titulo) + ", página " + std::to_string(p + 1));
-            for (const std::string &l : LineasDePagina(trabajo.paginas[p])) EscribirLinea("  " + Utf8De1252(l));
+            for (const std::string &l : LineasDePagina(trabajo.paginas[p]))
+                EscribirLinea("  " + Utf8De1252(l));
         }
         return;
     }

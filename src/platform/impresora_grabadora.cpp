@@ -26,7 +26,9 @@ TrabajoImpreso TerminarTrabajoGrabado() {
     return hecho;
 }
 
-DispositivoImpresion *AbrirImpresoraGrabadora() { return new DispositivoImpresion{}; }
+DispositivoImpresion *AbrirImpresoraGrabadora() {
+    return new DispositivoImpresion{};
+}
 
 bool IniciarDocumentoGrabado(DispositivoImpresion *dispositivo, const char *nombre) {
     if (dispositivo->conDocumento) return false;
@@ -60,7 +62,9 @@ bool TerminarDocumentoGrabado(DispositivoImpresion *dispositivo) {
     return habia;
 }
 
-void CerrarImpresoraGrabadora(DispositivoImpresion *dispositivo) { delete dispositivo; }
+void CerrarImpresoraGrabadora(DispositivoImpresion *dispositivo) {
+    delete dispositivo;
+}
 
 std::vector<std::string> LineasDePagina(const PaginaImpresa &pagina) {
     std::vector<const OrdenDibujo *> textos;
@@ -77,7 +81,9 @@ std::vector<std::string> LineasDePagina(const PaginaImpresa &pagina) {
             lineas.emplace_back();
         }
         std::string &linea = lineas.back();
-        linea.resize(std::max(linea.size(), static_cast<std::size_t>((t->x1 - primero->x1) / AnchoCaracterPagina)), ' ');
+        linea.resize(
+            std::max(linea.size(), static_cast<std::size_t>((t->x1 - primero->x1) / AnchoCaracterPagina)),
+            ' ');
         linea += t->texto;
     }
     for (std::string &l : lineas) l = Recortado(l, RecorteDerecha);

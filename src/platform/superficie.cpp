@@ -28,7 +28,9 @@ void Reproducir(const std::vector<OrdenDibujo> &ordenes, Superficie &s) {
     for (const OrdenDibujo &o : ordenes) {
         switch (o.clase) {
         case OrdenLinea: Linea(s, o.x1, o.y1, o.x2, o.y2, o.pluma); break;
-        case OrdenRectangulo: Rectangulo(s, o.x1, o.y1, o.x2, o.y2, o.pluma, o.conRelleno ? &o.relleno : nullptr); break;
+        case OrdenRectangulo:
+            Rectangulo(s, o.x1, o.y1, o.x2, o.y2, o.pluma, o.conRelleno ? &o.relleno : nullptr);
+            break;
         case OrdenTexto: Texto(s, o.x1, o.y1, o.texto); break;
         }
     }

@@ -88,14 +88,20 @@ const OperacionesPlataforma Operaciones = {
     .abrirImpresora = [] { return DarPaso(PasoAbrir, "abrir") ? AbrirImpresoraGrabadora() : nullptr; },
     .iniciarDocumento =
         [](DispositivoImpresion *d, const char *nombre) {
-            return DarPaso(PasoDocumento, std::string("documento ") + nombre) && IniciarDocumentoGrabado(d, nombre);
+            return DarPaso(PasoDocumento, std::string("documento ") + nombre) &&
+                   IniciarDocumentoGrabado(d, nombre);
         },
-    .iniciarPagina = [](DispositivoImpresion *d) { return DarPaso(PasoPagina, "pagina") && IniciarPaginaGrabada(d); },
+    .iniciarPagina =
+        [](DispositivoImpresion *d) { return DarPaso(PasoPagina, "pagina") && IniciarPaginaGrabada(d); },
     .superficieDePagina = SuperficieGrabada,
     .terminarPagina =
-        [](DispositivoImpresion *d) { return DarPaso(PasoFinPagina, "fin pagina") && TerminarPaginaGrabada(d); },
+        [](DispositivoImpresion *d) {
+            return DarPaso(PasoFinPagina, "fin pagina") && TerminarPaginaGrabada(d);
+        },
     .terminarDocumento =
-        [](DispositivoImpresion *d) { return DarPaso(PasoFinDocumento, "fin documento") && TerminarDocumentoGrabado(d); },
+        [](DispositivoImpresion *d) {
+            return DarPaso(PasoFinDocumento, "fin documento") && TerminarDocumentoGrabado(d);
+        },
     .cerrarImpresora =
         [](DispositivoImpresion *d) {
             Prueba.pasosImpresora.emplace_back("cerrar");

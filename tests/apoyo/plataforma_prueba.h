@@ -39,7 +39,14 @@ struct TrabajoVisto {
 };
 
 // Steps at which the printer can refuse.
-enum PasosDeImpresora { PasoAbrir, PasoDocumento, PasoPagina, PasoFinPagina, PasoFinDocumento, NumPasosDeImpresora };
+enum PasosDeImpresora {
+    PasoAbrir,
+    PasoDocumento,
+    PasoPagina,
+    PasoFinPagina,
+    PasoFinDocumento,
+    NumPasosDeImpresora
+};
 
 struct PlataformaDePrueba {
     std::vector<CajaVista> cajas;
@@ -49,7 +56,8 @@ struct PlataformaDePrueba {
     Cursor cursor = CursorFlecha;
     std::int32_t segundos = 1234567; // what SegundosDeCalendario answers
     std::vector<TrabajoVisto> trabajos;
-    std::vector<std::string> pasosImpresora; // "abrir", "documento NOMBRE", "pagina", "fin pagina", "fin documento", "cerrar"
+    std::vector<std::string>
+        pasosImpresora; // "abrir", "documento NOMBRE", "pagina", "fin pagina", "fin documento", "cerrar"
     // A step refuses from this occurrence in a job on, counted from 1; 0: never.
     int fallaPaso[NumPasosDeImpresora] = {};
     std::string textoControl;        // text of the one control, in Windows-1252

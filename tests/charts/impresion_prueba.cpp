@@ -24,8 +24,9 @@ TEST(Impresion, PasosDeUnTrabajo) {
     EmpezarPrueba();
     EXPECT_EQ(ImprimirUnaLinea(), 0);
     EXPECT_EQ(Prueba.pasosImpresora,
-              (Pasos{"abrir", "documento Imprime1: Imprimiendo", "pagina", "abrir", "documento Imprime: Imprimiendo", "pagina",
-                     "fin pagina", "fin documento", "cerrar", "fin pagina", "fin documento", "cerrar"}));
+              (Pasos{"abrir", "documento Imprime1: Imprimiendo", "pagina", "abrir",
+                     "documento Imprime: Imprimiendo", "pagina", "fin pagina", "fin documento", "cerrar",
+                     "fin pagina", "fin documento", "cerrar"}));
     EXPECT_TRUE(Prueba.cajas.empty());
     EXPECT_EQ(Prueba.cursor, CursorFlecha);
     ASSERT_EQ(Prueba.trabajos.size(), 1u);
@@ -37,8 +38,8 @@ TEST(Impresion, PasosDeUnTrabajo) {
 struct CasoDeFallo {
     PasosDeImpresora paso;
     int vez;
-    Pasos cajas;   // texts
-    Pasos pasos;   // all that was asked of the printer
+    Pasos cajas; // texts
+    Pasos pasos; // all that was asked of the printer
     std::size_t paginas;
 };
 
@@ -49,20 +50,35 @@ TEST(Impresion, FallosEnCadaPaso) {
         {PasoAbrir, 1, {}, {"abrir"}, 0},
         {PasoDocumento, 1, {}, {"abrir", uno, "cerrar"}, 0},
         {PasoPagina, 1, {}, {"abrir", uno, "pagina", "fin documento", "cerrar"}, 0},
-        {PasoFinPagina, 1, {},
-         {"abrir", uno, "pagina", "abrir", otro, "pagina", "fin pagina", "fin documento", "cerrar", "fin pagina",
-          "fin documento", "cerrar"},
+        {PasoFinPagina,
+         1,
+         {},
+         {"abrir", uno, "pagina", "abrir", otro, "pagina", "fin pagina", "fin documento", "cerrar",
+          "fin pagina", "fin documento", "cerrar"},
          1},
-        {PasoFinDocumento, 1, {},
-         {"abrir", uno, "pagina", "abrir", otro, "pagina", "fin pagina", "fin documento", "cerrar", "fin pagina",
-          "fin documento", "cerrar"},
+        {PasoFinDocumento,
+         1,
+         {},
+         {"abrir", uno, "pagina", "abrir", otro, "pagina", "fin pagina", "fin documento", "cerrar",
+          "fin pagina", "fin documento", "cerrar"},
          1},
         // The page change.
-        {PasoAbrir, 2, {"Error imprimiedo. 1"}, {"abrir", uno, "pagina", "abrir", "fin pagina", "fin documento", "cerrar"}, 1},
-        {PasoDocumento, 2, {"Error imprimiedo. 3"},
-         {"abrir", uno, "pagina", "abrir", otro, "cerrar", "fin pagina", "fin documento", "cerrar"}, 1},
-        {PasoPagina, 2, {"Error imprimiedo. 2"},
-         {"abrir", uno, "pagina", "abrir", otro, "pagina", "fin documento", "cerrar", "fin pagina", "fin documento", "cerrar"}, 1},
+        {PasoAbrir,
+         2,
+         {"Error imprimiedo. 1"},
+         {"abrir", uno, "pagina", "abrir", "fin pagina", "fin documento", "cerrar"},
+         1},
+        {PasoDocumento,
+         2,
+         {"Error imprimiedo. 3"},
+         {"abrir", uno, "pagina", "abrir", otro, "cerrar", "fin pagina", "fin documento", "cerrar"},
+         1},
+        {PasoPagina,
+         2,
+         {"Error imprimiedo. 2"},
+         {"abrir", uno, "pagina", "abrir", otro, "pagina", "fin documento", "cerrar", "fin pagina",
+          "fin documento", "cerrar"},
+         1},
     };
     for (const CasoDeFallo &caso : Casos) {
         SCOPED_TRACE(std::to_string(caso.paso) + " " + std::to_string(caso.vez));
@@ -105,15 +121,28 @@ TEST(Impresion, TitulosDelInforme) {
     const char *ordinarios = "Método: Mínimos cuadrados ordinarios";
     const CasoTitulo Casos[] = {
         {8, CovarianzaNormal, "Mínimos cuadrados ordinarios", {ordinarios}},
-        {8, CovarianzaHeterocedasticidad, "Mínimos C.: Matriz de covarianzas consistente bajo heterocedasticidad",
+        {8,
+         CovarianzaHeterocedasticidad,
+         "Mínimos C.: Matriz de covarianzas consistente bajo heterocedasticidad",
          {ordinarios, "Matriz de covarianzas consistente bajo heterocedasticidad"}},
         // Only the window's title names this covariance.
-        {8, CovarianzaAutocorrelacion, "Mínimos C.: Matriz de covarianzas consistente bajo autocorrelacion (3 r.)", {ordinarios}},
+        {8,
+         CovarianzaAutocorrelacion,
+         "Mínimos C.: Matriz de covarianzas consistente bajo autocorrelacion (3 r.)",
+         {ordinarios}},
         {13, CovarianzaNormal, "Mínimos cuadrados ponderados", {"Método: Mínimos cuadrados ponderados"}},
-        {13, CovarianzaHeterocedasticidad, "Mínimos cuadrados ponderados", {"Método: Mínimos cuadrados ponderados"}},
-        {9, CovarianzaHeterocedasticidad, "Contrastes de significatividad: Modelo restringido",
+        {13,
+         CovarianzaHeterocedasticidad,
+         "Mínimos cuadrados ponderados",
+         {"Método: Mínimos cuadrados ponderados"}},
+        {9,
+         CovarianzaHeterocedasticidad,
+         "Contrastes de significatividad: Modelo restringido",
          {"Contrastes de significatividad: Modelo restringido"}},
-        {101, CovarianzaNormal, "Contrastes de autocorrelación: Wallis", {"Contrastes de autocorrelación: Wallis"}},
+        {101,
+         CovarianzaNormal,
+         "Contrastes de autocorrelación: Wallis",
+         {"Contrastes de autocorrelación: Wallis"}},
     };
     for (const CasoTitulo &caso : Casos) {
         SCOPED_TRACE(caso.ventana + std::to_string(caso.clase));
@@ -164,7 +193,7 @@ TEST(Impresion, ReglasDelInforme) {
         EXPECT_EQ(t.y1, reglas[2].y1);
         EXPECT_EQ(t.y2, reglas[3].y1);
     }
-    EXPECT_EQ(finas[0].x1, izquierda + 16 * C) << "128 of the window's units of 8 to a character";
+    EXPECT_EQ(finas[0].x1, textos[1].x + 15 * C + C / 2);
 }
 
 TEST(Impresion, InformeDeVariasPaginas) {
@@ -182,9 +211,10 @@ TEST(Impresion, InformeDeVariasPaginas) {
     ASSERT_EQ(todas.size(), 120u);
     for (std::size_t i = 0; i < todas.size(); ++i) EXPECT_EQ(todas[i], "linea " + std::to_string(i));
     EXPECT_EQ(Prueba.pasosImpresora,
-              (Pasos{"abrir", "documento Imprime1: Imprimiendo", "pagina", "fin pagina", "abrir", "documento Imprime: Imprimiendo",
-                     "pagina", "fin pagina", "fin documento", "cerrar", "abrir", "documento Imprime: Imprimiendo", "pagina",
-                     "fin documento", "cerrar", "fin pagina", "fin documento", "cerrar"}));
+              (Pasos{"abrir", "documento Imprime1: Imprimiendo", "pagina", "fin pagina", "abrir",
+                     "documento Imprime: Imprimiendo", "pagina", "fin pagina", "fin documento", "cerrar",
+                     "abrir", "documento Imprime: Imprimiendo", "pagina", "fin documento", "cerrar",
+                     "fin pagina", "fin documento", "cerrar"}));
 }
 
 TEST(Impresion, InformeConImpresoraQueFallaAMedias) {

@@ -35,7 +35,9 @@ int Imprimir(int clase, const std::vector<std::string> &codigos) {
     return ImprimirSalida(nullptr, "Listado", clase);
 }
 
-Lineas Pagina(std::size_t p, std::size_t trabajo = 0) { return Prueba.trabajos.at(trabajo).paginas.at(p); }
+Lineas Pagina(std::size_t p, std::size_t trabajo = 0) {
+    return Prueba.trabajos.at(trabajo).paginas.at(p);
+}
 
 std::string CabeceraPagina(const char *titulo, int pagina) {
     return Formatear("        %s                Página.: %3d", titulo, pagina);
@@ -54,7 +56,8 @@ TEST(ListadoSeries, UnBloque) {
                              CabeceraPagina("Listado de Series", 1),
                              "  Período             CONSUMO               X",
                              "     1990              1000.12            1.00",
-                             "     1991      " + std::string(12, ' ') + "           -2.50", // a missing value has 12 blanks only
+                             "     1991      " + std::string(12, ' ') +
+                                 "           -2.50", // a missing value has 12 blanks only
                              "     1992                 0.00            3.00",
                          }));
 }
@@ -63,7 +66,11 @@ TEST(ListadoSeries, SinPeriodicidadYDecimales) {
     const struct {
         int decimales;
         const char *valor;
-    } Casos[] = {{0, "              2"}, {2, "           1.50"}, {6, "       1.500000"}, {9, "       1.500000"}, {-1, "              2"}};
+    } Casos[] = {{0, "              2"},
+                 {2, "           1.50"},
+                 {6, "       1.500000"},
+                 {9, "       1.500000"},
+                 {-1, "              2"}};
     for (const auto &caso : Casos) {
         Empezar(TipoSinPeriodicidad, 1);
         Lote.DecimalesSalida = caso.decimales;
@@ -97,8 +104,9 @@ TEST(ListadoSeries, CuatroSeriesSonDosBloques) {
         EXPECT_EQ(t.x2, izquierda + 65 * C);
     }
     EXPECT_EQ(Trazos(ordenes, false, 3),
-              (std::vector<Trazo>{{izquierda, reglas.front().y1, izquierda, reglas.back().y1, 3},
-                                  {izquierda + 65 * C, reglas.front().y1, izquierda + 65 * C, reglas.back().y1, 3}}));
+              (std::vector<Trazo>{
+                  {izquierda, reglas.front().y1, izquierda, reglas.back().y1, 3},
+                  {izquierda + 65 * C, reglas.front().y1, izquierda + 65 * C, reglas.back().y1, 3}}));
     for (const Letrero &l : Letreros(ordenes)) EXPECT_EQ(l.x, izquierda + C);
 }
 
@@ -112,9 +120,13 @@ TEST(ListadoSeries, ConEtiquetasDosPorBloque) {
                              CabeceraPagina("Listado de Series", 1),
                              "  Observac.     Etiquetas                 A               B",
                              // The label has its 12 places, at the right of 15.
-                             "       1       " "   Peñón       " "           1.00            1.00",
+                             "       1       "
+                             "   Peñón       "
+                             "           1.00            1.00",
                              "  Observac.     Etiquetas                 C",
-                             "       1       " "   Peñón       " "           1.00",
+                             "       1       "
+                             "   Peñón       "
+                             "           1.00",
                          }));
 }
 
@@ -156,8 +168,12 @@ TEST(ListadoSeries, CambiosDePagina) {
         EXPECT_EQ(reglas.size(), 4u);
         EXPECT_LT(reglas.back().y1, AltoPagina);
     }
-    EXPECT_EQ(paginas[1].at(2), Formatear("      %d       " "           7.00", static_cast<int>(porPagina) + 1));
-    EXPECT_EQ(std::count(Prueba.pasosImpresora.begin(), Prueba.pasosImpresora.end(), "documento Imprime: Imprimiendo"), 2);
+    EXPECT_EQ(paginas[1].at(2), Formatear("      %d       "
+                                          "           7.00",
+                                          static_cast<int>(porPagina) + 1));
+    EXPECT_EQ(std::count(Prueba.pasosImpresora.begin(), Prueba.pasosImpresora.end(),
+                         "documento Imprime: Imprimiendo"),
+              2);
     EXPECT_EQ(std::count(Prueba.pasosImpresora.begin(), Prueba.pasosImpresora.end(), "fin pagina"), 3);
 }
 
@@ -213,12 +229,13 @@ TEST(ListadoSeries, Muestra) {
         {10, -5, 2, 1, 3},
         {10, 12, 15, 0, 0},
         {4000, 3995, 100000, 3996, 5},
-        {4001, 100, 102, 1, 3},    // more rows than there are tables for: the sample begins at the first
-        {4001, 1, 4000, 0, -1},    // and is listed only when it has fewer than 4,000
+        {4001, 100, 102, 1, 3}, // more rows than there are tables for: the sample begins at the first
+        {4001, 1, 4000, 0, -1}, // and is listed only when it has fewer than 4,000
         {100000, 0, 100000, 0, -1},
     };
     for (const CasoMuestra &caso : Casos) {
-        SCOPED_TRACE(std::to_string(caso.numObs) + " " + std::to_string(caso.inicio) + " " + std::to_string(caso.fin));
+        SCOPED_TRACE(std::to_string(caso.numObs) + " " + std::to_string(caso.inicio) + " " +
+                     std::to_string(caso.fin));
         Empezar(TipoSinPeriodicidad, caso.numObs);
         PonerSerie("A", {1});
         Muestra.InicioMuestra = caso.inicio;
@@ -243,8 +260,9 @@ TEST(Listados, NadaQueListar) {
         EXPECT_EQ(Imprimir(ImprimirSeries, codigos), 1);
         EXPECT_EQ(Imprimir(ImprimirMatrices, codigos), 1);
         EXPECT_EQ(Prueba.cajas,
-                  (std::vector<CajaVista>{{"Aviso", "No existen series a listar", IconoInformacion, BotonesAceptar},
-                                          {"Aviso", "No existen matrices a listar", IconoInformacion, BotonesAceptar}}));
+                  (std::vector<CajaVista>{
+                      {"Aviso", "No existen series a listar", IconoInformacion, BotonesAceptar},
+                      {"Aviso", "No existen matrices a listar", IconoInformacion, BotonesAceptar}}));
         // With no printer nothing is said at all.
         Empezar(TipoSinPeriodicidad, 3);
         Prueba.fallaPaso[PasoAbrir] = 1;
@@ -281,7 +299,8 @@ TEST(ListadoMatrices, CuatroColumnasCabenEnUnRenglon) {
     EXPECT_EQ(Pagina(0).at(2), "{              1               2               3               4 }");
     const auto &ordenes = Prueba.trabajos[0].dibujo[0].ordenes;
     const Letrero renglon = Letreros(ordenes).at(2);
-    EXPECT_LE(renglon.x + 66 * C, Trazos(ordenes, true, 3).at(0).x2) << "the brace stands inside the right rule";
+    EXPECT_LE(renglon.x + 66 * C, Trazos(ordenes, true, 3).at(0).x2)
+        << "the brace stands inside the right rule";
 }
 
 TEST(ListadoMatrices, CambiosDePagina) {
@@ -308,7 +327,8 @@ TEST(ListadoMatrices, LaCabeceraPasaALaPaginaSiguiente) {
     EXPECT_EQ(Imprimir(ImprimirMatrices, {"M", "N"}), 0);
     ASSERT_EQ(Prueba.trabajos.at(0).paginas.size(), 2u);
     EXPECT_EQ(Pagina(1), (Lineas{CabeceraPagina("Listado de Matrices", 2),
-                                 "  Nombre Matriz..: N                Nº Filas:   1 Nº Col.:   1", "{           1.00 }"}));
+                                 "  Nombre Matriz..: N                Nº Filas:   1 Nº Col.:   1",
+                                 "{           1.00 }"}));
 }
 
 // Unlike the listing of series, this one doesn't look at the end of a page.
@@ -367,8 +387,9 @@ TEST(ListadoPantalla, Seleccion) {
         EXPECT_EQ(ImprimirSeleccion(nullptr, nullptr), caso.impreso.empty() ? 1 : 0);
         EXPECT_EQ(Prueba.cursor, CursorFlecha);
         if (caso.impreso.empty()) {
-            EXPECT_EQ(Prueba.cajas, (std::vector<CajaVista>{{"Proceso cancelado", "No hay datos a procesar. Punto 3.",
-                                                             IconoInformacion, BotonesAceptar}}));
+            EXPECT_EQ(Prueba.cajas,
+                      (std::vector<CajaVista>{{"Proceso cancelado", "No hay datos a procesar. Punto 3.",
+                                               IconoInformacion, BotonesAceptar}}));
             EXPECT_TRUE(Prueba.trabajos.empty());
             continue;
         }
@@ -377,7 +398,8 @@ TEST(ListadoPantalla, Seleccion) {
         Lineas lineas = Pagina(0);
         EXPECT_EQ(lineas.at(0), CabeceraPantalla);
         lineas.erase(lineas.begin());
-        while (!lineas.empty() && lineas.back().empty()) lineas.pop_back(); // what stands behind a last line end
+        while (!lineas.empty() && lineas.back().empty())
+            lineas.pop_back(); // what stands behind a last line end
         EXPECT_EQ(lineas, caso.impreso);
     }
 }

@@ -19,8 +19,9 @@ TEST(Seleccion, Textos) {
     };
     EXPECT_EQ(textos(SeleccionDeSeries),
               (Codigos{"Selección de series", "Series en el archivo de trabajo", "Series seleccionadas"}));
-    EXPECT_EQ(textos(SeleccionDeMatrices),
-              (Codigos{"Selección de matrices", "Matrices en el archivo de trabajo", "Matrices seleccionadas"}));
+    EXPECT_EQ(
+        textos(SeleccionDeMatrices),
+        (Codigos{"Selección de matrices", "Matrices en el archivo de trabajo", "Matrices seleccionadas"}));
 }
 
 TEST(Seleccion, MoverDeUnaListaALaOtra) {

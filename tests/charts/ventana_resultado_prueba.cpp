@@ -15,7 +15,8 @@ struct Ventanita {
 // The window as it opens with the stock font: 77 columns of 8, characters 16 high.
 constexpr int Ancho = 616, Alto = 400, C = 8, H = 16;
 
-Ventanita Pintar(const SalidaResultado &salida, int desde = 0, int ancho = Ancho, int alto = Alto, int c = C, int h = H) {
+Ventanita Pintar(const SalidaResultado &salida, int desde = 0, int ancho = Ancho, int alto = Alto, int c = C,
+                 int h = H) {
     Ventanita v;
     v.estado = {salida.Clase, salida.Contenido, desde, 0, 0, 0};
     Superficie s = SuperficieGrabadora(v.ordenes, ancho, alto, c, h);
@@ -24,8 +25,12 @@ Ventanita Pintar(const SalidaResultado &salida, int desde = 0, int ancho = Ancho
 }
 
 // A line stands at the top of its row, a rule in the middle of one; the rule at the top, at h, is in row -1.
-constexpr int Regla(int fila) { return 2 * H + H * fila; }
-constexpr int Renglon(int fila) { return H + H / 2 + H * fila; }
+constexpr int Regla(int fila) {
+    return 2 * H + H * fila;
+}
+constexpr int Renglon(int fila) {
+    return H + H / 2 + H * fila;
+}
 
 TEST(VentanaResultado, MarcoBloqueYLineas) {
     const TextoSalida lineas = LineasDeGrupos({0, 0});
@@ -45,7 +50,8 @@ TEST(VentanaResultado, MarcoBloqueYLineas) {
               (std::vector<Trazo>{{32, Regla(-1), 592, Regla(-1), 3}, {32, Regla(2), 592, Regla(2), 3}}));
     EXPECT_EQ(Trazos(v.ordenes, false, 3),
               (std::vector<Trazo>{{32, Regla(-1), 32, Regla(2), 3}, {592, Regla(-1), 592, Regla(2), 3}}));
-    EXPECT_EQ(Letreros(v.ordenes), (std::vector<Letrero>{{40, Renglon(0), "linea 0"}, {40, Renglon(1), "linea 1"}}));
+    EXPECT_EQ(Letreros(v.ordenes),
+              (std::vector<Letrero>{{40, Renglon(0), "linea 0"}, {40, Renglon(1), "linea 1"}}));
     EXPECT_TRUE(Trazos(v.ordenes, false, 1).empty());
 }
 
@@ -54,9 +60,9 @@ TEST(VentanaResultado, BloqueEnOtrosAnchos) {
         int ancho, c, izquierda, derecha;
     };
     const Caso Casos[] = {
-        {616, 8, 32, 592},    {1024, 8, 236, 796},  {1232, 16, 64, 1184}, // the last at 200 %
-        {560, 8, 4, 560},     // the right edge stays in the window
-        {400, 8, -76, 400},   {552, 8, 0, 552},     {553, 8, 0, 553},
+        {616, 8, 32, 592},  {1024, 8, 236, 796}, {1232, 16, 64, 1184}, // the last at 200 %
+        {560, 8, 4, 560},                                              // the right edge stays in the window
+        {400, 8, -76, 400}, {552, 8, 0, 552},    {553, 8, 0, 553},
     };
     const TextoSalida lineas = LineasDeGrupos({0});
     for (const Caso &caso : Casos) {
@@ -152,7 +158,8 @@ TEST(VentanaResultado, DesdeUnaLinea) {
     const auto textos = Letreros(Pintar(SalidaDePrueba(9, lineas), 2).ordenes);
     EXPECT_EQ(textos, (std::vector<Letrero>{{40, Renglon(0), "linea 2"}, {40, Renglon(1), "linea 3"}}));
     // The last line alone on top.
-    EXPECT_EQ(Letreros(Pintar(SalidaDePrueba(9, lineas), 3).ordenes), (std::vector<Letrero>{{40, Renglon(0), "linea 3"}}));
+    EXPECT_EQ(Letreros(Pintar(SalidaDePrueba(9, lineas), 3).ordenes),
+              (std::vector<Letrero>{{40, Renglon(0), "linea 3"}}));
 }
 
 TEST(VentanaResultado, LineasFijas) {
@@ -181,20 +188,24 @@ TEST(VentanaResultado, ReglasVerticalesDeLaTabla) {
     const CasoVerticales Casos[] = {
         // Rule behind the titles: behind 4 lines, a rule, a line. Behind the last row: 3 lines and a rule further.
         {0, 616, 400, 8, 16, stock, 6, 10},
-        {4, 616, 400, 8, 16, stock, 1, 5}, // titles on top
+        {4, 616, 400, 8, 16, stock, 1, 5},  // titles on top
         {5, 616, 400, 8, 16, stock, -1, 3}, // first row on top: from the rule of the block
         {6, 616, 400, 8, 16, stock, -1, 2},
         {7, 616, 400, 8, 16, stock, -1, 1},
         {8, 616, 400, 8, 16, {}, 0, 0},    // the table is out of sight
         {0, 616, 212, 8, 16, stock, 6, 8}, // cut below: the window ends behind the first row
         {0, 616, 100, 8, 16, {}, 0, 0},
-        // Another font keeps the columns; another width moves them with the block.
-        {0, 1232, 800, 16, 32, {320, 580, 820, 1020}, 6, 10},
-        {0, 1024, 400, 8, 16, {364, 494, 614, 714}, 6, 10},
+        {0, 1024, 400, 8, 16, {364, 494, 614, 714}, 6, 10}, // they move with the block
+        // Another font: in the middle of the blanks 15, 30, 45 and 54 of a row. Text begins at 64 + 16, at 40, at 45.
+        {0, 1232, 800, 16, 32, {328, 568, 808, 952}, 6, 10},
+        {0, 616, 400, 8, 18, {164, 284, 404, 476}, 6, 10},
+        {0, 693, 500, 9, 18, {184, 319, 454, 535}, 6, 10},
     };
     for (const CasoVerticales &caso : Casos) {
-        SCOPED_TRACE(std::to_string(caso.desde) + " " + std::to_string(caso.ancho) + "x" + std::to_string(caso.alto));
-        const Ventanita v = Pintar(SalidaDePrueba(8, lineas, &tablas), caso.desde, caso.ancho, caso.alto, caso.c, caso.h);
+        SCOPED_TRACE(std::to_string(caso.desde) + " " + std::to_string(caso.ancho) + "x" +
+                     std::to_string(caso.alto));
+        const Ventanita v =
+            Pintar(SalidaDePrueba(8, lineas, &tablas), caso.desde, caso.ancho, caso.alto, caso.c, caso.h);
         std::vector<Trazo> esperados;
         for (const int x : caso.x)
             esperados.push_back({x, caso.h * (2 + caso.arriba), x, caso.h * (2 + caso.abajo), 1});
@@ -202,14 +213,15 @@ TEST(VentanaResultado, ReglasVerticalesDeLaTabla) {
     }
 }
 
-// They run where every row has a blank, or else they would cross the figures.
-TEST(VentanaResultado, LasVerticalesNoCruzanCifras) {
-    const std::string titulos = Texto1252DeUtf8(" Regresores      Coeficiente    Desv. Típica   Estadís. t   Prob>|t|");
-    for (const int x : {160, 290, 410, 510}) {
-        const int columna = (x - 40) / 8;
-        EXPECT_EQ(titulos.at(static_cast<std::size_t>(columna)), ' ') << x;
-        EXPECT_GE(columna, 15) << "behind the names";
-    }
+// With the stock font they run where the titles have blanks, with any other where the widest numbers leave one.
+TEST(VentanaResultado, LasVerticalesNoCruzanTexto) {
+    const std::string titulos =
+        Texto1252DeUtf8(" Regresores      Coeficiente    Desv. Típica   Estadís. t   Prob>|t|");
+    for (const int x : {160, 290, 410, 510})
+        EXPECT_EQ(titulos.at(static_cast<std::size_t>((x - 40) / 8)), ' ') << x;
+    const std::string fila = Formatear("%15s%15s%15s%9s%13s", "SALARIOSMEDIOS", "-123456.123456",
+                                       "1234567.123456", "12345.67", "0.1234567890");
+    for (const std::size_t columna : {15u, 30u, 45u, 54u}) EXPECT_EQ(fila.at(columna), ' ') << columna;
 }
 
 struct CasoScroll {
@@ -220,15 +232,16 @@ struct CasoScroll {
 
 TEST(VentanaResultado, Desplazamiento) {
     const CasoScroll Casos[] = {
-        {40, 0, LineaAbajo, 0, 1},     {40, 1, LineaArriba, 0, 0},     {40, 0, LineaArriba, 0, 0},
-        {40, 0, PaginaAbajo, 0, 5},    {40, 7, PaginaArriba, 0, 2},    {40, 3, PaginaArriba, 0, 0},
-        {40, 36, PaginaAbajo, 0, 39},  {40, 39, LineaAbajo, 0, 39},    {40, 0, DesplazarA, 17, 17},
-        {40, 0, DesplazarA, 4000, 39}, {40, 20, DesplazarA, -3, 0},    {40, 39, PaginaAbajo, 0, 39},
-        {1, 0, LineaAbajo, 0, 0},      {1, 0, PaginaAbajo, 0, 0},      {1, 0, DesplazarA, 4000, 0},
+        {40, 0, LineaAbajo, 0, 1},     {40, 1, LineaArriba, 0, 0},  {40, 0, LineaArriba, 0, 0},
+        {40, 0, PaginaAbajo, 0, 5},    {40, 7, PaginaArriba, 0, 2}, {40, 3, PaginaArriba, 0, 0},
+        {40, 36, PaginaAbajo, 0, 39},  {40, 39, LineaAbajo, 0, 39}, {40, 0, DesplazarA, 17, 17},
+        {40, 0, DesplazarA, 4000, 39}, {40, 20, DesplazarA, -3, 0}, {40, 39, PaginaAbajo, 0, 39},
+        {1, 0, LineaAbajo, 0, 0},      {1, 0, PaginaAbajo, 0, 0},   {1, 0, DesplazarA, 4000, 0},
         {0, 0, LineaAbajo, 0, 0},      {0, 0, DesplazarA, 1, 0},
     };
     for (const CasoScroll &caso : Casos) {
-        SCOPED_TRACE(std::to_string(caso.lineas) + " " + std::to_string(caso.desde) + " " + std::to_string(caso.que));
+        SCOPED_TRACE(std::to_string(caso.lineas) + " " + std::to_string(caso.desde) + " " +
+                     std::to_string(caso.que));
         const TextoSalida lineas = LineasDeGrupos(std::vector<int>(static_cast<std::size_t>(caso.lineas), 0));
         EstadoVentanaResultado estado{8, 0, caso.desde, 23, C, H};
         DesplazarResultado(estado, SalidaDePrueba(8, lineas), caso.que, caso.posicion);

@@ -23,7 +23,8 @@ std::string Pantalla;
 
 // No to every question; nothing is shown, but the texts must not hold a NUL.
 Respuesta Caja(Ventana *, std::string_view texto, std::string_view titulo, Icono, Botones botones) {
-    if (texto.find('\0') != std::string_view::npos || titulo.find('\0') != std::string_view::npos) std::abort();
+    if (texto.find('\0') != std::string_view::npos || titulo.find('\0') != std::string_view::npos)
+        std::abort();
     return botones == BotonesAceptar           ? RespuestaAceptar
            : botones == BotonesAceptarCancelar ? RespuestaCancelar
                                                : RespuestaNo;

@@ -117,7 +117,8 @@ TEST(Asignaciones, Mensajes) {
         EXPECT_EQ(Procesar(c.texto), c.sigue);
         EXPECT_EQ(TextosDeCajas(), c.cajas);
         for (const CajaVista &caja : Prueba.cajas)
-            EXPECT_TRUE(caja.titulo == "Proceso cancelado" || caja.titulo == "Serie no existe") << caja.titulo;
+            EXPECT_TRUE(caja.titulo == "Proceso cancelado" || caja.titulo == "Serie no existe")
+                << caja.titulo;
         // Nothing is created and nothing stays locked.
         EXPECT_EQ(ArchivoTrabajo.NumSeries, 2);
         EXPECT_EQ(TablaEscalares.numero, 1);
@@ -205,7 +206,8 @@ TEST(Asignaciones, UnAdelantoLargoSeCortaALaMuestra) {
 
 TEST(Asignaciones, ElUltimoSitioDeLaTablaQuedaLibre) {
     EmpezarAsignaciones();
-    for (int i = ArchivoTrabajo.NumSeries; i < 98; ++i) PonerSerie("S" + std::to_string(i), {1, 2, 3, 4, 5, 6});
+    for (int i = ArchivoTrabajo.NumSeries; i < 98; ++i)
+        PonerSerie("S" + std::to_string(i), {1, 2, 3, 4, 5, 6});
     EXPECT_TRUE(Procesar("SER S98 = 1"));
     EXPECT_EQ(ArchivoTrabajo.NumSeries, 99);
     EXPECT_FALSE(Procesar("SER S99 = 1")); // in silence
@@ -228,7 +230,8 @@ TEST(Asignaciones, LaRecursivaYLaMuestra) {
     ProcesarLote(nullptr, nullptr, 246, "SER TRE = TRE(-1) + 1", 10, 99);
     EXPECT_TRUE(Prueba.cajas.empty());
     v = ValoresDe("TRE", 100);
-    for (int i = 0; i < 100; ++i) EXPECT_EQ(v[static_cast<std::size_t>(i)], i >= 11 && i < 90 ? i - 9.0 : 1.0) << i;
+    for (int i = 0; i < 100; ++i)
+        EXPECT_EQ(v[static_cast<std::size_t>(i)], i >= 11 && i < 90 ? i - 9.0 : 1.0) << i;
 }
 
 // ----- SER x = {matriz}
@@ -237,10 +240,10 @@ TEST(Asignaciones, DesdeMatrizEnLaMuestraDeLaRegresion) {
     const struct {
         int inicio, fin;
         Valores valores;
-    } casos[] = {
-        {0, 5, {7, 8, 9, N, N, N}},  {2, 5, {N, N, 7, 8, 9, N}},        {4, 5, {N, N, N, N, 7, 8}},
-        {2, 3, {N, N, 7, 8, N, N}},  {3, 2, {N, N, N, N, N, N}},        {1, 100000, {N, 7, 8, 9, N, N}},
-        {-1, 5, {8, 9, N, N, N, N}}, {100000, 100005, {N, N, N, N, N, N}}};
+    } casos[] = {{0, 5, {7, 8, 9, N, N, N}},  {2, 5, {N, N, 7, 8, 9, N}},
+                 {4, 5, {N, N, N, N, 7, 8}},  {2, 3, {N, N, 7, 8, N, N}},
+                 {3, 2, {N, N, N, N, N, N}},  {1, 100000, {N, 7, 8, 9, N, N}},
+                 {-1, 5, {8, 9, N, N, N, N}}, {100000, 100005, {N, N, N, N, N, N}}};
     for (const auto &c : casos) {
         SCOPED_TRACE(std::to_string(c.inicio) + " " + std::to_string(c.fin));
         EmpezarAsignaciones();
@@ -325,7 +328,8 @@ TEST(Asignaciones, PeriodosTrimestralesPorSuNumero) {
 
 TEST(Asignaciones, Escalares) {
     EmpezarAsignaciones();
-    EXPECT_TRUE(Procesar("ESC A = X\nESC B = SUMSER(X) / 2\nESC C = A + B\nMUEST 1992 1995\nESC D = H\nESC A = X"));
+    EXPECT_TRUE(
+        Procesar("ESC A = X\nESC B = SUMSER(X) / 2\nESC C = A + B\nMUEST 1992 1995\nESC D = H\nESC A = X"));
     EXPECT_EQ(EscalarDe("B"), 10.5);
     EXPECT_EQ(EscalarDe("C"), 11.5);
     EXPECT_EQ(EscalarDe("D"), 0.0); // missing at the first row of the sample
@@ -360,7 +364,8 @@ TEST(Asignaciones, Matrices) {
     EXPECT_EQ(BufferMatriz.enUso, 0);
     EXPECT_FALSE(Procesar("MAT X = M"));
     EXPECT_FALSE(Procesar("MAT T = M"));
-    EXPECT_EQ(TextosDeCajas(), (Textos{"Nombre matriz no válido. Pto 28", "Nombre matriz no válido. Pto 29"}));
+    EXPECT_EQ(TextosDeCajas(),
+              (Textos{"Nombre matriz no válido. Pto 28", "Nombre matriz no válido. Pto 29"}));
 }
 
 // ----- SER FICTIC
@@ -403,7 +408,8 @@ TEST(Asignaciones, FicticiasYLaMuestra) {
 
 TEST(Asignaciones, FicticiasHastaLlenarLaTabla) {
     EmpezarAsignaciones();
-    for (int i = ArchivoTrabajo.NumSeries; i < 96; ++i) PonerSerie("S" + std::to_string(i), {1, 2, 3, 4, 5, 6});
+    for (int i = ArchivoTrabajo.NumSeries; i < 96; ++i)
+        PonerSerie("S" + std::to_string(i), {1, 2, 3, 4, 5, 6});
     EXPECT_TRUE(Procesar("SER FICTIC X"));
     EXPECT_TRUE(Prueba.cajas.empty());
     EXPECT_EQ(ArchivoTrabajo.NumSeries, 98); // X1 and X2

@@ -74,8 +74,11 @@ const CasoBloque Bloques[] = {
     {"REPITE J DESDE 1 HASTA 5\nSI (J >= 4) ENTONCES\nESC S = S * 10 + J\nFINSI\nFINREPITE", 45},
     {"REPITE J DESDE 1 HASTA 5\nSI (J <= 2) ENTONCES\nESC S = S * 10 + J\nFINSI\nFINREPITE", 12},
     {"REPITE J DESDE 1 HASTA 5\nSI (J <> 2) ENTONCES\nESC S = S * 10 + J\nFINSI\nFINREPITE", 1345},
-    {"REPITE J DESDE 1 HASTA 5\nSI (J < 3) ENTONCES\nESC S = S * 10 + J\nSINO\nESC S = S * 10\nFINSI\nFINREPITE", 12000},
-    {"REPITE J DESDE 1 HASTA 3\nSI (J = 2) ENTONCES\nESC S = S + 10\nFINSI\nSI (J > 1) ENTONCES\nESC S = S + J\n"
+    {"REPITE J DESDE 1 HASTA 5\nSI (J < 3) ENTONCES\nESC S = S * 10 + J\nSINO\nESC S = S * "
+     "10\nFINSI\nFINREPITE",
+     12000},
+    {"REPITE J DESDE 1 HASTA 3\nSI (J = 2) ENTONCES\nESC S = S + 10\nFINSI\nSI (J > 1) ENTONCES\nESC S = S + "
+     "J\n"
      "FINSI\nFINREPITE",
      15},
     // A SI inside a SI is passed over; its FINSI closes the outer one.
@@ -92,20 +95,29 @@ const CasoBloque Bloques[] = {
     {"MIENTRAS (ENUM = ) ENTONCES\nESC S = S + 1 ENUM\nFINMIENTRAS", 1},
     // Leaving a loop from its SI: CONTINUA to the next turn, ROMPE through the rest without a statement.
     {"REPITE J DESDE 1 HASTA 5\nSI (J = 3) ENTONCES\nCONTINUA\nFINSI\nESC S = S * 10 + J\nFINREPITE", 1245},
-    {"REPITE J DESDE 1 HASTA 5\nSI (J = 3) ENTONCES\nROMPE\nFINSI\nESC S = S * 10 + J\nFINREPITE\nESC S = S + 1", 13},
-    {"REPITE J DESDE 1 HASTA 5\nSI (J < 3) ENTONCES\nESC S = S + J\nSINO\nROMPE\nFINSI\nESC S = S * 10\nFINREPITE",
+    {"REPITE J DESDE 1 HASTA 5\nSI (J = 3) ENTONCES\nROMPE\nFINSI\nESC S = S * 10 + J\nFINREPITE\nESC S = S "
+     "+ 1",
+     13},
+    {"REPITE J DESDE 1 HASTA 5\nSI (J < 3) ENTONCES\nESC S = S + J\nSINO\nROMPE\nFINSI\nESC S = S * "
+     "10\nFINREPITE",
      120},
-    {"MIENTRAS (A < 9) ENTONCES\nESC A = A + 1\nSI (A = 4) ENTONCES\nROMPE\nFINSI\nESC S = S * 10 + A\nFINMIENTRAS",
+    {"MIENTRAS (A < 9) ENTONCES\nESC A = A + 1\nSI (A = 4) ENTONCES\nROMPE\nFINSI\nESC S = S * 10 + "
+     "A\nFINMIENTRAS",
      23},
     {"MIENTRAS (A < 5) ENTONCES\nESC A = A + 1\nSI (A = 3) ENTONCES\nCONTINUA\nFINSI\nESC S = S * 10 + A\n"
      "FINMIENTRAS",
      245},
-    {"MIENTRAS (ENUM = A B A) ENTONCES\nSI (ENUM > 1) ENTONCES\nROMPE\nFINSI\nESC S = S * 10 + ENUM\nFINMIENTRAS", 1},
+    {"MIENTRAS (ENUM = A B A) ENTONCES\nSI (ENUM > 1) ENTONCES\nROMPE\nFINSI\nESC S = S * 10 + "
+     "ENUM\nFINMIENTRAS",
+     1},
     // Behind a SINO the SI goes on at its FINSI, also after CONTINUA: the lines behind it run.
-    {"REPITE J DESDE 1 HASTA 3\nSI (J = 9) ENTONCES\nSINO\nCONTINUA\nESC S = 100\nFINSI\nESC S = S * 10 + J\nFINREPITE",
+    {"REPITE J DESDE 1 HASTA 3\nSI (J = 9) ENTONCES\nSINO\nCONTINUA\nESC S = 100\nFINSI\nESC S = S * 10 + "
+     "J\nFINREPITE",
      123},
     // The counter inside a SI is whole, and so it is behind it; its first line still has the fraction.
-    {"REPITE J DESDE 1.5 HASTA 1.9\nSI (J = 1.5) ENTONCES\nESC S = S * 10 + J\nFINSI\nESC S = S * 10 + J\nFINREPITE", 11},
+    {"REPITE J DESDE 1.5 HASTA 1.9\nSI (J = 1.5) ENTONCES\nESC S = S * 10 + J\nFINSI\nESC S = S * 10 + "
+     "J\nFINREPITE",
+     11},
     // ROMPE and CONTINUA that are passed over.
     {"SI (A = 2) ENTONCES\nROMPE\nCONTINUA\nFINSI\nESC S = S + 1", 1},
     // The comparison reads what the body leaves; the temporaries can be seen there.
@@ -114,7 +126,8 @@ const CasoBloque Bloques[] = {
     {"MIENTRAS (ENUM = ENUM) ENTONCES\nESC S = 1\nFINMIENTRAS", 1},
     // Turns whose step is lost in rounding end.
     {"REPITE J DESDE 100000000000000000000 HASTA 900000000000000000000\nESC S = S + 1\nFINREPITE", 1},
-    {"REPITE J DESDE 1 HASTA 3\nESC S = S + 1\nFINREPITE\nREPITE J DESDE 1 HASTA 3\nESC S = S + 1\nFINREPITE", 6},
+    {"REPITE J DESDE 1 HASTA 3\nESC S = S + 1\nFINREPITE\nREPITE J DESDE 1 HASTA 3\nESC S = S + 1\nFINREPITE",
+     6},
 };
 
 TEST(Bloques, QueLineasCorren) {
@@ -137,7 +150,8 @@ TEST(Bloques, SaltosDeCalendario) {
     } casos[] = {
         {"REPITE J DESDE 2000.1 HASTA 2001.2 SALTA TRIMESTRAL",
          {" 2000.1000 ", " 2000.2000 ", " 2000.3000 ", " 2000.4000 ", " 2001.1000 ", " 2001.2000 "}},
-        {"REPITE J DESDE 1998.3 HASTA 1999.1 SALTA trimestral", {" 1998.3000 ", " 1998.4000 ", " 1999.1000 "}},
+        {"REPITE J DESDE 1998.3 HASTA 1999.1 SALTA trimestral",
+         {" 1998.3000 ", " 1998.4000 ", " 1999.1000 "}},
         {"REPITE J DESDE 1998.4 HASTA 1998.4 SALTA TRIMESTRAL", {" 1998.4000 "}},
         {"REPITE J DESDE 1998.4 HASTA 1998.5 SALTA TRIMESTRAL", {" 1998.4000 ", " 1999.1000 "}},
         {"REPITE J DESDE 1998.11 HASTA 1999.02 SALTA MENSUAL",
@@ -203,7 +217,9 @@ const CasoMensaje Mensajes[] = {
     {"REPITE J DESDE 1 HASTA 2\nFINSI\nFINMIENTRAS",
      {"No se ha cerrado el bucle: [FINMIENTRAS]. Pto 7", Punto89},
      false},
-    {"MIENTRAS (A < 2) ENTONCES\nESC A = 2", {"No se ha cerrado el bucle: [ESC A = 2]. Pto 7", Punto89}, false},
+    {"MIENTRAS (A < 2) ENTONCES\nESC A = 2",
+     {"No se ha cerrado el bucle: [ESC A = 2]. Pto 7", Punto89},
+     false},
     {"SI (A < 2) ENTONCES\nSINO", {"No se ha cerrado el bucle: [SINO]. Pto 7", Punto89}, false},
     {"REPITE J DESDE 1 HASTA 2\nSI (J < 3) ENTONCES\nFINREPITE",
      {"No se ha cerrado el bucle: [FINREPITE]. Pto 7", Punto89},
@@ -222,19 +238,27 @@ const CasoMensaje Mensajes[] = {
     {"SI (A == 1) ENTONCES", {"Sintaxis no idónea. Pto 103", Punto89}, false},
     {"MIENTRAS (A >< 1) ENTONCES", {"Sintaxis no adecuada. Pto 3", Punto89}, false},
     {"SI (NADA > 1) ENTONCES",
-     {"Función desconocida [NADA]", "NADA . Pto 199", "ESC _TMP01 =  (NADA ). Pto 22", "Sintaxis no idónea. Pto 102",
-      Punto89},
+     {"Función desconocida [NADA]", "NADA . Pto 199", "ESC _TMP01 =  (NADA ). Pto 22",
+      "Sintaxis no idónea. Pto 102", Punto89},
      false},
     {"MIENTRAS (A > (B + 1)) ENTONCES",
      {"Número inadecuado de paréntesis", "Sintaxis no adecuada. Pto 4", Punto89},
      false},
-    {"SI (A > (B + 1)) ENTONCES", {"Número inadecuado de paréntesis", "Sintaxis no idónea. Pto 104", Punto89}, false},
+    {"SI (A > (B + 1)) ENTONCES",
+     {"Número inadecuado de paréntesis", "Sintaxis no idónea. Pto 104", Punto89},
+     false},
     {"SI ((A + B) > 1) ENTONCES\nFINSI", {}, true},
     {"SI (A) ENTONCES", {"Número inadecuado de paréntesis", "Sintaxis no idónea. Pto 102", Punto89}, false},
     // At the top level the driver has rewritten ">=" and the like.
-    {"SI (A >= 1) ENTONCES", {"Número inadecuado de paréntesis", "Sintaxis no idónea. Pto 102", Punto89}, false},
-    {"MIENTRAS (A <= 1) ENTONCES", {"Número inadecuado de paréntesis", "Sintaxis no adecuada. Pto 2", Punto89}, false},
-    {"MIENTRAS (A <> 3) ENTONCES", {"Número inadecuado de paréntesis", "Sintaxis no adecuada. Pto 2", Punto89}, false},
+    {"SI (A >= 1) ENTONCES",
+     {"Número inadecuado de paréntesis", "Sintaxis no idónea. Pto 102", Punto89},
+     false},
+    {"MIENTRAS (A <= 1) ENTONCES",
+     {"Número inadecuado de paréntesis", "Sintaxis no adecuada. Pto 2", Punto89},
+     false},
+    {"MIENTRAS (A <> 3) ENTONCES",
+     {"Número inadecuado de paréntesis", "Sintaxis no adecuada. Pto 2", Punto89},
+     false},
     {"MIENTRAS (A > 5) ENTONCES\nFINMIENTRAS", {"No es una comparación válida. Pto 8", Punto89}, false},
     {"MIENTRAS (A < 2) ENTONCES\nESC A = 9\nMAT A = 1\nFINMIENTRAS",
      {"Nombre matriz no válido. Pto 29", Punto89},
@@ -259,17 +283,35 @@ const CasoMensaje Mensajes[] = {
     {"REPITE J DESDE 1 HASTA 2\nMIENTRAS (A < 2) ENTONCES\nFINREPITE",
      {"Sintaxis no adecuada: [MIENTRAS]: MIENTRAS (A < 2) ENTONCES. Pto 6", Punto89},
      false},
-    {"REPITE J DESDE 1 HASTA 2\nvsr no\nFINREPITE", {"Sintaxis no adecuada: [VSR]: VSR NO. Pto 6", Punto89}, false},
-    {"REPITE J DESDE 1 HASTA 2\nMUEST 1 2\nFINREPITE", {"Sintaxis no adecuada: [MUEST]: MUEST 1 2. Pto 6", Punto89}, false},
-    {"REPITE J DESDE 1 HASTA 2\nGRAF X\nFINREPITE", {"Sintaxis no adecuada: [GRAF]: GRAF X. Pto 6", Punto89}, false},
-    {"REPITE J DESDE 1 HASTA 2\nHIST X\nFINREPITE", {"Sintaxis no adecuada: [HIST]: HIST X. Pto 6", Punto89}, false},
-    {"REPITE J DESDE 1 HASTA 2\nDECI 2\nFINREPITE", {"Sintaxis no adecuada: [DECI]: DECI 2. Pto 6", Punto89}, false},
-    {"REPITE J DESDE 1 HASTA 2\nAES X\nFINREPITE", {"Sintaxis no adecuada: [AES]: AES X. Pto 6", Punto89}, false},
-    {"REPITE J DESDE 1 HASTA 2\nAED X\nFINREPITE", {"Sintaxis no adecuada: [AED]: AED X. Pto 6", Punto89}, false},
+    {"REPITE J DESDE 1 HASTA 2\nvsr no\nFINREPITE",
+     {"Sintaxis no adecuada: [VSR]: VSR NO. Pto 6", Punto89},
+     false},
+    {"REPITE J DESDE 1 HASTA 2\nMUEST 1 2\nFINREPITE",
+     {"Sintaxis no adecuada: [MUEST]: MUEST 1 2. Pto 6", Punto89},
+     false},
+    {"REPITE J DESDE 1 HASTA 2\nGRAF X\nFINREPITE",
+     {"Sintaxis no adecuada: [GRAF]: GRAF X. Pto 6", Punto89},
+     false},
+    {"REPITE J DESDE 1 HASTA 2\nHIST X\nFINREPITE",
+     {"Sintaxis no adecuada: [HIST]: HIST X. Pto 6", Punto89},
+     false},
+    {"REPITE J DESDE 1 HASTA 2\nDECI 2\nFINREPITE",
+     {"Sintaxis no adecuada: [DECI]: DECI 2. Pto 6", Punto89},
+     false},
+    {"REPITE J DESDE 1 HASTA 2\nAES X\nFINREPITE",
+     {"Sintaxis no adecuada: [AES]: AES X. Pto 6", Punto89},
+     false},
+    {"REPITE J DESDE 1 HASTA 2\nAED X\nFINREPITE",
+     {"Sintaxis no adecuada: [AED]: AED X. Pto 6", Punto89},
+     false},
     {"REPITE J DESDE 1 HASTA 2\nQ\nFINREPITE", {"Sintaxis no adecuada: [Q]: Q. Pto 6", Punto89}, false},
     {"REPITE J DESDE 1 HASTA 2\n(A)\nFINREPITE", {"Sintaxis no adecuada: [(]: (A). Pto 6", Punto89}, false},
-    {"REPITE J DESDE 1 HASTA 2\nFINSI\nFINREPITE", {"Sintaxis no adecuada: [FINSI]: FINSI. Pto 6", Punto89}, false},
-    {"REPITE J DESDE 1 HASTA 2\nSINO\nFINREPITE", {"Sintaxis no adecuada: [SINO]: SINO. Pto 6", Punto89}, false},
+    {"REPITE J DESDE 1 HASTA 2\nFINSI\nFINREPITE",
+     {"Sintaxis no adecuada: [FINSI]: FINSI. Pto 6", Punto89},
+     false},
+    {"REPITE J DESDE 1 HASTA 2\nSINO\nFINREPITE",
+     {"Sintaxis no adecuada: [SINO]: SINO. Pto 6", Punto89},
+     false},
     {"REPITE J DESDE 1 HASTA 2\nJ\nFINREPITE",
      {"Sintaxis no adecuada: [1.000000]:  1.000000 . Pto 6", Punto89},
      false},
@@ -288,18 +330,23 @@ const CasoMensaje Mensajes[] = {
      {"Función desconocida [NADA]", "ESC S = NADA. Pto 199", Punto89},
      false},
     {"REPITE J DESDE 1 HASTA 2\nSER A = 1\nFINREPITE", {Punto89}, false},
-    {"REPITE J DESDE 1 HASTA 2\nSI (J = 2) ENTONCES\nCDU\nFINSI\nFINREPITE", {"No ensamblada", Punto89}, false},
+    {"REPITE J DESDE 1 HASTA 2\nSI (J = 2) ENTONCES\nCDU\nFINSI\nFINREPITE",
+     {"No ensamblada", Punto89},
+     false},
     {"REPITE J DESDE 3 HASTA 3\nESC S = POT(J,2)\nFINREPITE",
      {"Función desconocida [J]", "J. Pto 199", "Error en los calculos", "ESC S = POT(J,2). Pto 34", Punto89},
      false},
     {"REPITE J DESDE 3 HASTA 3\nSI (J>3) ENTONCES\nFINSI\nFINREPITE",
-     {"Función desconocida [J]", "J. Pto 199", "ESC _TMP01 =  (J). Pto 22", "Sintaxis no idónea. Pto 102", Punto89},
+     {"Función desconocida [J]", "J. Pto 199", "ESC _TMP01 =  (J). Pto 22", "Sintaxis no idónea. Pto 102",
+      Punto89},
      false},
     // Outside a SI the driver reads the closing line that ROMPE and CONTINUA leave it.
     {"REPITE J DESDE 1 HASTA 3\nCAL J\nROMPE\nCAL 99\nFINREPITE\nCAL 98",
      {"   1.0000 ", "Funciones o parámetros no válidos: \n (FINREPITE)"},
      false},
-    {"REPITE J DESDE 1 HASTA 3\nCONTINUA\nFINREPITE", {"Funciones o parámetros no válidos: \n (FINREPITE)"}, false},
+    {"REPITE J DESDE 1 HASTA 3\nCONTINUA\nFINREPITE",
+     {"Funciones o parámetros no válidos: \n (FINREPITE)"},
+     false},
     {"MIENTRAS (A < 2) ENTONCES\nROMPE\nFINMIENTRAS",
      {"Funciones o parámetros no válidos: \n (FINMIENTRAS)"},
      false},
@@ -347,7 +394,8 @@ TEST(Bloques, UnaRegresionPorCodigoDeLaLista) {
     EmpezarBloques();
     PonerSerie("Y", {1, 3, 2, 5, 4, 6, 8, 7, 9, 11});
     PonerSerie("X2", {2, 1, 4, 3, 6, 5, 8, 7, 10, 9});
-    EXPECT_TRUE(Procesar("VSR NO\nMIENTRAS (ENUM = X X2) ENTONCES\nMC Y 1 ENUM\nESC S = S + _SCR\nFINMIENTRAS"));
+    EXPECT_TRUE(
+        Procesar("VSR NO\nMIENTRAS (ENUM = X X2) ENTONCES\nMC Y 1 ENUM\nESC S = S + _SCR\nFINMIENTRAS"));
     EXPECT_EQ(TextosDeCajas(), Textos{});
     const double s = EscalarDe("S");
     EXPECT_TRUE(Procesar("MUEST 1990 1999\nMC Y 1 X\nESC S = _SCR\nMC Y 1 X2\nESC S = S + _SCR"));

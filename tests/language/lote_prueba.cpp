@@ -198,12 +198,9 @@ TEST(Lote, TitulosDeLasCajas) {
     const struct {
         const char *texto, *titulo;
     } casos[] = {
-        {"QQ", "Proceso Cancelado"},
-        {"SER Z = (X", "Proceso cancelado"},
-        {"VSR", "Proceso cancelado"},
-        {"CAL 1", "Resultado"},
-        {"GRAF X", "Opción del menú"},
-        {"SER FICTIC NADA", "Serie no existe"},
+        {"QQ", "Proceso Cancelado"},   {"SER Z = (X", "Proceso cancelado"},
+        {"VSR", "Proceso cancelado"},  {"CAL 1", "Resultado"},
+        {"GRAF X", "Opción del menú"}, {"SER FICTIC NADA", "Serie no existe"},
     };
     for (const auto &c : casos) {
         SCOPED_TRACE(c.texto);
@@ -281,7 +278,7 @@ TEST(Lote, OperadoresDeDosCaracteres) {
     const struct {
         const char *texto;
         double valor;
-    } casos[] = {{"ESC A = 2**3", 8},    {"ESC A = 2 ** 3 ** 2", 64}, {"ESC A = 3>=3", 1},
+    } casos[] = {{"ESC A = 2**3", 8},   {"ESC A = 2 ** 3 ** 2", 64}, {"ESC A = 3>=3", 1},
                  {"ESC A = 3 <= 2", 0}, {"ESC A = 3<>2", 1},         {"esc a = 2", 2}};
     for (const auto &c : casos) {
         SCOPED_TRACE(c.texto);
@@ -344,8 +341,8 @@ TEST(Lote, CualquierTextoTermina) {
     }
     std::string bytes;
     for (int i = 1; i < 256; ++i) bytes += static_cast<char>(i);
-    const char *const comienzos[] = {"",      "SER ", "SER A=", "OBS X[", "ESC ", "MAT ", "CAL ",
-                                     "MC ",   "MUEST ", "SI (", "REPITE ", "SER A={"};
+    const char *const comienzos[] = {"",     "SER ", "SER A=", "OBS X[", "ESC ",    "MAT ",
+                                     "CAL ", "MC ",  "MUEST ", "SI (",   "REPITE ", "SER A={"};
     for (const char *comienzo : comienzos) {
         SCOPED_TRACE(comienzo);
         EmpezarLote();
@@ -357,9 +354,10 @@ TEST(Lote, CualquierTextoTermina) {
 
 // Series with nothing beyond row 0 leave the end of the sample at 100,000.
 TEST(Lote, MuestraFueraDeLasTablas) {
-    const char *const textos[] = {"SER Z = X",          "ESC A = X",       "CAL X",          "OBS X[1995] = X",
-                                  "SER X = X(-1) * 2",  "SER FICTIC X",    "SER Z = TEND",   "ESC A = SUMSER(X)",
-                                  "SER Z = {M}",        "MUEST 1995 1999", "ESC A = X[1995]"};
+    const char *const textos[] = {"SER Z = X",       "ESC A = X",         "CAL X",
+                                  "OBS X[1995] = X", "SER X = X(-1) * 2", "SER FICTIC X",
+                                  "SER Z = TEND",    "ESC A = SUMSER(X)", "SER Z = {M}",
+                                  "MUEST 1995 1999", "ESC A = X[1995]"};
     for (const char *texto : textos) {
         SCOPED_TRACE(texto);
         EmpezarConDatos(TipoAnual, "1990#1999");

@@ -107,7 +107,12 @@ TEST(Lote, LineasQueNoSePuedenLeer) {
         {{"--borrar", "serie:"}, "valor incorrecto de --borrar"},
         {{"--grafico", "residuos"}, "la acción --grafico no está disponible todavía"},
         {{"--abrir", "x.tr2"}, "la acción --abrir no está disponible todavía"},
-        {{"--ultima-regresion"}, "la acción --ultima-regresion no está disponible todavía"},
+        {{"--listado", "covarianza"}, "la acción --listado covarianza no está disponible todavía"},
+        {{"--listado", "valores"}, "la acción --listado valores no está disponible todavía"},
+        {{"--listado", "varianza"}, "la acción --listado varianza no está disponible todavía"},
+        {{"--listado", "series"}, "valor incorrecto de --listado"},
+        {{"--listado", "escalares:A"}, "valor incorrecto de --listado"},
+        {{"--imprimir", ""}, "valor incorrecto de --imprimir"},
     };
     for (const CasoLinea &caso : Casos) {
         SCOPED_TRACE(caso.queja);
@@ -129,6 +134,7 @@ TEST(Lote, SinAccionesYConAyudaMuestraElUso) {
         EXPECT_EQ(r.estado, 0);
         for (const char *accion : {"--json", "--tipo", "--formato", "--importar", "--exportar", "--procesar", "--sentencia",
                                    "--seguir", "--respuesta", "--decimales", "--borrar", "--relacion", "--muestra-actual",
+                                   "--ultima-regresion", "--imprimir", "--imprimir-salidas", "--listado",
                                    "--volcado"})
             EXPECT_NE(r.salida.find(accion), std::string::npos) << accion;
         EXPECT_EQ(r.salida.find("--grafico"), std::string::npos) << "only what there is";

@@ -12,21 +12,21 @@
 #include <QPdfWriter>
 
 #include <clocale>
-#include <memory>
 
 namespace {
 
 // Fonts need a QGuiApplication. One of our own takes no display, reads no arguments of the user's, and says nothing:
-// its warnings on the locale or the run-time folder are none of the user's business.
-std::unique_ptr<QGuiApplication> AplicacionSinPantalla() {
+// its warnings on the locale or the run-time folder are none of the user's business. It stays until the process ends,
+// since fonts that were used once remember it.
+void CrearAplicacionSinPantalla() {
     static char nombre[] = "tabira", opcion[] = "-platform", valor[] = "offscreen";
     static char *argumentos[] = {nombre, opcion, valor, nullptr};
     static int numero = 3;
-    const auto anterior = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    auto aplicacion = std::make_unique<QGuiApplication>(numero, argumentos);
+    const auto anterior =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    new QGuiApplication(numero, argumentos); // found again through QCoreApplication::instance()
     qInstallMessageHandler(anterior);
     std::setlocale(LC_NUMERIC, "C"); // the toolkit takes the desktop's locale, and numbers don't
-    return aplicacion;
 }
 
 void PintarPagina(QPainter &pintor, const QFont &fuente, const PaginaImpresa &pagina) {
@@ -46,22 +46,28 @@ QByteArray Componer(std::string_view titulo, const std::deque<PaginaImpresa> &pa
     escritor.setResolution(PuntosPorPulgada);
     escritor.setTitle(QDe1252(titulo));
     escritor.setCreator(QStringLiteral("Tabira"));
-    QPainter pintor;
-    if (!pintor.begin(&escritor)) return {};
-    const QFont fuente = FuenteFija(AnchoCaracterPagina);
-    for (const PaginaImpresa &p : paginas) {
-        if (&p != &paginas.front() && !escritor.newPage()) return {};
-        PintarPagina(pintor, fuente, p);
-    }
-    return pintor.end() ? bytes : QByteArray();
+    return PintarPaginas(escritor, paginas) ? bytes : QByteArray();
 }
 
 } // namespace
 
+bool PintarPaginas(QPagedPaintDevice &papel, const std::deque<PaginaImpresa> &paginas) {
+    QPainter pintor;
+    if (!pintor.begin(&papel)) return false;
+    // The recorded page is laid over the paper, whatever its resolution and the margins that it can't print on.
+    pintor.setWindow(0, 0, AnchoPagina, AltoPagina);
+    const QFont fuente = FuenteFija(AnchoCaracterPagina);
+    for (const PaginaImpresa &p : paginas) {
+        if (&p != &paginas.front() && !papel.newPage()) return false;
+        PintarPagina(pintor, fuente, p);
+    }
+    return pintor.end();
+}
+
 bool EscribirPdf(const std::string &ruta, std::string_view titulo, const std::deque<PaginaImpresa> &paginas) {
     if (paginas.empty()) return false;
-    std::unique_ptr<QGuiApplication> propia;
-    if (QCoreApplication::instance() == nullptr) propia = AplicacionSinPantalla();
+    if (QCoreApplication::instance() == nullptr) CrearAplicacionSinPantalla();
     const QByteArray bytes = Componer(titulo, paginas);
-    return !bytes.isEmpty() && EscribirArchivo(ruta, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    return !bytes.isEmpty() &&
+           EscribirArchivo(ruta, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }

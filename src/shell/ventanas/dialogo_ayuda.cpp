@@ -32,7 +32,7 @@ int MostrarAcerca(Ventana *ventana, const PaginaManual &) {
 // the pages are set out in columns.
 int MostrarUnaPagina(Ventana *ventana, const PaginaManual &pagina) {
     if (pagina.id == PaginaAcerca) return MostrarAcerca(ventana, pagina);
-    DialogoConFormulario<Ui::PaginaAyuda> d(ventana);
+    DialogoConFormulario<Ui::DialogoDePagina> d(ventana);
     d.dialogo.setWindowTitle(QDe1252(pagina.titulo));
     d.dialogo.setObjectName(QStringLiteral("P%1").arg(pagina.id));
     QString texto;

@@ -16,7 +16,7 @@
 #include "ui_ultima_regresion.h"
 
 void DialogoMuestra(Ventana *ventana) {
-    DialogoConFormulario<Ui::Muestra> d(ventana);
+    DialogoConFormulario<Ui::DialogoDeMuestra> d(ventana);
     PrepararDialogoMuestra();
     d.ui.TextoInicial->setText(QDe1252(::Muestra.TextoInicial));
     d.ui.TextoFinal->setText(QDe1252(::Muestra.TextoFinal));

@@ -28,7 +28,7 @@ QMenu *MenuDeRuta(QMenuBar *barra, const QString &ruta) {
             if (a->menu() != nullptr && a->menu()->title() == titulo) siguiente = a->menu();
         if (siguiente == nullptr) {
             siguiente = menu != nullptr ? menu->addMenu(titulo) : barra->addMenu(titulo);
-            siguiente->setObjectName(u"menu" + QString(titulo).remove(u'&').remove(u' '));
+            siguiente->setObjectName(QStringLiteral("menu") + QString(titulo).remove(u'&').remove(u' '));
         }
         menu = siguiente;
     }
@@ -37,9 +37,8 @@ QMenu *MenuDeRuta(QMenuBar *barra, const QString &ruta) {
 
 // A fixed amount of work, not a timer: nothing else happens while the picture stands.
 void EsperarDeLaPortada() {
-    volatile int vueltas = 0;
-    for (int i = 0; i < 30000; ++i)
-        for (int j = 0; j < 2000; ++j) vueltas = j;
+    for (volatile int i = 0; i < 30000; i = i + 1)
+        for (volatile int j = 0; j < 2000; j = j + 1) {}
 }
 
 } // namespace

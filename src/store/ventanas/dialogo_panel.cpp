@@ -131,7 +131,7 @@ void DialogoPanelEtiquetas(Ventana *ventana) {
 } // namespace
 
 bool DialogoPanel(Ventana *ventana, PropuestaTipoDatos &propuesta) {
-    DialogoConFormulario<Ui::Panel> d(ventana);
+    DialogoConFormulario<Ui::DialogoDePanel> d(ventana);
     AbrirEdicionPanel();
     const DescripcionDePanel &panel = EdicionPanel.panel;
     (panel.PrimerConcepto == PeriodoPrimero ? d.ui.periodoPrimero : d.ui.individuoPrimero)->setChecked(true);
