@@ -2,7 +2,6 @@
 #include "shell/comandos.h"
 
 #include "charts/listados.h"
-#include "estimation/regresion.h"
 #include "language/lote_sentencias.h"
 #include "platform/strstr.h"
 #include "shell/ayuda.h"
@@ -176,5 +175,4 @@ bool CerrarPrograma(Ventana *ventana) {
 void IniciarPrograma() {
     IniciarArchivoTrabajo();
     IniciarLote();
-    IniciarRegresion();
 }

@@ -37,8 +37,8 @@ QMenu *MenuDeRuta(QMenuBar *barra, const QString &ruta) {
 
 // A fixed amount of work, not a timer: nothing else happens while the picture stands.
 void EsperarDeLaPortada() {
-    for (volatile int i = 0; i < 30000; i = i + 1)
-        for (volatile int j = 0; j < 2000; j = j + 1) {}
+    for (int i = 0; i < 30000; ++i)
+        for (int j = 0; j < 2000; ++j) asm volatile("" : : "r"(j)); // nothing, but the loop stays
 }
 
 } // namespace
