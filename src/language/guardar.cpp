@@ -20,14 +20,15 @@ bool Rechazada(const char *serie) {
     return BuscarMatriz(serie) >= 0 || BuscarEscalar(serie) >= 0 || Evaluador.profundidad < 1;
 }
 
-// Rows of the sample with their value and flag where there is one; all else of the 4,000 rows is cleared. A row
-// without its flag holds 0.0 already, and leaving its value alone halves the memory that a store goes through.
+// Rows of the sample with their value and flag where there is one; all else of the 4,000 rows is cleared. Within the
+// work file a row can hold a value without its flag, which a lag would read. Behind its end it holds none, and leaving
+// the value alone there halves the memory that the store of a short series goes through.
 void CopiarColumna(int serie, int primera, int ultima) {
     const ColumnaPila &columna = ColumnaSuperior();
     CabeceraArchivo &a = ArchivoTrabajo;
     for (int i = 0; i < MaxObservaciones; ++i) {
         const bool hay = i >= primera && i <= ultima && columna.presente[i] == 1;
-        if (!hay && a.PresenciaObs[i][serie] == 0) continue;
+        if (!hay && i >= a.NumObs && a.PresenciaObs[i][serie] == 0) continue;
         a.ValoresObs[i][serie] = hay ? columna.valor[i] : 0.0;
         a.PresenciaObs[i][serie] = hay ? 1 : 0;
     }

@@ -19,9 +19,13 @@ int FilasConValor(int serie) {
     return n;
 }
 
-int FilasDelArchivo() { return ArchivoTrabajo.NumObs <= MaxObservaciones ? ArchivoTrabajo.NumObs : MaxObservaciones; }
+int FilasDelArchivo() {
+    return ArchivoTrabajo.NumObs <= MaxObservaciones ? ArchivoTrabajo.NumObs : MaxObservaciones;
+}
 
-std::string_view CodigoVisible(const char *codigo) { return Recortado(codigo, RecorteDerecha); }
+std::string_view CodigoVisible(const char *codigo) {
+    return Recortado(codigo, RecorteDerecha);
+}
 
 void PonerParDeEnteros(std::string &json, const char *clave, int a, int b) {
     PonerClaveJson(json, clave);
@@ -49,7 +53,8 @@ void PonerSeries(std::string &json) {
         PonerParJson(json, "ultima", ArchivoTrabajo.UltimaObs[s]);
         PonerClaveJson(json, "valores");
         json += '[';
-        for (int i = 0; i < FilasConValor(s); ++i) {
+        const int filas = FilasConValor(s);
+        for (int i = 0; i < filas; ++i) {
             PonerComaJson(json);
             if (ArchivoTrabajo.PresenciaObs[i][s] == 1) {
                 PonerNumeroJson(json, ArchivoTrabajo.ValoresObs[i][s]);
@@ -136,22 +141,30 @@ void VolcadoJson() {
     std::puts((json + "}").c_str());
 }
 
-void Escribir(const std::string &texto1252) { std::puts(Utf8De1252(texto1252).c_str()); }
+void Escribir(const std::string &texto1252) {
+    std::puts(Utf8De1252(texto1252).c_str());
+}
 
 // For people: what there is, and the values a line each.
 void VolcadoTexto() {
-    Escribir(Formatear("Archivo de trabajo %s, tipo %d, intervalo %s, %d observaciones", ArchivoTrabajo.NombreProyecto,
-                       ArchivoTrabajo.TipoDatos, ArchivoTrabajo.TextoIntervalo, ArchivoTrabajo.NumObs));
-    Escribir(Formatear("Muestra: filas %d a %d; regresión: %d a %d"_w, Muestra.InicioMuestra, Muestra.FinMuestra,
-                       Muestra.InicioRegresion, Muestra.FinRegresion));
+    const std::string proyecto(CodigoVisible(ArchivoTrabajo.NombreProyecto));
+    const std::string intervalo(CodigoVisible(ArchivoTrabajo.TextoIntervalo));
+    Escribir(Formatear("Archivo de trabajo %s, tipo %d, intervalo %s, %d observaciones", proyecto.c_str(),
+                       ArchivoTrabajo.TipoDatos, intervalo.c_str(), ArchivoTrabajo.NumObs));
+    Escribir(Formatear("Muestra: filas %d a %d; regresión: %d a %d"_w, Muestra.InicioMuestra,
+                       Muestra.FinMuestra, Muestra.InicioRegresion, Muestra.FinRegresion));
     for (int s = 0; s < ArchivoTrabajo.NumSeries; ++s) {
         std::string linea = Formatear("Serie %s:", ArchivoTrabajo.Codigos[s]);
-        for (int i = 0; i < FilasConValor(s); ++i)
-            linea += ArchivoTrabajo.PresenciaObs[i][s] == 1 ? Formatear(" %g", ArchivoTrabajo.ValoresObs[i][s]) : " ---";
+        const int filas = FilasConValor(s);
+        for (int i = 0; i < filas; ++i)
+            linea += ArchivoTrabajo.PresenciaObs[i][s] == 1
+                         ? Formatear(" %g", ArchivoTrabajo.ValoresObs[i][s])
+                         : " ---";
         Escribir(linea);
     }
     for (int e = 0; e < TablaEscalares.numero; ++e)
-        Escribir(Formatear("Escalar %s= %g", TablaEscalares.registro[e].Codigo, TablaEscalares.registro[e].Valor));
+        Escribir(
+            Formatear("Escalar %s= %g", TablaEscalares.registro[e].Codigo, TablaEscalares.registro[e].Valor));
     for (int m = 0; m < TablaMatrices.numero; ++m) {
         const RegistroMatriz &r = TablaMatrices.registro[m];
         Escribir(Formatear("Matriz %s(%d,%d)", r.Codigo, r.Filas, r.Columnas));
@@ -164,7 +177,8 @@ void VolcadoTexto() {
         SoltarMatriz(m);
     }
     for (int e = 0; e < TablaEcuaciones.numero; ++e)
-        Escribir(Formatear("Ecuación %s: %s"_w, TablaEcuaciones.Codigos[e], TablaEcuaciones.TextosEcuacion[e]));
+        Escribir(
+            Formatear("Ecuación %s: %s"_w, TablaEcuaciones.Codigos[e], TablaEcuaciones.TextosEcuacion[e]));
 }
 
 } // namespace

@@ -19,6 +19,11 @@ void MostrarMensaje(Ventana *ventana, std::string_view texto, std::string_view t
     MostrarCaja(ventana, texto, titulo, IconoInformacion, BotonesAceptar);
 }
 
+int MensajeCancelado(Ventana *ventana, std::string_view texto) {
+    MostrarMensaje(ventana, texto);
+    return 0;
+}
+
 int MensajeAviso(Ventana *ventana, std::string_view texto) {
     MostrarMensaje(ventana, texto, TituloAviso);
     return 0;

@@ -65,7 +65,8 @@ Respuesta MostrarCaja(Ventana *ventana, std::string_view texto, std::string_view
 // A box with the information icon and one button.
 void MostrarMensaje(Ventana *ventana, std::string_view texto, std::string_view titulo = TituloCancelado);
 
-// The same with the title "Aviso". Always returns 0, the result of a dialog that goes on.
+// The box with the title "Proceso cancelado" or "Aviso", for a check that refuses. Always returns 0.
+int MensajeCancelado(Ventana *ventana, std::string_view texto);
 int MensajeAviso(Ventana *ventana, std::string_view texto);
 
 // The box "texto. Pto punto", title "Proceso cancelado". Always returns 0, the result of a routine that stops.

@@ -9,20 +9,23 @@
 
 namespace {
 
-constexpr std::string_view FuncionesMatriz[] = {"DET",   "LNDET", "TRAZA", "MIN",  "MAX",  "SUMA", "NFILA", "NCOLU",
-                                                "DIAG",  "ESCAL", "VECT",  "NOBS", "NREG", "MINC", "LNMT",  "RCMT"};
+constexpr std::string_view FuncionesMatriz[] = {"DET",   "LNDET", "TRAZA", "MIN",   "MAX",  "SUMA",
+                                                "NFILA", "NCOLU", "DIAG",  "ESCAL", "VECT", "NOBS",
+                                                "NREG",  "MINC",  "LNMT",  "RCMT"};
 
 // A formula can't reach the signed forms, since a token never begins with a sign; the words are reserved all the same.
 constexpr std::string_view FuncionesSerie[] = {
-    "LOG",    "RCUAD",  "LN",     "ABS",    "EXP",    "POT", "TEND", "PROG", "PROBT",  "PROBF",
-    "PROBN",  "PROBC",  "SUMSER", "MEDSER", "DESSER", "MAXSER", "MINSER", "RND", "RNDN", "NOT",
-    "-LOG",   "-RCUAD", "-LN",    "-ABS",   "-EXP",   "-POT", "-TEND", "-PROG"};
+    "LOG",   "RCUAD",  "LN",     "ABS",    "EXP",    "POT",    "TEND",   "PROG", "PROBT", "PROBF",
+    "PROBN", "PROBC",  "SUMSER", "MEDSER", "DESSER", "MAXSER", "MINSER", "RND",  "RNDN",  "NOT",
+    "-LOG",  "-RCUAD", "-LN",    "-ABS",   "-EXP",   "-POT",   "-TEND",  "-PROG"};
 
 template <std::size_t N> bool EstaEn(const std::string_view (&tabla)[N], std::string_view palabra) {
     return std::find(std::begin(tabla), std::end(tabla), palabra) != std::end(tabla);
 }
 
-bool EsLetra(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
+bool EsLetra(char c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
 
 // One of the first nine characters of a code without its leading blanks. Letters, digits, an inner blank and "^" pass;
 // "_" at the first place only. The terminator and bytes above 127 don't.
@@ -35,9 +38,13 @@ bool CaracterDeCodigo(char c, bool primero) {
 
 } // namespace
 
-bool EsFuncionSerie(std::string_view palabra) { return EstaEn(FuncionesSerie, palabra); }
+bool EsFuncionSerie(std::string_view palabra) {
+    return EstaEn(FuncionesSerie, palabra);
+}
 
-bool EsFuncionMatriz(std::string_view palabra) { return EstaEn(FuncionesMatriz, palabra); }
+bool EsFuncionMatriz(std::string_view palabra) {
+    return EstaEn(FuncionesMatriz, palabra);
+}
 
 int CodigoValido(std::string_view texto, Codigo codigo) {
     PonerCampo(codigo, texto, AnchoCodigo);
@@ -73,9 +80,8 @@ int ValidarCodigosSeries(bool compactar, std::string &textoError) {
     }
     for (int s = 0; s < MaxSeries; ++s) {
         if (enBlanco(s)) continue;
-        const std::string dado = codigos[s];
         const char *causa = nullptr;
-        if (CodigoValido(dado, codigos[s]) == 0) {
+        if (CodigoValido(std::string(codigos[s]), codigos[s]) == 0) {
             causa = "Código de serie no válido:"_w;
         } else if (BuscarMatriz(codigos[s]) >= 0) {
             causa = "Código de serie no válido, igual a matriz:"_w;
@@ -83,7 +89,7 @@ int ValidarCodigosSeries(bool compactar, std::string &textoError) {
             causa = "Código de serie no válido, igual a escalar:"_w;
         }
         if (causa != nullptr) {
-            textoError = causa + dado;
+            textoError = std::string(causa) + codigos[s];
             return 0;
         }
     }

@@ -135,16 +135,16 @@ int ComprobarPeriodos(Ventana *ventana, int periodicidad, std::string_view inici
     int a = LeerEntero(campoA.ano);
     const int b = LeerEntero(campoB.ano);
     if (panel && a == 0) a = AnoPorDefecto;
-    if (a < AnoMinimo && a != 0) return MensajeAviso(ventana, "Año mínimo no válido"_w);
-    if (b > 0 && b < a && !panel) return MensajeAviso(ventana, "Rango de años no válidos"_w);
-    if (b < AnoMinimo && b != 0) return MensajeAviso(ventana, "Año máximo no válido"_w);
+    if (a < AnoMinimo && a != 0) return MensajeCancelado(ventana, "Año mínimo no válido"_w);
+    if (b > 0 && b < a && !panel) return MensajeCancelado(ventana, "Rango de años no válidos"_w);
+    if (b < AnoMinimo && b != 0) return MensajeCancelado(ventana, "Año máximo no válido"_w);
     // A blank first year counts as 0 here, so most last years are too far from it.
     if ((b - a + 1) * porAno > MaxObservaciones)
-        return MensajeAviso(ventana, "Año máximo excesivamente grande"_w);
+        return MensajeCancelado(ventana, "Año máximo excesivamente grande"_w);
     const int subA = LeerEntero(campoA.sub);
     const int subB = LeerEntero(campoB.sub);
-    if (forma.conSub && (subA < 0 || subA > porAno)) return MensajeAviso(ventana, forma.subMinimoNoValido);
-    if (forma.conSub && (subB < 0 || subB > porAno)) return MensajeAviso(ventana, forma.subMaximoNoValido);
+    if (forma.conSub && (subA < 0 || subA > porAno)) return MensajeCancelado(ventana, forma.subMinimoNoValido);
+    if (forma.conSub && (subB < 0 || subB > porAno)) return MensajeCancelado(ventana, forma.subMaximoNoValido);
     intervalo = {a, subA < 1 ? 1 : subA, b, subB < 1 ? porAno : subB};
     return 1;
 }

@@ -39,7 +39,7 @@ std::string TextoDeIndice(int indice, int porAno);
 
 // Checks the two fields of annual, quarterly or monthly periods. Fields are cut at 4, 18 and 8 characters, split at the
 // point into year (4 characters) and sub-period. 1 with the result in `intervalo`, sub-periods that were left blank
-// being the first and the last one of the year; two blank fields give blank years. 0 after a message, title "Aviso".
+// being the first and the last one of the year; two blank fields give blank years. 0 after a message, title "Proceso cancelado".
 // `panel`: a blank first year is 2001 before the checks, and a last year below the first is accepted.
 int ComprobarPeriodos(Ventana *ventana, int periodicidad, std::string_view inicio, std::string_view fin,
                       bool panel, Intervalo &intervalo);

@@ -1,6 +1,6 @@
 // Editing of panel data: the private copy of DescripcionPanel on which the dialogs of the panel work, the changes that
-// they make in it with their checks, and what their lists show. Messages have the title "Aviso"; a routine that shows
-// one leaves the copy as it was.
+// they make in it with their checks, and what their lists show. Messages have the title "Aviso", but for the
+// checks of periods; a routine that shows one leaves the copy as it was.
 #pragma once
 
 #include "store/intervalo.h"

@@ -73,9 +73,9 @@ std::string NombreDialogoTipo() {
 
 int AceptarNombreYTipo(Ventana *ventana, const PropuestaTipoDatos &p) {
     if (EnBlanco(std::string_view(p.nombre).substr(0, AnchoNombreTipo)))
-        return MensajeAviso(ventana, "Introduzca nombre fichero");
+        return MensajeCancelado(ventana, "Introduzca nombre fichero");
     if (p.tipo < TipoSinPeriodicidad || p.tipo > TipoPanel)
-        return MensajeAviso(ventana, "Introduzca tipo de datos");
+        return MensajeCancelado(ventana, "Introduzca tipo de datos");
     if (ArchivoTrabajo.NumSeries > 0)
         MostrarMensaje(ventana, "Guarde el fichero ó se perderán todos los datos"_w, TituloAviso);
     return 1;

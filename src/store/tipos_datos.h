@@ -39,12 +39,13 @@ inline constexpr int AnchoNombreTipo = 8;
 std::string NombreDialogoTipo();
 
 // OK of the dialog "Tipos de datos". 1 to go on to the dialog of the type, with the warning that the data will be lost
-// where there are series; 0 after "Introduzca nombre fichero" or "Introduzca tipo de datos", title "Aviso". A type
-// that has no button counts as none.
+// where there are series (title "Aviso"); 0 after "Introduzca nombre fichero" or "Introduzca tipo de datos", title
+// "Proceso cancelado". A type that has no button counts as none.
 int AceptarNombreYTipo(Ventana *ventana, const PropuestaTipoDatos &propuesta);
 
 // OK of the dialog of the type: types 0 to 3 from the two fields, type 4 from EdicionPanel. 1 when the work file was
-// reset for the new type; 0 after a message, title "Aviso", the store as it was.
+// reset for the new type; 0 after a message, the store as it was: title "Aviso" for "Introduzca datos" of a panel, "Proceso
+// cancelado" for the checks of periods.
 int AceptarDialogoDelTipo(Ventana *ventana, const PropuestaTipoDatos &propuesta);
 
 // Both dialogs at once, and for type 4 those of the panel between them.

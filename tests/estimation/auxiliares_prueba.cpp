@@ -110,7 +110,7 @@ TEST(GoldfeldQuandt, HeredaLaCuentaDelUltimoMC) {
     EXPECT_EQ(EscalarDe("_NREGGN"), 2.0);
     EXPECT_EQ(EscalarDe("_NOREGN"), 8.0);
     EXPECT_EQ(UltimaRegresion.NumRegresores, 3);
-    EXPECT_EQ(BuscarSerie("_RESGN") >= 0, true);
+    EXPECT_GE(BuscarSerie("_RESGN"), 0);
 }
 
 // ----- White

@@ -280,6 +280,33 @@ TEST(Informe, BloquesDeLosContrastes) {
     }
 }
 
+// A value too long for its column loses its end and keeps the column's width.
+TEST(Informe, ValoresLargosEnLaTabla) {
+    static constexpr struct {
+        double beta, desviacion, t, probabilidad;
+        const char *fila;
+    } Casos[] = {
+        {1234567.123456, 0.5, 12345.67, 0.25,
+         "              1 1234567.123456       0.500000 12345.67       0.2500"},
+        {12345678.123456, 0.5, 123456.78, 0.25,
+         "              1  12345678.1234       0.500000  123456.       0.2500"},
+        {-1234567.123456, 98765432.5, -12345.67, 1.0,
+         "              1  -1234567.1234  98765432.5000  -12345.       1.0000"},
+    };
+    for (const auto &c : Casos) {
+        DejarResultados(8);
+        PonerMatriz("_BETA", {c.beta, 1.0}, 2, 1);
+        PonerMatriz("_DTE", {c.desviacion, 1.0}, 1, 2);
+        ArchivoTrabajo.ValoresObs[10][BuscarSerie("_DIV")] = c.t;
+        ArchivoTrabajo.ValoresObs[10][BuscarSerie("_PROBT")] = c.probabilidad;
+        TextoSalida texto;
+        std::vector<TablaCoeficientes> tablas;
+        ASSERT_EQ(BloqueRegresion(texto, tablas, nullptr, 8, nullptr), 1);
+        EXPECT_EQ(Leer(texto)[5].second, c.fila);
+        SoltarTodasMatrices();
+    }
+}
+
 TEST(Informe, ListaDeWhiteCortada) {
     DejarResultados(12);
     UltimaRegresion.TextosRegresores = {"1", "SALARIO", "EDUCACIO", "SALARIO*SALARIO", "EDUCACIO*EDUCACIO"};

@@ -1,6 +1,8 @@
 // Published results, and the special shapes of a regression.
 #include "apoyo/datos_csv.h"
 #include "apoyo/datos_regresion.h"
+#include "estimation/ecuacion.h"
+#include "estimation/pasos.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -92,12 +94,20 @@ TEST(Formas, SinGradosDeLibertad) {
 }
 
 TEST(Formas, AjustePerfecto) {
-    EmpezarRegresion();
-    ASSERT_TRUE(Procesar("SER W = X * 2\nMC W X"));
-    EXPECT_EQ(EscalarDe("_SCR"), 0.0);
-    EXPECT_EQ(EscalarDe("_FORLA"), 0.0);
-    ASSERT_TRUE(Procesar("MC Y 1 X")); // and the next one is not disturbed
-    EXPECT_GT(EscalarDe("_FORLA"), 0.0);
+    static constexpr const char *Sentencias[] = {
+        "SER W = X * 2\nMC W X",
+        // Two columns, so that it isn't the single regressor that leaves F without a value.
+        "SER W = X * 2 + Z\nMC W X Z",
+    };
+    for (const char *sentencias : Sentencias) {
+        SCOPED_TRACE(sentencias);
+        EmpezarRegresion();
+        ASSERT_TRUE(Procesar(sentencias));
+        EXPECT_NEAR(EscalarDe("_SCR"), 0.0, 1e-20);
+        EXPECT_EQ(EscalarDe("_FORLA"), 0.0);
+        ASSERT_TRUE(Procesar("MC Y 1 X")); // and the next one is not disturbed
+        EXPECT_GT(EscalarDe("_FORLA"), 0.0);
+    }
 }
 
 TEST(Formas, LoQueQueda) {
@@ -119,13 +129,28 @@ TEST(Formas, LoQueQueda) {
     EXPECT_EQ(ArchivoTrabajo.NumSeries, 4 + 6);
 }
 
-// Sums over values with more digits than pass through a text: the mean is stored with six decimals, the variation is
-// about the exact mean.
+// Values that pass through a text keep six decimals, for every formula behind it too; the variation is about the exact
+// mean, and only its sum is rounded.
 TEST(Formas, SeisDecimales) {
     EmpezarRegresion();
-    PonerSerie("CHICA", {1e-7, 2e-7, 4e-7, 3e-7, 6e-7, 9e-7, 1e-7, 2e-7, 2e-7, 1e-7});
-    Lote.VerRegresion = 1;
-    ASSERT_TRUE(Procesar("MUEST 1 10\nMC CHICA 1 X"));
-    ASSERT_EQ(Prueba.resultados.size(), 1u);
-    EXPECT_EQ(Prueba.resultados[0].lineas[7].second.substr(0, 33), "Media Var. Dependiente:    0.0000");
+    ASSERT_TRUE(Procesar("SER T = Y / 7"));
+    AbrirPilaColumnas();
+    LimpiarEvaluador();
+    LineasSentencia lineas;
+    lineas[0] = "T 1 X";
+    Estimacion e;
+    e.lineas = &lineas;
+    e.codigo = OrdenMC;
+    Muestra.InicioRegresion = 0;
+    Muestra.FinRegresion = 19;
+    ASSERT_EQ(LeerEcuacion(e, 0), 1);
+    ASSERT_EQ(EjecutarPasos(e), 1);
+    SoltarTodasMatrices();
+    CerrarPilaColumnas();
+    // The sum of Y is 307 and that of its squares 5,927: variation 5927 - 307 * 307 / 20 = 1214.55, over 49.
+    EXPECT_DOUBLE_EQ(EscalarDe("_STVD"), 43.857143);
+    EXPECT_DOUBLE_EQ(EscalarDe("_MVD"), 2.192857);
+    EXPECT_DOUBLE_EQ(EscalarDe("_SCVD"), 24.786735);
+    EXPECT_DOUBLE_EQ(EscalarDe("_DTVD"), std::sqrt(24.786735 / 19.0));
+    EXPECT_DOUBLE_EQ(EscalarDe("_RC"), 1.0 - EscalarDe("_SCR") / 24.786735);
 }

@@ -90,14 +90,27 @@ void PonerDatos() {
     ActualizarMuestra();
 }
 
-// True for texts with a loop that may run for very long or for good, as loops of this language may: any MIENTRAS; a
-// REPITE with numbers of more than two figures; and a REPITE with fractions and a SI, which sets the counter back.
+// True when a MIENTRAS of the text, in capitals, is not of the form with a list, which always ends.
+bool TieneMIENTRASSinLista(const std::string &texto) {
+    constexpr std::string_view Palabra = "MIENTRAS", Lista = "ENUM";
+    for (std::size_t i = texto.find(Palabra); i != std::string::npos; i = texto.find(Palabra, i + 1)) {
+        if (i >= 3 && texto.compare(i - 3, 3, "FIN") == 0) continue;
+        const std::size_t lista = std::min(texto.find_first_not_of(" (", i + Palabra.size()), texto.size());
+        if (texto.compare(lista, Lista.size(), Lista) != 0) return true;
+        const std::size_t igual = texto.find_first_not_of(' ', lista + Lista.size());
+        if (igual == std::string::npos || texto[igual] != '=') return true;
+    }
+    return false;
+}
+
+// True for texts with a loop that may run for very long or for good, as loops of this language may: a MIENTRAS with a
+// comparison; a REPITE with numbers of more than two figures; and a REPITE with fractions and a SI, which sets the counter back.
 bool PuedeNoAcabar(const std::string &texto) {
     std::string mayusculas = texto;
     std::transform(mayusculas.begin(), mayusculas.end(), mayusculas.begin(),
                    [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
     const auto tiene = [&](const char *palabra) { return mayusculas.find(palabra) != std::string::npos; };
-    if (tiene("MIENTRAS")) return true;
+    if (TieneMIENTRASSinLista(mayusculas)) return true;
     if (!tiene("REPITE")) return false;
     if (tiene("SI") && (tiene(".") || tiene("TRIMESTRAL") || tiene("MENSUAL"))) return true;
     std::size_t figuras = 0;

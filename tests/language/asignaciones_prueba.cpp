@@ -196,6 +196,20 @@ TEST(Asignaciones, UnaSerieNuevaPierdeLoDeFueraDeLaMuestra) {
     EXPECT_EQ(ArchivoTrabajo.ValoresObs[5][x], 0.0);
 }
 
+// What lies under a missing flag can be other than 0.0. A store clears it with the rest of the column, so that no lag
+// reads it afterwards.
+TEST(Asignaciones, UnaSerieGuardadaNoConservaValoresSinMarca) {
+    EmpezarAsignaciones();
+    const int h = BuscarSerie("H");
+    ArchivoTrabajo.ValoresObs[2][h] = 99;
+    EXPECT_TRUE(Procesar("SER H = H\nSER Z = H(-1)"));
+    EXPECT_EQ(ArchivoTrabajo.ValoresObs[2][h], 0.0);
+    EsperarValores(ValoresDe("Z", 6), {N, 10, N, 0, 40, 50});
+    ArchivoTrabajo.ValoresObs[2][h] = 99;
+    EXPECT_TRUE(Procesar("MUEST 1993 1995\nSER H = 1"));
+    EXPECT_EQ(ArchivoTrabajo.ValoresObs[2][h], 0.0);
+}
+
 TEST(Asignaciones, UnAdelantoLargoSeCortaALaMuestra) {
     EmpezarAsignaciones();
     EXPECT_TRUE(Procesar("MUEST 1991 1993\nSER Z = X(2)"));

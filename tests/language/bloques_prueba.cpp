@@ -381,6 +381,39 @@ TEST(Bloques, LasTemporalesSeBorranTambienTrasUnFallo) {
     EXPECT_EQ(TablaEscalares.numero, 4);
 }
 
+// The scalars of a comparison need two places of the table.
+TEST(Bloques, LaComparacionNecesitaSitioParaDosEscalares) {
+    const struct {
+        int escalares;
+        const char *texto;
+        Textos cajas;
+    } casos[] = {
+        {57, "SI (A = 1) ENTONCES\nFINSI", {}},
+        {58,
+         "SI (A = 1) ENTONCES\nFINSI",
+         {"Borre algunos escalares", "Error en la generación de escalares", "Sintaxis no idónea. Pto 104",
+          Punto89}},
+        {59,
+         "SI (A = 1) ENTONCES\nFINSI",
+         {"Borre algunos escalares", "Error en la generación de escalares", "Sintaxis no idónea. Pto 102",
+          Punto89}},
+        {59,
+         "MIENTRAS (A = 1) ENTONCES\nFINMIENTRAS",
+         {"Borre algunos escalares", "Error en la generación de escalares", "Sintaxis no adecuada. Pto 2",
+          Punto89}},
+    };
+    for (const auto &c : casos) {
+        SCOPED_TRACE(std::string(c.texto) + " " + std::to_string(c.escalares));
+        EmpezarBloques();
+        for (int i = TablaEscalares.numero; i < c.escalares; ++i)
+            PonerEscalar(nullptr, "E" + std::to_string(i), i);
+        EXPECT_EQ(Procesar(c.texto), c.cajas.empty());
+        EXPECT_EQ(TextosDeCajas(), c.cajas);
+        EXPECT_EQ(TablaEscalares.numero, c.escalares);
+        EXPECT_EQ(BuscarEscalarEnTabla("_TMP01"), -1);
+    }
+}
+
 TEST(Bloques, LaMuestraDeLaRegresionSigueAlBloqueAunqueMCNoCorra) {
     EmpezarBloques();
     Muestra.InicioRegresion = Muestra.FinRegresion = -7;

@@ -7,7 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -70,6 +72,21 @@ const CasoSeleccion Selecciones[] = {
     {"AESC A = 12", 1, 11, {}, 12, Nada},
     {"  \t\r\n\r\n   ESC A = 7   \r\n\t \r\n", 0, 30, {}, 7, Nada},
     {" ", 0, 1, {}, Nada, Nada},
+    // A block reaches to the end of the selection and not beyond; its first line, as any line, one character further.
+    {"SI (1 = 1) ENTONCES\nESC A = 12\nFINSI\nESC B = 34", 0, 36, {}, 12, Nada},
+    {"SI (1 = 1) ENTONCES\nESC A = 12\nFINSI\nESC B = 34",
+     0,
+     35,
+     {"No se ha cerrado el bucle: [FINS]. Pto 7", "Secuencia no válida. Punto 89"},
+     Nada,
+     Nada},
+    {"SI (1 = 1) ENTONCES\nESC A = 12\nFINSI\nESC B = 34",
+     0,
+     18,
+     {"No se ha cerrado el bucle: []. Pto 7", "Secuencia no válida. Punto 89"},
+     Nada,
+     Nada},
+    {"SI (1 = 1) ENTONCES\nESC A = 12\nFINSI\nESC B = 34", 0, 47, {}, 12, 34},
 };
 
 TEST(Lote, CorreLaSeleccion) {
@@ -318,8 +335,16 @@ TEST(Lote, LasMatricesQuedanSueltas) {
     EXPECT_EQ(TablaMatrices.EstadoBloque[0], BloqueSuelto);
 }
 
+// Whatever was processed, the data are what they were and the next statement runs.
+void EsperarProgramaEntero() {
+    EXPECT_EQ(ValoresDe("X", 10), (std::vector<double>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}));
+    Prueba.cajas.clear();
+    EXPECT_TRUE(Procesar("CAL 7"));
+    EXPECT_EQ(TextosDeCajas(), Textos{"   7.0000 "});
+}
+
+// Lines of 100,000 characters and bytes of any value.
 TEST(Lote, CualquierTextoTermina) {
-    // Lines of 100,000 characters and bytes of any value. What is asked is that nothing breaks.
     const std::string textos[] = {
         std::string(100000, 'A'),
         std::string(100000, '('),
@@ -338,6 +363,7 @@ TEST(Lote, CualquierTextoTermina) {
         SCOPED_TRACE(texto.substr(0, 20));
         EmpezarLote();
         Procesar(texto);
+        EsperarProgramaEntero();
     }
     std::string bytes;
     for (int i = 1; i < 256; ++i) bytes += static_cast<char>(i);
@@ -349,6 +375,7 @@ TEST(Lote, CualquierTextoTermina) {
         Prueba.textoControl = comienzo + bytes;
         Prueba.hasta = static_cast<int>(Prueba.textoControl.size());
         ProcesarLote(nullptr, nullptr, 0, {}, 0, 9);
+        EsperarProgramaEntero();
     }
 }
 
@@ -368,6 +395,9 @@ TEST(Lote, MuestraFueraDeLasTablas) {
         ProcesarLote(nullptr, nullptr, 246, texto, Muestra.InicioMuestra, Muestra.FinMuestra);
         ProcesarLote(nullptr, nullptr, 246, texto, 100000, 100000);
         ProcesarLote(nullptr, nullptr, 246, texto, -1, -1);
+        const std::vector<double> x = ValoresDe("X", MaxObservaciones);
+        EXPECT_EQ(x[0], 5.0);
+        EXPECT_TRUE(std::all_of(x.begin() + 1, x.end(), [](double v) { return std::isnan(v); }));
     }
 }
 

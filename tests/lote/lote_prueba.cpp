@@ -260,6 +260,44 @@ TEST(Lote, VolcadoDeValoresQueFaltanYNoFinitos) {
     EXPECT_NE(r.salida.find("{\"codigo\":\"D\",\"valor\":0.33333333333333331}"), std::string::npos);
 }
 
+// The bounds as they stand: the dump alone doesn't refresh the sample.
+TEST(Lote, VolcadoNoMueveLaMuestra) {
+    const auto r = Correr({"--json", "--tipo", "anual:1990:1995", "--volcado", "--relacion", "series", "--volcado"});
+    const auto volcados = SucesosDe(r, "volcado");
+    ASSERT_EQ(volcados.size(), 2u) << r.salida;
+    EXPECT_EQ(volcados[0]["muestra"], json({0, 0}));
+    EXPECT_EQ(volcados[1]["muestra"], json({0, 5}));
+}
+
+TEST(Lote, VolcadoConRotulos) {
+    const std::string carpeta = CarpetaNueva("rotulos");
+    EscribirBytes(carpeta + "/r.csv", "\"\",X\n\"Pe\xF1\xF3n\",1\n\"Dos\",2\n");
+    const auto r = Correr({"--json", "--tipo", "sin,etiquetas", "--formato",
+                           "variable:separador=coma,delimitador=comillas,delimitados=etiquetas,codigos,etiquetas=1",
+                           "--importar", "r.csv", "--volcado"},
+                          {.carpeta = carpeta, .entrada = {}});
+    ASSERT_EQ(r.estado, 0) << r.salida << r.errores;
+    const json v = SucesosDe(r, "volcado").at(0);
+    EXPECT_EQ(v["etiquetas"], true);
+    ASSERT_EQ(v["rotulos"].size(), 4000u);
+    EXPECT_EQ(v["rotulos"][0], "Peñón");
+    EXPECT_EQ(v["rotulos"][1], "Dos");
+    EXPECT_EQ(v["rotulos"][2], "");
+}
+
+TEST(Lote, VolcadoParaPersonas) {
+    const auto r = Correr({"--tipo", "anual:1990:1992", "--sentencia", "SER X = TEND", "--sentencia", "SER Y = X(-1)",
+                           "--sentencia", "ESC A = 2", "--sentencia", "MAT M = {X X}", "--volcado"});
+    EXPECT_EQ(r.salida, "Archivo de trabajo PROYEC01, tipo 1, intervalo 1990#1992, 3 observaciones\n"
+                        "Muestra: filas 1 a 2; regresión: 0 a 0\n"
+                        "Serie X           : 1 2 3\n"
+                        "Serie Y           : --- 1 2\n"
+                        "Escalar A           = 2\n"
+                        "Matriz M           (2,2)\n"
+                        "    2 2\n"
+                        "    3 3\n");
+}
+
 TEST(Lote, LoMismoEnEspanolYEnUnaCarpetaConAcentos) {
     const std::string carpeta = CarpetaNueva("año de prueba é");
     for (const char *f : {"klein.csv", "klein.txt"})

@@ -28,8 +28,8 @@ std::vector<std::string> Filas() {
 }
 
 // The one box of the test so far.
-void EsperarAviso(const char *texto) {
-    const CajaVista caja{"Aviso", texto, IconoInformacion, BotonesAceptar};
+void EsperarAviso(const char *texto, const char *titulo = "Aviso") {
+    const CajaVista caja{titulo, texto, IconoInformacion, BotonesAceptar};
     EXPECT_EQ(Prueba.cajas, std::vector<CajaVista>{caja});
     Prueba.cajas.clear();
 }
@@ -208,7 +208,7 @@ TEST(PanelConstante, CadaPropuesta) {
         p.fin = c.fin;
         EXPECT_EQ(AceptarTipoDatos(nullptr, p), c.mensaje == nullptr ? 1 : 0);
         if (c.mensaje != nullptr) {
-            EsperarAviso(c.mensaje);
+            EsperarAviso(c.mensaje, "Proceso cancelado");
             EXPECT_EQ(IntervaloActual(), "1970#1979");
             EXPECT_EQ(ArchivoTrabajo.TipoDatos, TipoAnual);
             EXPECT_EQ(DescripcionPanel.NumEntradas, 0);

@@ -106,6 +106,17 @@ TEST(Series, CompactarMueveLas4000Filas) {
     EXPECT_EQ(ArchivoTrabajo.PresenciaObs[500][0], 0);
 }
 
+TEST(Series, CompactarLlevaLosLimitesDeLaSerie) {
+    EmpezarConDatos(TipoSinPeriodicidad, "");
+    CrearSeries(3);
+    ArchivoTrabajo.PrimeraObs[2] = 5;
+    ArchivoTrabajo.UltimaObs[2] = 9;
+    BorrarSerie(0);
+    CompactarSeries();
+    EXPECT_EQ(ArchivoTrabajo.PrimeraObs[BuscarSerie("S3")], 5);
+    EXPECT_EQ(ArchivoTrabajo.UltimaObs[BuscarSerie("S3")], 9);
+}
+
 TEST(Series, UnCodigoVacioTambienEsHueco) {
     EmpezarPrueba(); // codes are empty until the first reset
     EXPECT_STREQ(ArchivoTrabajo.Codigos[0], "");

@@ -17,10 +17,12 @@ std::string IntervaloActual() {
     return std::string(Recortado(ArchivoTrabajo.TextoIntervalo, RecorteDerecha));
 }
 
-// Every box so far is a plain box with the title "Aviso".
+// Every box so far is a plain box. What refuses cancels; only the warning of the data that will be lost, and what a panel
+// lacks, are titled otherwise.
 void EsperarAvisos() {
     for (const CajaVista &c : Prueba.cajas) {
-        EXPECT_EQ(c.titulo, "Aviso");
+        const bool aviso = c.texto == "Guarde el fichero ó se perderán todos los datos" || c.texto == "Introduzca datos";
+        EXPECT_EQ(c.titulo, aviso ? "Aviso" : "Proceso cancelado") << c.texto;
         EXPECT_EQ(c.icono, IconoInformacion);
         EXPECT_EQ(c.botones, BotonesAceptar);
     }
