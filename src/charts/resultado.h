@@ -47,4 +47,5 @@ struct SalidaResultado {
     const TextoSalida *lineas;
     const TextoSalida *fijas;                      // lines that don't scroll, or null
     const std::vector<TablaCoeficientes> *tablas;  // where thin vertical rules stand, or null
+    std::string_view tabla = {};                   // the result for a spreadsheet: tabulators, all digits; may be empty
 };

@@ -1,7 +1,6 @@
 // The platform of the tests.
 #include "apoyo/plataforma_prueba.h"
 
-#include "estimation/regresion.h"
 #include "language/lote_sentencias.h"
 #include "platform/strstr.h"
 #include "platform/texto.h"
@@ -119,7 +118,6 @@ void EmpezarPrueba() {
     InstalarPlataforma(Operaciones);
     IniciarArchivoTrabajo();
     IniciarLote();
-    IniciarRegresion();
 }
 
 void EmpezarConDatos(int tipo, std::string_view intervalo) {
