@@ -14,16 +14,25 @@
 namespace {
 
 constexpr std::pair<const char *, Familias> Estadisticos[] = {
-    {"Media Var. Dependiente", FamMVD},         {"Des. Típ. Var. Depen."_w, FamDTVD},
-    {"Error Típico Regresión"_w, FamDTR},       {"Suma Cuadrados Resid.", FamDCR},
-    {"R Cuadrado", FamRC},                      {"R Cuadrado Corregido", FamRCC},
-    {"Logaritmo de Verosim.", FamLV},           {"Criterio AIC", FamAIC},
-    {"Estadístico F"_w, FamFORLA},              {"Grados de libertad 1", FamANREG},
-    {"Grados de libertad 2", FamNORE},          {"Prob > F", FamESTF},
-    {"Estadís. Durbin-Watson"_w, FamDW},        {"Est. Autocorrelación"_w, FamEA1},
+    {"Media Var. Dependiente", FamMVD},
+    {"Des. Típ. Var. Depen."_w, FamDTVD},
+    {"Error Típico Regresión"_w, FamDTR},
+    {"Suma Cuadrados Resid.", FamDCR},
+    {"R Cuadrado", FamRC},
+    {"R Cuadrado Corregido", FamRCC},
+    {"Logaritmo de Verosim.", FamLV},
+    {"Criterio AIC", FamAIC},
+    {"Estadístico F"_w, FamFORLA},
+    {"Grados de libertad 1", FamANREG},
+    {"Grados de libertad 2", FamNORE},
+    {"Prob > F", FamESTF},
+    {"Estadís. Durbin-Watson"_w, FamDW},
+    {"Est. Autocorrelación"_w, FamEA1},
 };
 
-std::string Numero(double valor) { return Formatear("%.17g", valor); }
+std::string Numero(double valor) {
+    return Formatear("%.17g", valor);
+}
 
 // Element i of a matrix of the results, empty when there is none.
 std::string DeMatriz(Familias familia, int codigo, int i) {
@@ -37,7 +46,8 @@ std::string DeMatriz(Familias familia, int codigo, int i) {
 std::string DeSerie(Familias familia, int codigo, int i) {
     const int s = BuscarSerie(NombreFamilia(familia, codigo));
     const int fila = Muestra.InicioRegresion + i;
-    const bool hay = s >= 0 && fila >= 0 && fila < MaxObservaciones && ArchivoTrabajo.PresenciaObs[fila][s] == 1;
+    const bool hay =
+        s >= 0 && fila >= 0 && fila < MaxObservaciones && ArchivoTrabajo.PresenciaObs[fila][s] == 1;
     return hay ? Numero(ArchivoTrabajo.ValoresObs[fila][s]) : std::string();
 }
 
@@ -51,8 +61,9 @@ std::string TablaRegresion(int codigo) {
     t += "Regresores\tCoeficiente\tDesv. Típica\tEstadís. t\tProb>|t|\n"_w;
     for (std::size_t n = 0; n < u.CodigosRegresores.size(); ++n) {
         const int i = static_cast<int>(n);
-        t += u.CodigosRegresores[n] + "\t" + DeMatriz(FamBETA, codigo, i) + "\t" + DeMatriz(FamDTE, codigo, i) + "\t" +
-             DeSerie(FamDIV, codigo, i) + "\t" + DeSerie(FamPROBT, codigo, i) + "\n";
+        t += u.CodigosRegresores[n] + "\t" + DeMatriz(FamBETA, codigo, i) + "\t" +
+             DeMatriz(FamDTE, codigo, i) + "\t" + DeSerie(FamDIV, codigo, i) + "\t" +
+             DeSerie(FamPROBT, codigo, i) + "\n";
     }
     t += "\n";
     for (const auto &[nombre, familia] : Estadisticos) {

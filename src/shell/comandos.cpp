@@ -19,20 +19,32 @@ constexpr const char *SinTipoSingular = "Tipo de datos no válido"_w; // some co
 
 constexpr int IdGuardar = 2056;
 
-void NoEstaEnsamblada(Ventana *ventana, int) { Escritorio->dialogoNoEnsamblada(ventana); }
+void NoEstaEnsamblada(Ventana *ventana, int) {
+    Escritorio->dialogoNoEnsamblada(ventana);
+}
 
-void Salir(Ventana *ventana, int) { CerrarPrograma(ventana); }
+void Salir(Ventana *ventana, int) {
+    CerrarPrograma(ventana);
+}
 
-void Deshacer(Ventana *ventana, int) { Escritorio->editar(ventana, EditarDeshacer); }
-void Cortar(Ventana *ventana, int) { Escritorio->editar(ventana, EditarCortar); }
-void Copiar(Ventana *ventana, int) { Escritorio->editar(ventana, EditarCopiar); }
-void Pegar(Ventana *ventana, int) { Escritorio->editar(ventana, EditarPegar); }
+void Deshacer(Ventana *ventana, int) {
+    Escritorio->editar(ventana, EditarDeshacer);
+}
+void Cortar(Ventana *ventana, int) {
+    Escritorio->editar(ventana, EditarCortar);
+}
+void Copiar(Ventana *ventana, int) {
+    Escritorio->editar(ventana, EditarCopiar);
+}
+void Pegar(Ventana *ventana, int) {
+    Escritorio->editar(ventana, EditarPegar);
+}
 
 void ElegirTipo(Ventana *ventana, int) {
     Escritorio->dialogoTipoDatos(ventana);
     // The title is rebuilt whether the user accepted or not.
-    Escritorio->ponerTitulo(ventana,
-                            "Tabira: " + std::string(Recortado(ArchivoTrabajo.NombreProyecto, RecorteDerecha)));
+    Escritorio->ponerTitulo(
+        ventana, "Tabira: " + std::string(Recortado(ArchivoTrabajo.NombreProyecto, RecorteDerecha)));
 }
 
 void Relacion(Ventana *ventana, int id) {
@@ -40,17 +52,28 @@ void Relacion(Ventana *ventana, int id) {
     Escritorio->dialogoLista(ventana, lista);
 }
 
-void MuestraEnCurso(Ventana *ventana, int) { Escritorio->dialogoMuestraActual(ventana); }
-void AcotarMuestra(Ventana *ventana, int) { Escritorio->dialogoMuestra(ventana); }
-void VerUltimaRegresion(Ventana *ventana, int) { Escritorio->dialogoUltimaRegresion(ventana); }
-
-void Procesar(Ventana *ventana, int) {
-    ProcesarLote(ventana, Escritorio->pantallaEdicion(ventana), 0, {}, Muestra.InicioMuestra, Muestra.FinMuestra);
+void MuestraEnCurso(Ventana *ventana, int) {
+    Escritorio->dialogoMuestraActual(ventana);
+}
+void AcotarMuestra(Ventana *ventana, int) {
+    Escritorio->dialogoMuestra(ventana);
+}
+void VerUltimaRegresion(Ventana *ventana, int) {
+    Escritorio->dialogoUltimaRegresion(ventana);
 }
 
-void ImprimirTexto(Ventana *ventana, int) { ImprimirSeleccion(ventana, Escritorio->pantallaEdicion(ventana)); }
+void Procesar(Ventana *ventana, int) {
+    ProcesarLote(ventana, Escritorio->pantallaEdicion(ventana), 0, {}, Muestra.InicioMuestra,
+                 Muestra.FinMuestra);
+}
 
-void Ayuda(Ventana *ventana, int id) { Escritorio->paginaAyuda(ventana, PaginaDeComando(id)); }
+void ImprimirTexto(Ventana *ventana, int) {
+    ImprimirSeleccion(ventana, Escritorio->pantallaEdicion(ventana));
+}
+
+void Ayuda(Ventana *ventana, int id) {
+    Escritorio->paginaAyuda(ventana, PaginaDeComando(id));
+}
 
 constexpr const char *Archivo = "&Archivo";
 constexpr const char *Edicion = "&Edición"_w;
@@ -141,7 +164,9 @@ const Comando TablaComandos[] = {
 
 const int NumComandos = static_cast<int>(std::size(TablaComandos));
 
-void InstalarEscritorio(const OperacionesEscritorio &operaciones) { Escritorio = &operaciones; }
+void InstalarEscritorio(const OperacionesEscritorio &operaciones) {
+    Escritorio = &operaciones;
+}
 
 void EjecutarComando(Ventana *ventana, int id) {
     const auto *c = std::find_if(std::begin(TablaComandos), std::end(TablaComandos),
@@ -158,8 +183,8 @@ void EjecutarComando(Ventana *ventana, int id) {
 bool CerrarPrograma(Ventana *ventana) {
     // With neither series nor matrices the question isn't asked, even if there are scalars.
     if (ArchivoTrabajo.NumSeries > 0 || TablaMatrices.numero > 0) {
-        const Respuesta respuesta = MostrarCaja(ventana, "¿Desea guardar su trabajo?"_w, TituloAviso, IconoPregunta,
-                                                BotonesSiNoCancelar);
+        const Respuesta respuesta = MostrarCaja(ventana, "¿Desea guardar su trabajo?"_w, TituloAviso,
+                                                IconoPregunta, BotonesSiNoCancelar);
         if (respuesta == RespuestaCancelar) return false;
         if (respuesta == RespuestaSi) {
             EjecutarComando(ventana, IdGuardar);

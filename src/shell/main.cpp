@@ -18,7 +18,8 @@ int main(int numArgumentos, char **argumentos) {
     QApplication::setApplicationDisplayName(QString());
     QApplication::setDesktopFileName(QStringLiteral("tabira"));
     QIcon icono;
-    for (int lado : {16, 32, 64, 128}) icono.addFile(QStringLiteral(":/tabira/icono%1.png").arg(lado), QSize(lado, lado));
+    for (int lado : {16, 32, 64, 128})
+        icono.addFile(QStringLiteral(":/tabira/icono%1.png").arg(lado), QSize(lado, lado));
     QApplication::setWindowIcon(icono);
     // The toolkit's own texts (the menu of a text field, the file dialog) in Spanish, where its translation is installed.
     QTranslator espanol;

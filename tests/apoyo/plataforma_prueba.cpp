@@ -29,7 +29,8 @@ Respuesta Caja(Ventana *, std::string_view texto, std::string_view titulo, Icono
 std::vector<std::pair<int, std::string>> Lineas(const TextoSalida *texto) {
     std::vector<std::pair<int, std::string>> r;
     if (texto != nullptr)
-        for (const LineaSalida &l : *texto) r.emplace_back(l.Grupo, Utf8De1252(Recortado(l.texto, RecorteDerecha)));
+        for (const LineaSalida &l : *texto)
+            r.emplace_back(l.Grupo, Utf8De1252(Recortado(l.texto, RecorteDerecha)));
     return r;
 }
 
@@ -144,7 +145,8 @@ std::vector<double> ValoresDe(std::string_view codigo, int n) {
     std::vector<double> r(static_cast<std::size_t>(n), Nada);
     const int s = BuscarSerie(codigo);
     for (int i = 0; s >= 0 && i < n; ++i)
-        if (ArchivoTrabajo.PresenciaObs[i][s] == 1) r[static_cast<std::size_t>(i)] = ArchivoTrabajo.ValoresObs[i][s];
+        if (ArchivoTrabajo.PresenciaObs[i][s] == 1)
+            r[static_cast<std::size_t>(i)] = ArchivoTrabajo.ValoresObs[i][s];
     return r;
 }
 

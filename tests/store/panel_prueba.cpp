@@ -210,7 +210,8 @@ TEST(PanelConstante, CadaPropuesta) {
         EXPECT_EQ(AceptarTipoDatos(nullptr, p), c.mensaje == nullptr ? 1 : 0);
         if (c.mensaje != nullptr) {
             // What a panel lacks is a warning; the checks of its periods cancel.
-            EsperarAviso(c.mensaje, std::string_view(c.mensaje) == "Introduzca datos" ? "Aviso" : "Proceso cancelado");
+            EsperarAviso(c.mensaje,
+                         std::string_view(c.mensaje) == "Introduzca datos" ? "Aviso" : "Proceso cancelado");
             EXPECT_EQ(IntervaloActual(), "1970#1979");
             EXPECT_EQ(ArchivoTrabajo.TipoDatos, TipoAnual);
             EXPECT_EQ(DescripcionPanel.NumEntradas, 0);
