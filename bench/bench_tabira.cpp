@@ -48,7 +48,8 @@ void PrepararSeries(int n) {
 void Ejecutar(const std::string &sentencia) {
     ProcesarLote(nullptr, nullptr, 246, sentencia, Muestra.InicioMuestra, Muestra.FinMuestra);
     if (Lote.detenido != 0) {
-        std::fprintf(stderr, "%s: %s\n", sentencia.c_str(), Prueba.cajas.empty() ? "" : Prueba.cajas.back().texto.c_str());
+        std::fprintf(stderr, "%s: %s\n", sentencia.c_str(),
+                     Prueba.cajas.empty() ? "" : Prueba.cajas.back().texto.c_str());
         std::exit(1);
     }
 }
@@ -105,7 +106,8 @@ void SerieAMano(benchmark::State &estado) {
     for (auto _ : estado) {
         for (int i = 0; i < MaxObservaciones; ++i) {
             const double *x = ArchivoTrabajo.ValoresObs[i];
-            ArchivoTrabajo.ValoresObs[i][z] = x[0] + x[1] - x[2] + x[3] - x[4] + x[5] - x[6] + x[7] - x[8] + x[9];
+            ArchivoTrabajo.ValoresObs[i][z] =
+                x[0] + x[1] - x[2] + x[3] - x[4] + x[5] - x[6] + x[7] - x[8] + x[9];
         }
         benchmark::ClobberMemory();
     }
@@ -127,7 +129,8 @@ void PrepararBucle() {
 }
 
 void CorrerBucle(const std::string &lineas) {
-    Prueba.textoControl = "REPITE J DESDE 1 HASTA " + std::to_string(VueltasBucle) + "\n" + lineas + "FINREPITE\n";
+    Prueba.textoControl =
+        "REPITE J DESDE 1 HASTA " + std::to_string(VueltasBucle) + "\n" + lineas + "FINREPITE\n";
     Prueba.desde = 0;
     Prueba.hasta = static_cast<int>(Prueba.textoControl.size());
     ProcesarLote(nullptr, nullptr, 0, {}, Muestra.InicioMuestra, Muestra.FinMuestra);
@@ -155,8 +158,12 @@ void FormulasDeVuelta(benchmark::State &estado, int ultima) {
     }
     CerrarPilaColumnas();
 }
-void FormulasEnUnaFila(benchmark::State &estado) { FormulasDeVuelta(estado, 0); }
-void FormulasEnLasFilas(benchmark::State &estado) { FormulasDeVuelta(estado, ObservacionesBucle - 1); }
+void FormulasEnUnaFila(benchmark::State &estado) {
+    FormulasDeVuelta(estado, 0);
+}
+void FormulasEnLasFilas(benchmark::State &estado) {
+    FormulasDeVuelta(estado, ObservacionesBucle - 1);
+}
 
 // The three store operations of a turn, on a column at hand.
 void AlmacenDeVuelta(benchmark::State &estado) {
@@ -184,13 +191,16 @@ long MemoriaDelProceso = 0; // kB, the largest run
 
 void ProcesoKlein(benchmark::State &estado) {
     if (chdir(TABIRA_DATOS) != 0) std::exit(1);
-    const char *const argumentos[] = {TABIRA_LOTE, "--tipo", "anual:1920:1941", "--importar", "klein.csv", "--procesar", "klein.txt", nullptr};
+    const char *const argumentos[] = {TABIRA_LOTE, "--tipo",     "anual:1920:1941", "--importar",
+                                      "klein.csv", "--procesar", "klein.txt",       nullptr};
     posix_spawn_file_actions_t acciones;
     posix_spawn_file_actions_init(&acciones);
     posix_spawn_file_actions_addopen(&acciones, STDOUT_FILENO, "/dev/null", 1, 0);
     for (auto _ : estado) {
         pid_t hijo = 0;
-        if (posix_spawn(&hijo, TABIRA_LOTE, &acciones, nullptr, const_cast<char **>(argumentos), environ) != 0) std::exit(1);
+        if (posix_spawn(&hijo, TABIRA_LOTE, &acciones, nullptr, const_cast<char **>(argumentos), environ) !=
+            0)
+            std::exit(1);
         int fin = 0;
         rusage uso{};
         wait4(hijo, &fin, 0, &uso);
@@ -208,7 +218,9 @@ public:
     std::map<std::string, double> tiempo;
     void ReportRuns(const std::vector<Run> &corridas) override {
         for (const Run &r : corridas)
-            if (r.run_type == Run::RT_Iteration) tiempo[r.benchmark_name()] = r.real_accumulated_time / static_cast<double>(r.iterations) * 1e9;
+            if (r.run_type == Run::RT_Iteration)
+                tiempo[r.benchmark_name()] =
+                    r.real_accumulated_time / static_cast<double>(r.iterations) * 1e9;
         ConsoleReporter::ReportRuns(corridas);
     }
 };
@@ -220,7 +232,8 @@ void Razon(const char *que, double valor, const char *unidad, const char *quiere
 } // namespace
 
 int main(int numArgumentos, char **argumentos) {
-    const auto registrar = [](const char *nombre, void (*rutina)(benchmark::State &), benchmark::TimeUnit unidad) {
+    const auto registrar = [](const char *nombre, void (*rutina)(benchmark::State &),
+                              benchmark::TimeUnit unidad) {
         benchmark::RegisterBenchmark(nombre, rutina)->Unit(unidad)->UseRealTime();
     };
     registrar("RegresionTabira", RegresionTabira, benchmark::kMicrosecond);
@@ -242,9 +255,12 @@ int main(int numArgumentos, char **argumentos) {
     const double columnas = (t("FormulasEnLasFilas") - t("FormulasEnUnaFila")) / SentenciasVuelta;
     const double almacen = t("AlmacenDeVuelta") / SentenciasVuelta;
     std::printf("\nRatios of this run\n");
-    Razon("MC, 4,000 observations, 10 regressors / Eigen's X'X, ldlt, residuals", t("RegresionTabira") / t("RegresionEigen"), "times", "at most 5");
-    Razon("MC formula by formula / MC", t("RegresionPorFormulas") / t("RegresionTabira"), "times", "at least 50");
-    Razon("SER of ten operands, 4,000 rows / the loop by hand", t("SerieTabira") / t("SerieAMano"), "times", "at most 8");
+    Razon("MC, 4,000 observations, 10 regressors / Eigen's X'X, ldlt, residuals",
+          t("RegresionTabira") / t("RegresionEigen"), "times", "at most 5");
+    Razon("MC formula by formula / MC", t("RegresionPorFormulas") / t("RegresionTabira"), "times",
+          "at least 50");
+    Razon("SER of ten operands, 4,000 rows / the loop by hand", t("SerieTabira") / t("SerieAMano"), "times",
+          "at most 8");
     Razon("A statement of a loop over 100 observations", sentencia / 1e3, "us", "");
     Razon("  its columns", columnas / 1e3, "us", "");
     Razon("  its store", almacen / 1e3, "us", "");

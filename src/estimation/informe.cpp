@@ -2,6 +2,7 @@
 #include "estimation/informe.h"
 
 #include "estimation/regresion.h"
+#include "estimation/tabla_informe.h"
 #include "language/lote_sentencias.h"
 #include "platform/strstr.h"
 #include "platform/texto.h"
@@ -262,5 +263,6 @@ void MostrarRegresion(Ventana *ventana, int codigo) {
     std::vector<TablaCoeficientes> tablas;
     if (BloqueRegresion(texto, tablas, ventana, codigo, nullptr) == 0) return;
     const std::string titulo = TituloRegresion(codigo);
-    MostrarVentanaResultado(ventana, {SalidaRegresion, titulo, codigo, 0, &texto, nullptr, &tablas});
+    const std::string tabla = TablaRegresion(codigo);
+    MostrarVentanaResultado(ventana, {SalidaRegresion, titulo, codigo, 0, &texto, nullptr, &tablas, tabla});
 }

@@ -30,11 +30,11 @@ struct EstadoEvaluador {
     std::array<std::array<char, 7>, MaxFuncionesPendientes> FuncionesPendientes;
     std::int32_t numFunciones;
     std::int32_t EstadoElemento;
-    char OperadorLogico[4];     // the last AND or OR seen; one for the whole statement
-    std::int32_t MarcaRetardo;  // 1 once a lag was applied in this statement
-    std::int32_t ValorRetardo;  // the last lag applied, negative for past values
+    char OperadorLogico[4];    // the last AND or OR seen; one for the whole statement
+    std::int32_t MarcaRetardo; // 1 once a lag was applied in this statement
+    std::int32_t ValorRetardo; // the last lag applied, negative for past values
     std::int32_t PrimeraEval, UltimaEval;
-    Ventana *ventana;           // owner of the messages
+    Ventana *ventana; // owner of the messages
 };
 
 extern EstadoEvaluador Evaluador;
@@ -72,7 +72,9 @@ bool ApilarSerie(int serie);
 
 // The character at a position, NUL at or behind the end.
 inline char CaracterEn(const std::string &texto, int posicion) {
-    return posicion >= 0 && posicion < static_cast<int>(texto.size()) ? texto[static_cast<std::size_t>(posicion)] : '\0';
+    return posicion >= 0 && posicion < static_cast<int>(texto.size())
+               ? texto[static_cast<std::size_t>(posicion)]
+               : '\0';
 }
 
 inline void SaltarBlancos(const std::string &texto, int &posicion) {

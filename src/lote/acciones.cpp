@@ -42,7 +42,9 @@ struct Accion {
     bool pendiente;       // announced in this form and not available yet
 };
 
-void Quejarse(const std::string &utf8) { std::fprintf(stderr, "tabira-lote: %s\n", utf8.c_str()); }
+void Quejarse(const std::string &utf8) {
+    std::fprintf(stderr, "tabira-lote: %s\n", utf8.c_str());
+}
 
 // What a menu command refuses while no data type was chosen; the text is the command's.
 bool HayTipoDeDatos(const char *mensaje) {
@@ -51,7 +53,9 @@ bool HayTipoDeDatos(const char *mensaje) {
     return false;
 }
 
-bool HayTipoDeDatos() { return HayTipoDeDatos("Tipo de datos no válidos"_w); }
+bool HayTipoDeDatos() {
+    return HayTipoDeDatos("Tipo de datos no válidos"_w);
+}
 
 // ---------------------------------------------------------------------------------------------------------------
 // Readers of values
@@ -62,13 +66,16 @@ constexpr std::string_view NombresListado[] = {"series", "matrices"}; // in the 
 constexpr std::string_view ListadosPendientes[] = {"covarianza", "valores", "varianza"};
 constexpr std::string_view NombresRespuesta[] = {"si", "no", "cancelar"};
 
-template <std::size_t N> bool Elegir(const std::string_view (&nombres)[N], std::string_view palabra, int &cual) {
+template <std::size_t N>
+bool Elegir(const std::string_view (&nombres)[N], std::string_view palabra, int &cual) {
     const auto *p = std::find(std::begin(nombres), std::end(nombres), palabra);
     cual = static_cast<int>(p - std::begin(nombres));
     return p != std::end(nombres);
 }
 
-bool LeerTexto(const std::string &, Accion &) { return true; }
+bool LeerTexto(const std::string &, Accion &) {
+    return true;
+}
 
 bool LeerTipoDeDatos(const std::string &valor, Accion &accion) {
     return LeerTipo(Texto1252DeUtf8(valor), accion.tipo);
@@ -78,14 +85,18 @@ bool LeerFormatoDeRegistro(const std::string &valor, Accion &accion) {
     return LeerFormato(Texto1252DeUtf8(valor), accion.formato);
 }
 
-bool LeerRespuesta(const std::string &valor, Accion &accion) { return Elegir(NombresRespuesta, valor, accion.numero); }
+bool LeerRespuesta(const std::string &valor, Accion &accion) {
+    return Elegir(NombresRespuesta, valor, accion.numero);
+}
 
 bool LeerDecimales(const std::string &valor, Accion &accion) {
     accion.numero = valor.size() == 1 ? valor[0] - '0' : -1;
     return accion.numero >= 0 && accion.numero <= 6;
 }
 
-bool LeerRelacion(const std::string &valor, Accion &accion) { return Elegir(NombresLista, valor, accion.numero); }
+bool LeerRelacion(const std::string &valor, Accion &accion) {
+    return Elegir(NombresLista, valor, accion.numero);
+}
 
 bool LeerElemento(const std::string &valor, Accion &accion) {
     const std::size_t dosPuntos = valor.find(':');
@@ -132,7 +143,9 @@ bool HacerRespuesta(const Accion &accion) {
     return true;
 }
 
-bool HacerTipo(const Accion &accion) { return AceptarTipoDatos(nullptr, accion.tipo) == 1; }
+bool HacerTipo(const Accion &accion) {
+    return AceptarTipoDatos(nullptr, accion.tipo) == 1;
+}
 
 bool HacerFormato(const Accion &accion) {
     Corrida.formato = accion.formato;
@@ -159,13 +172,15 @@ bool HacerProcesar(const Accion &accion) {
     if (!HayTipoDeDatos()) return false;
     ActualizarMuestra();
     std::string texto = Texto1252DeArchivo(bytes);
-    ProcesarLote(nullptr, reinterpret_cast<ControlTexto *>(&texto), 0, {}, Muestra.InicioMuestra, Muestra.FinMuestra);
+    ProcesarLote(nullptr, reinterpret_cast<ControlTexto *>(&texto), 0, {}, Muestra.InicioMuestra,
+                 Muestra.FinMuestra);
     return Lote.detenido == 0;
 }
 
 bool HacerSentencia(const Accion &accion) {
     ActualizarMuestra();
-    ProcesarLote(nullptr, nullptr, 246, Texto1252DeUtf8(accion.valor), Muestra.InicioMuestra, Muestra.FinMuestra);
+    ProcesarLote(nullptr, nullptr, 246, Texto1252DeUtf8(accion.valor), Muestra.InicioMuestra,
+                 Muestra.FinMuestra);
     return Lote.detenido == 0;
 }
 
@@ -291,18 +306,23 @@ constexpr FilaDeAccion TablaAcciones[] = {
 void MostrarUso() {
     // With events in JSON standard output belongs to them alone.
     std::FILE *f = Corrida.json ? stderr : stdout;
-    std::fputs("Uso: tabira-lote [ACCIÓN]...\n\nTabira sin ventanas. Las acciones se ejecutan en el orden en que están.\n\n", f);
+    std::fputs("Uso: tabira-lote [ACCIÓN]...\n\nTabira sin ventanas. Las acciones se ejecutan en el orden en "
+               "que están.\n\n",
+               f);
     for (const FilaDeAccion &fila : TablaAcciones) {
         if (fila.rutina == nullptr) continue;
         std::string izquierda(fila.nombre);
         if (fila.valor != nullptr) izquierda += std::string(" ") + fila.valor;
         std::fprintf(f, "  %-38s %s\n", izquierda.c_str(), fila.explicacion);
     }
-    std::fputs("\nEstado de salida: 0, todo se ejecutó; 1, algo falló o fue rechazado; 2, línea de órdenes incorrecta.\n", f);
+    std::fputs("\nEstado de salida: 0, todo se ejecutó; 1, algo falló o fue rechazado; 2, línea de órdenes "
+               "incorrecta.\n",
+               f);
 }
 
 // Reads the whole command line into `acciones`, or says in `queja` what is wrong with it.
-bool LeerLinea(const std::vector<std::string> &argumentos, std::vector<Accion> &acciones, std::string &queja) {
+bool LeerLinea(const std::vector<std::string> &argumentos, std::vector<Accion> &acciones,
+               std::string &queja) {
     for (std::size_t i = 0; i < argumentos.size(); ++i) {
         const std::string &nombre = argumentos[i];
         const auto *fila = std::find_if(std::begin(TablaAcciones), std::end(TablaAcciones),

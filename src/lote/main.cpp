@@ -1,5 +1,4 @@
 // tabira-lote: Tabira without windows.
-#include "estimation/regresion.h"
 #include "language/lote_sentencias.h"
 #include "lote/acciones.h"
 #include "lote/sucesos.h"
@@ -11,7 +10,6 @@ int main(int numArgumentos, char **argumentos) {
     InstalarPlataforma(PlataformaLote);
     IniciarArchivoTrabajo();
     IniciarLote();
-    IniciarRegresion();
     const int primero = numArgumentos > 0 ? 1 : 0; // a program may be started without even its own name
     const int estado = EjecutarLinea({argumentos + primero, argumentos + numArgumentos});
     LiberarMatrices();

@@ -17,8 +17,9 @@ namespace {
 constexpr const char *NombresIcono[] = {"informacion", "pregunta", "exclamacion", "alto"};
 constexpr const char *NombresBotones[] = {"aceptar", "aceptar-cancelar", "si-no", "si-no-cancelar"};
 constexpr const char *NombresRespuesta[] = {"aceptar", "cancelar", "si", "no"};
-constexpr const char *NombresVentana[] = {"resultado",   "hipotesis",  "autocorrelacion",  "normalidad", "prediccion",
-                                          "descriptivos", "histograma", "ultima-regresion", "muestra",    "relacion"};
+constexpr const char *NombresVentana[] = {"resultado",  "hipotesis",    "autocorrelacion", "normalidad",
+                                          "prediccion", "descriptivos", "histograma",      "ultima-regresion",
+                                          "muestra",    "relacion"};
 
 std::string AbrirSuceso(const char *suceso) {
     std::string json = "{";
@@ -80,7 +81,8 @@ void EscribirBloque(const SalidaResultado &salida) {
 Respuesta RespuestaPara(Botones botones) {
     switch (botones) {
     case BotonesAceptar: return RespuestaAceptar;
-    case BotonesAceptarCancelar: return Corrida.respuesta == ResponderSi ? RespuestaAceptar : RespuestaCancelar;
+    case BotonesAceptarCancelar:
+        return Corrida.respuesta == ResponderSi ? RespuestaAceptar : RespuestaCancelar;
     case BotonesSiNo: return Corrida.respuesta == ResponderSi ? RespuestaSi : RespuestaNo;
     case BotonesSiNoCancelar: break;
     }
@@ -95,7 +97,9 @@ Respuesta Caja(Ventana *, std::string_view texto, std::string_view titulo, Icono
 }
 
 // The text of --procesar stands in the one text control of the run, wholly selected.
-std::string TextoDelControl(ControlTexto *control) { return *reinterpret_cast<const std::string *>(control); }
+std::string TextoDelControl(ControlTexto *control) {
+    return *reinterpret_cast<const std::string *>(control);
+}
 
 void SeleccionDelControl(ControlTexto *control, int &desde, int &hasta) {
     desde = 0;
@@ -107,11 +111,14 @@ void MostrarResultado(Ventana *, const SalidaResultado &salida) {
     if (Corrida.imprimirSalidas) ImprimirVentana(salida);
 }
 
-std::int32_t Segundos() { return static_cast<std::int32_t>(std::time(nullptr)); }
+std::int32_t Segundos() {
+    return static_cast<std::int32_t>(std::time(nullptr));
+}
 
 } // namespace
 
-void SucesoCaja(std::string_view texto, std::string_view titulo, Icono icono, Botones botones, Respuesta respuesta) {
+void SucesoCaja(std::string_view texto, std::string_view titulo, Icono icono, Botones botones,
+                Respuesta respuesta) {
     if (!Corrida.json) {
         const std::string contestado = std::string(" -> ") + NombresRespuesta[respuesta];
         EscribirLinea(Utf8De1252("[" + std::string(titulo) + "] " + std::string(texto)) +
@@ -132,7 +139,8 @@ void SucesoSalida(const SalidaResultado &salida) {
         EscribirLinea("");
         EscribirLinea(Utf8De1252(salida.titulo));
         if (salida.fijas != nullptr)
-            for (const LineaSalida &l : *salida.fijas) EscribirLinea(Utf8De1252(Recortado(l.texto, RecorteDerecha)));
+            for (const LineaSalida &l : *salida.fijas)
+                EscribirLinea(Utf8De1252(Recortado(l.texto, RecorteDerecha)));
         EscribirBloque(salida);
         return;
     }

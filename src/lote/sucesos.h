@@ -10,7 +10,8 @@
 #include <vector>
 
 // A box that was shown, with the answer that it got.
-void SucesoCaja(std::string_view texto, std::string_view titulo, Icono icono, Botones botones, Respuesta respuesta);
+void SucesoCaja(std::string_view texto, std::string_view titulo, Icono icono, Botones botones,
+                Respuesta respuesta);
 
 // A result window.
 void SucesoSalida(const SalidaResultado &salida);

@@ -29,15 +29,19 @@ bool LeerArchivo(const std::string &ruta, std::string &contenido) {
     return f != nullptr && LeerTodo(f.get(), contenido);
 }
 
-bool LeerEntradaEstandar(std::string &contenido) { return LeerTodo(stdin, contenido); }
+bool LeerEntradaEstandar(std::string &contenido) {
+    return LeerTodo(stdin, contenido);
+}
 
 bool EscribirArchivo(const std::string &ruta, std::string_view contenido) {
     std::error_code error;
     // What stands under the name keeps its name: a link is followed, and a device or a pipe is written in place.
     std::filesystem::path destino = std::filesystem::weakly_canonical(ruta, error);
     if (error) destino = ruta;
-    const bool especial = std::filesystem::exists(destino, error) && !std::filesystem::is_regular_file(destino, error);
-    const std::string nuevo = especial ? destino.string() : destino.string() + ".nuevo" + std::to_string(getpid());
+    const bool especial =
+        std::filesystem::exists(destino, error) && !std::filesystem::is_regular_file(destino, error);
+    const std::string nuevo =
+        especial ? destino.string() : destino.string() + ".nuevo" + std::to_string(getpid());
     std::FILE *f = std::fopen(nuevo.c_str(), "wb");
     if (f == nullptr) return false;
     bool bien = std::fwrite(contenido.data(), 1, contenido.size(), f) == contenido.size();

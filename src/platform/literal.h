@@ -16,7 +16,8 @@ inline constexpr std::uint16_t PuntosDeCodigo1252[32] = {
 constexpr int Byte1252(std::uint32_t punto) {
     if (punto < 0x80 || (punto >= 0xA0 && punto <= 0xFF)) return static_cast<int>(punto);
     for (int i = 0; i < 32; ++i) {
-        std::uint32_t propio = PuntosDeCodigo1252[i] != 0 ? PuntosDeCodigo1252[i] : 0x80u + static_cast<std::uint32_t>(i);
+        std::uint32_t propio =
+            PuntosDeCodigo1252[i] != 0 ? PuntosDeCodigo1252[i] : 0x80u + static_cast<std::uint32_t>(i);
         if (propio == punto) return 0x80 + i;
     }
     return -1;
@@ -32,7 +33,9 @@ template <std::size_t N> struct Literal1252 {
     consteval Literal1252(const char (&utf8)[N]) {
         std::size_t n = 0;
         for (std::size_t i = 0; i + 1 < N;) {
-            const auto byte = [&](std::size_t k) -> std::uint32_t { return static_cast<unsigned char>(utf8[k]); };
+            const auto byte = [&](std::size_t k) -> std::uint32_t {
+                return static_cast<unsigned char>(utf8[k]);
+            };
             std::uint32_t punto = byte(i);
             if (punto < 0x80) {
                 i += 1;
@@ -51,4 +54,6 @@ template <std::size_t N> struct Literal1252 {
 };
 
 // The pointer is valid for the whole run: it points into an object with static storage.
-template <Literal1252 L> consteval const char *operator""_w() { return L.bytes; }
+template <Literal1252 L> consteval const char *operator""_w() {
+    return L.bytes;
+}

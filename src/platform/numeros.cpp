@@ -9,9 +9,13 @@
 
 namespace {
 
-bool EsCifra(char c) { return c >= '0' && c <= '9'; }
+bool EsCifra(char c) {
+    return c >= '0' && c <= '9';
+}
 
-bool EsEspacio(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+bool EsEspacio(char c) {
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
 
 std::size_t TrasEspacios(std::string_view t) {
     std::size_t i = 0;
@@ -43,7 +47,8 @@ double LeerDecimal(std::string_view texto) {
     if (r.ec == std::errc::result_out_of_range) {
         // from_chars leaves the value alone here; whether it is too large or too small, its order tells.
         const std::size_t leidos = static_cast<std::size_t>(r.ptr - texto.data()) - inicio;
-        valor = OrdenDecimal(texto.substr(inicio, leidos)) < 0 ? 0.0 : std::numeric_limits<double>::infinity();
+        valor =
+            OrdenDecimal(texto.substr(inicio, leidos)) < 0 ? 0.0 : std::numeric_limits<double>::infinity();
     }
     return negativo ? -valor : valor;
 }

@@ -7,11 +7,16 @@ namespace {
 const OperacionesPlataforma *Instalada = nullptr;
 }
 
-void InstalarPlataforma(const OperacionesPlataforma &operaciones) { Instalada = &operaciones; }
+void InstalarPlataforma(const OperacionesPlataforma &operaciones) {
+    Instalada = &operaciones;
+}
 
-const OperacionesPlataforma &Plataforma() { return *Instalada; }
+const OperacionesPlataforma &Plataforma() {
+    return *Instalada;
+}
 
-Respuesta MostrarCaja(Ventana *ventana, std::string_view texto, std::string_view titulo, Icono icono, Botones botones) {
+Respuesta MostrarCaja(Ventana *ventana, std::string_view texto, std::string_view titulo, Icono icono,
+                      Botones botones) {
     return Instalada->caja(ventana, texto, titulo, icono, botones);
 }
 
@@ -38,9 +43,13 @@ void MensajeSinMemoria(int a, int b, Ventana *ventana) {
     MostrarMensaje(ventana, Formatear("No hay suficiente memoria. Ptos: %d %d", a, b));
 }
 
-void PonerCursor(Cursor cursor) { Instalada->cursor(cursor); }
+void PonerCursor(Cursor cursor) {
+    Instalada->cursor(cursor);
+}
 
-std::string TextoDeControl(ControlTexto *control) { return Instalada->textoDeControl(control); }
+std::string TextoDeControl(ControlTexto *control) {
+    return Instalada->textoDeControl(control);
+}
 
 void SeleccionDeControl(ControlTexto *control, int &desde, int &hasta) {
     Instalada->seleccionDeControl(control, desde, hasta);
@@ -54,8 +63,14 @@ void MostrarVentanaResultado(Ventana *ventana, const SalidaResultado &salida) {
     Instalada->mostrarResultado(ventana, salida);
 }
 
-void MostrarVentanaGrafico(Ventana *ventana, const Grafico &grafico) { Instalada->mostrarGrafico(ventana, grafico); }
+void MostrarVentanaGrafico(Ventana *ventana, const Grafico &grafico) {
+    Instalada->mostrarGrafico(ventana, grafico);
+}
 
-void RefrescarEditor() { Instalada->refrescarEditor(); }
+void RefrescarEditor() {
+    Instalada->refrescarEditor();
+}
 
-std::int32_t SegundosDeCalendario() { return Instalada->segundos(); }
+std::int32_t SegundosDeCalendario() {
+    return Instalada->segundos();
+}

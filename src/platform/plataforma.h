@@ -25,7 +25,8 @@ enum Cursor { CursorFlecha, CursorEspera };
 struct DispositivoImpresion;
 
 struct OperacionesPlataforma {
-    Respuesta (*caja)(Ventana *ventana, std::string_view texto, std::string_view titulo, Icono icono, Botones botones);
+    Respuesta (*caja)(Ventana *ventana, std::string_view texto, std::string_view titulo, Icono icono,
+                      Botones botones);
     void (*cursor)(Cursor cursor);
     // The whole text of a control and its selection, [desde, hasta) in characters.
     std::string (*textoDeControl)(ControlTexto *control);
@@ -60,7 +61,8 @@ inline constexpr const char *TituloCancelado = "Proceso cancelado";
 inline constexpr const char *TituloAviso = "Aviso";
 
 // A modal box; returns the button that closed it.
-Respuesta MostrarCaja(Ventana *ventana, std::string_view texto, std::string_view titulo, Icono icono, Botones botones);
+Respuesta MostrarCaja(Ventana *ventana, std::string_view texto, std::string_view titulo, Icono icono,
+                      Botones botones);
 
 // A box with the information icon and one button.
 void MostrarMensaje(Ventana *ventana, std::string_view texto, std::string_view titulo = TituloCancelado);

@@ -3,15 +3,25 @@
 
 namespace {
 
-std::vector<OrdenDibujo> &Ordenes(void *propio) { return *static_cast<std::vector<OrdenDibujo> *>(propio); }
+std::vector<OrdenDibujo> &Ordenes(void *propio) {
+    return *static_cast<std::vector<OrdenDibujo> *>(propio);
+}
 
 void GrabarLinea(void *propio, int x1, int y1, int x2, int y2, const Pluma &pluma) {
     Ordenes(propio).push_back({OrdenLinea, x1, y1, x2, y2, pluma, false, {}, {}});
 }
 
-void GrabarRectangulo(void *propio, int x1, int y1, int x2, int y2, const Pluma &pluma, const Color *relleno) {
-    Ordenes(propio).push_back(
-        {OrdenRectangulo, x1, y1, x2, y2, pluma, relleno != nullptr, relleno != nullptr ? *relleno : Color{}, {}});
+void GrabarRectangulo(void *propio, int x1, int y1, int x2, int y2, const Pluma &pluma,
+                      const Color *relleno) {
+    Ordenes(propio).push_back({OrdenRectangulo,
+                               x1,
+                               y1,
+                               x2,
+                               y2,
+                               pluma,
+                               relleno != nullptr,
+                               relleno != nullptr ? *relleno : Color{},
+                               {}});
 }
 
 void GrabarTexto(void *propio, int x, int y, std::string_view texto) {
@@ -20,7 +30,8 @@ void GrabarTexto(void *propio, int x, int y, std::string_view texto) {
 
 } // namespace
 
-Superficie SuperficieGrabadora(std::vector<OrdenDibujo> &ordenes, int ancho, int alto, int anchoCaracter, int altoLinea) {
+Superficie SuperficieGrabadora(std::vector<OrdenDibujo> &ordenes, int ancho, int alto, int anchoCaracter,
+                               int altoLinea) {
     return {&ordenes, ancho, alto, anchoCaracter, altoLinea, GrabarLinea, GrabarRectangulo, GrabarTexto};
 }
 

@@ -20,13 +20,14 @@ struct Pluma {
 };
 
 struct Superficie {
-    void *propio;        // what the adapter needs
-    int ancho, alto;     // client area or page, in device units
-    int anchoCaracter;   // of the fixed-pitch font
-    int altoLinea;       // height of a character plus external leading
+    void *propio;      // what the adapter needs
+    int ancho, alto;   // client area or page, in device units
+    int anchoCaracter; // of the fixed-pitch font
+    int altoLinea;     // height of a character plus external leading
     void (*linea)(void *propio, int x1, int y1, int x2, int y2, const Pluma &pluma);
     // `relleno` null leaves the inside as it is.
-    void (*rectangulo)(void *propio, int x1, int y1, int x2, int y2, const Pluma &pluma, const Color *relleno);
+    void (*rectangulo)(void *propio, int x1, int y1, int x2, int y2, const Pluma &pluma,
+                       const Color *relleno);
     // (x, y) is the left upper corner of the first character's cell.
     void (*texto)(void *propio, int x, int y, std::string_view texto);
 };
@@ -34,10 +35,13 @@ struct Superficie {
 inline void Linea(Superficie &s, int x1, int y1, int x2, int y2, const Pluma &pluma) {
     s.linea(s.propio, x1, y1, x2, y2, pluma);
 }
-inline void Rectangulo(Superficie &s, int x1, int y1, int x2, int y2, const Pluma &pluma, const Color *relleno) {
+inline void Rectangulo(Superficie &s, int x1, int y1, int x2, int y2, const Pluma &pluma,
+                       const Color *relleno) {
     s.rectangulo(s.propio, x1, y1, x2, y2, pluma, relleno);
 }
-inline void Texto(Superficie &s, int x, int y, std::string_view texto) { s.texto(s.propio, x, y, texto); }
+inline void Texto(Superficie &s, int x, int y, std::string_view texto) {
+    s.texto(s.propio, x, y, texto);
+}
 
 enum ClaseOrden { OrdenLinea, OrdenRectangulo, OrdenTexto };
 
@@ -55,4 +59,5 @@ struct OrdenDibujo {
 void Reproducir(const std::vector<OrdenDibujo> &ordenes, Superficie &s);
 
 // A surface of the given size and cell that appends what is drawn to `ordenes`, which must outlive it.
-Superficie SuperficieGrabadora(std::vector<OrdenDibujo> &ordenes, int ancho, int alto, int anchoCaracter, int altoLinea);
+Superficie SuperficieGrabadora(std::vector<OrdenDibujo> &ordenes, int ancho, int alto, int anchoCaracter,
+                               int altoLinea);

@@ -41,9 +41,7 @@ bool BorrarElemento(Ventana *ventana, ListasDeElementos lista, std::string_view 
         hueco = BuscarSerie(codigo);
         if (hueco >= 0) EliminarSerie(hueco);
         return hueco >= 0;
-    case ListaMatrices:
-        hueco = BuscarMatriz(codigo);
-        return hueco >= 0 && BorrarMatriz(ventana, hueco) == 1;
+    case ListaMatrices: hueco = BuscarMatriz(codigo); return hueco >= 0 && BorrarMatriz(ventana, hueco) == 1;
     case ListaEscalares:
         hueco = BuscarEscalar(codigo);
         if (hueco >= 0) BorrarEscalar(hueco);

@@ -15,7 +15,13 @@ using Codigo = char[AnchoCodigo];
 // ---------------------------------------------------------------------------------------------------------------
 // Header and series
 
-enum TiposDeDatos { TipoSinPeriodicidad = 0, TipoAnual = 1, TipoTrimestral = 2, TipoMensual = 3, TipoPanel = 4 };
+enum TiposDeDatos {
+    TipoSinPeriodicidad = 0,
+    TipoAnual = 1,
+    TipoTrimestral = 2,
+    TipoMensual = 3,
+    TipoPanel = 4
+};
 
 // A series is one column of ValoresObs and PresenciaObs: observation i (0 to 3,999) of the series in slot s (0 to 99)
 // stands at [i][s]. Presence is 1, or 0 for a missing value, whose value is 0.0.
@@ -25,7 +31,7 @@ struct CabeceraArchivo {
     std::int16_t TipoDatos;             // TiposDeDatos, or SinTipoDatos
     char TextoIntervalo[AnchoIntervalo];
     char TextosPeriodo[MaxObservaciones][AnchoPeriodo]; // written by PonerTextoPeriodo only
-    Codigo Codigos[MaxSeries];                          // 12 blanks, or empty until the first reset: no series
+    Codigo Codigos[MaxSeries]; // 12 blanks, or empty until the first reset: no series
     double ValoresObs[MaxObservaciones][MaxSeries];
     std::int32_t PresenciaObs[MaxObservaciones][MaxSeries];
     char EtiquetasObs[MaxObservaciones][AnchoEtiqueta]; // used while ConEtiquetas is set
@@ -128,8 +134,8 @@ enum EstadosDeBloque : std::uint8_t { SinBloque = 0, BloqueSuelto = 1, BloqueFij
 
 struct TablaDeMatrices {
     RegistroMatriz registro[MaxMatrices];
-    double *bloque[MaxMatrices];           // handle of the block, null without one
-    std::int32_t capacidad[MaxMatrices];   // doubles of the block
+    double *bloque[MaxMatrices];         // handle of the block, null without one
+    std::int32_t capacidad[MaxMatrices]; // doubles of the block
     EstadosDeBloque EstadoBloque[MaxMatrices];
     std::int16_t numero;
 };

@@ -18,9 +18,13 @@ int BuscarEntre(std::string_view codigo, int cuantos) {
 
 } // namespace
 
-int BuscarEscalar(std::string_view codigo) { return BuscarEntre(codigo, TablaEscalares.numero); }
+int BuscarEscalar(std::string_view codigo) {
+    return BuscarEntre(codigo, TablaEscalares.numero);
+}
 
-int BuscarEscalarEnTabla(std::string_view codigo) { return BuscarEntre(codigo, MaxEscalares); }
+int BuscarEscalarEnTabla(std::string_view codigo) {
+    return BuscarEntre(codigo, MaxEscalares);
+}
 
 int PonerEscalar(Ventana *ventana, std::string_view codigo, double valor) {
     if (BuscarSerie(codigo) >= 0) return 1;

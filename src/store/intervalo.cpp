@@ -143,8 +143,10 @@ int ComprobarPeriodos(Ventana *ventana, int periodicidad, std::string_view inici
         return MensajeCancelado(ventana, "Año máximo excesivamente grande"_w);
     const int subA = LeerEntero(campoA.sub);
     const int subB = LeerEntero(campoB.sub);
-    if (forma.conSub && (subA < 0 || subA > porAno)) return MensajeCancelado(ventana, forma.subMinimoNoValido);
-    if (forma.conSub && (subB < 0 || subB > porAno)) return MensajeCancelado(ventana, forma.subMaximoNoValido);
+    if (forma.conSub && (subA < 0 || subA > porAno))
+        return MensajeCancelado(ventana, forma.subMinimoNoValido);
+    if (forma.conSub && (subB < 0 || subB > porAno))
+        return MensajeCancelado(ventana, forma.subMaximoNoValido);
     intervalo = {a, subA < 1 ? 1 : subA, b, subB < 1 ? porAno : subB};
     return 1;
 }

@@ -1,6 +1,5 @@
 // The table of matrices and their blocks.
 #include "platform/strstr.h"
-#include "platform/texto.h"
 #include "store/archivo.h"
 
 #include <algorithm>
@@ -34,36 +33,39 @@ int Elementos(int matriz) {
     return TablaMatrices.registro[matriz].Filas * TablaMatrices.registro[matriz].Columnas;
 }
 
-// Moves matrix j to slot j - 1, whose block is gone, through BufferMatriz.
-int BajarMatriz(Ventana *ventana, int j) {
+// The matrix as BufferMatriz carries it: elements, flags of presence, code and size.
+void CopiarABuffer(int matriz) {
+    const RegistroMatriz &r = TablaMatrices.registro[matriz];
+    const int n = Elementos(matriz);
+    LimpiarBufferMatriz();
+    std::copy_n(r.Datos, n, BufferMatriz.datos);
+    std::fill_n(BufferMatriz.presencia, n, 1);
+    std::memcpy(BufferMatriz.Codigo, r.Codigo, AnchoCodigo);
+    BufferMatriz.Filas = r.Filas;
+    BufferMatriz.Columnas = r.Columnas;
+    BufferMatriz.enUso = n;
+}
+
+// Moves matrix j to slot j - 1, whose block is gone. It goes through BufferMatriz into a block of its own exact size; of a
+// row of moves only the last one can be seen there afterwards (`ultima`), so the others hand their block over, which from
+// then on counts as one of that size.
+int BajarMatriz(Ventana *ventana, int j, bool ultima) {
     const auto falla = [&](const std::string &texto) {
         MostrarMensaje(ventana, texto);
         return 0;
     };
-    RegistroMatriz &origen = TablaMatrices.registro[j];
     RegistroMatriz &destino = TablaMatrices.registro[j - 1];
     if (TablaMatrices.EstadoBloque[j] == SinBloque) return falla("No hay suficiente Memoria. P21");
     if (TablaMatrices.bloque[j] == nullptr) return falla("No hay suficiente Memoria. P26");
-    LimpiarBufferMatriz();
     if (!FijarMatriz(j)) return falla("No hay suficiente Memoria. P24");
-    const int n = Elementos(j);
-    std::copy_n(origen.Datos, n, BufferMatriz.datos);
-    std::fill_n(BufferMatriz.presencia, n, 1);
-    std::memcpy(BufferMatriz.Codigo, origen.Codigo, AnchoCodigo);
-    BufferMatriz.Filas = origen.Filas;
-    BufferMatriz.Columnas = origen.Columnas;
-    BufferMatriz.enUso = n;
+    if (ultima) CopiarABuffer(j);
+    destino = TablaMatrices.registro[j];
+    destino.Datos = nullptr;
+    TablaMatrices.bloque[j - 1] = TablaMatrices.bloque[j];
+    TablaMatrices.capacidad[j - 1] = std::max(Elementos(j), 1);
+    TablaMatrices.EstadoBloque[j - 1] = BloqueSuelto;
+    TablaMatrices.bloque[j] = nullptr;
     LiberarBloque(j);
-    if (TablaMatrices.EstadoBloque[j - 1] == SinBloque && !ReservarBloque(j - 1, n))
-        return falla("No hay suficiente memoria. P1");
-    if (!FijarMatriz(j - 1)) return falla("No hay suficiente memoria. P2");
-    if (j - 1 >= TablaMatrices.numero) return falla(Formatear("Error en Memoria. P3. %d", j - 1));
-    if (destino.Datos == nullptr) return falla("No hay suficiente Memoria. P3");
-    std::copy_n(BufferMatriz.datos, n, destino.Datos);
-    std::memcpy(destino.Codigo, BufferMatriz.Codigo, AnchoCodigo);
-    destino.Filas = BufferMatriz.Filas;
-    destino.Columnas = BufferMatriz.Columnas;
-    SoltarMatriz(j - 1);
     return 1;
 }
 
@@ -120,7 +122,7 @@ ResultadoGuardarMatriz GuardarMatriz(std::string_view codigo, const double *dato
 int BorrarMatriz(Ventana *ventana, int matriz) {
     LiberarBloque(matriz);
     for (int j = matriz + 1; j < TablaMatrices.numero; ++j)
-        if (BajarMatriz(ventana, j) == 0) return 0;
+        if (BajarMatriz(ventana, j, j + 1 == TablaMatrices.numero) == 0) return 0;
     --TablaMatrices.numero;
     return 1;
 }

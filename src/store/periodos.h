@@ -27,7 +27,7 @@ struct DescripcionDePanel {
     std::int32_t FormaPanel;     // FormasPanel
     std::int32_t PrimerConcepto; // ConceptosPanel
     char EtiquetasIndividuo[MaxIndividuosEtiqueta][AnchoEtiqueta];
-    std::int32_t NumEntradas;    // constant: individuals; variable: entries of the list
+    std::int32_t NumEntradas;      // constant: individuals; variable: entries of the list
     std::int32_t TipoPeriodoPanel; // constant: 1 annual, 2 quarterly, 3 monthly
     EntradaPeriodoPanel periodos[MaxObservaciones];
     EntradaIndividuoPanel individuos[MaxIndividuosEtiqueta];

@@ -9,7 +9,9 @@ std::int32_t SeriesPermitidas;
 
 namespace {
 
-bool EnBlanco(const Codigo &codigo) { return CadenaDeCaracter(codigo, ' ') == 1; }
+bool EnBlanco(const Codigo &codigo) {
+    return CadenaDeCaracter(codigo, ' ') == 1;
+}
 
 int BuscarEntre(std::string_view codigo, int cuantas) {
     Codigo buscado;
@@ -22,11 +24,17 @@ int BuscarEntre(std::string_view codigo, int cuantas) {
 
 } // namespace
 
-int BuscarSerie(std::string_view codigo) { return BuscarEntre(codigo, ArchivoTrabajo.NumSeries); }
+int BuscarSerie(std::string_view codigo) {
+    return BuscarEntre(codigo, ArchivoTrabajo.NumSeries);
+}
 
-int BuscarSerieEnTabla(std::string_view codigo) { return BuscarEntre(codigo, MaxSeries); }
+int BuscarSerieEnTabla(std::string_view codigo) {
+    return BuscarEntre(codigo, MaxSeries);
+}
 
-bool CabeOtraSerie() { return ArchivoTrabajo.NumSeries <= TopeSeries; }
+bool CabeOtraSerie() {
+    return ArchivoTrabajo.NumSeries <= TopeSeries;
+}
 
 int TomarSerie(std::string_view codigo) {
     const int propia = BuscarSerieEnTabla(codigo);
@@ -46,7 +54,9 @@ void PonerCodigoSerie(int serie, std::string_view codigo) {
     PonerCampo(ArchivoTrabajo.Codigos[serie], codigo, AnchoCodigo);
 }
 
-void BorrarSerie(int serie) { PonerCodigoSerie(serie, ""); }
+void BorrarSerie(int serie) {
+    PonerCodigoSerie(serie, "");
+}
 
 void CompactarSeries() {
     int destino = 0;

@@ -1,7 +1,6 @@
 // The platform of the tests.
 #include "apoyo/plataforma_prueba.h"
 
-#include "estimation/regresion.h"
 #include "language/lote_sentencias.h"
 #include "platform/strstr.h"
 #include "platform/texto.h"
@@ -30,7 +29,8 @@ Respuesta Caja(Ventana *, std::string_view texto, std::string_view titulo, Icono
 std::vector<std::pair<int, std::string>> Lineas(const TextoSalida *texto) {
     std::vector<std::pair<int, std::string>> r;
     if (texto != nullptr)
-        for (const LineaSalida &l : *texto) r.emplace_back(l.Grupo, Utf8De1252(Recortado(l.texto, RecorteDerecha)));
+        for (const LineaSalida &l : *texto)
+            r.emplace_back(l.Grupo, Utf8De1252(Recortado(l.texto, RecorteDerecha)));
     return r;
 }
 
@@ -119,7 +119,6 @@ void EmpezarPrueba() {
     InstalarPlataforma(Operaciones);
     IniciarArchivoTrabajo();
     IniciarLote();
-    IniciarRegresion();
 }
 
 void EmpezarConDatos(int tipo, std::string_view intervalo) {
@@ -146,7 +145,8 @@ std::vector<double> ValoresDe(std::string_view codigo, int n) {
     std::vector<double> r(static_cast<std::size_t>(n), Nada);
     const int s = BuscarSerie(codigo);
     for (int i = 0; s >= 0 && i < n; ++i)
-        if (ArchivoTrabajo.PresenciaObs[i][s] == 1) r[static_cast<std::size_t>(i)] = ArchivoTrabajo.ValoresObs[i][s];
+        if (ArchivoTrabajo.PresenciaObs[i][s] == 1)
+            r[static_cast<std::size_t>(i)] = ArchivoTrabajo.ValoresObs[i][s];
     return r;
 }
 

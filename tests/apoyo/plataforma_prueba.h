@@ -60,8 +60,8 @@ struct PlataformaDePrueba {
         pasosImpresora; // "abrir", "documento NOMBRE", "pagina", "fin pagina", "fin documento", "cerrar"
     // A step refuses from this occurrence in a job on, counted from 1; 0: never.
     int fallaPaso[NumPasosDeImpresora] = {};
-    std::string textoControl;        // text of the one control, in Windows-1252
-    int desde = 0, hasta = 0;        // its selection
+    std::string textoControl; // text of the one control, in Windows-1252
+    int desde = 0, hasta = 0; // its selection
 };
 
 extern PlataformaDePrueba Prueba;

@@ -23,7 +23,8 @@ ResultadoCorrida Correr(const std::vector<std::string> &argumentos, const Entorn
         abrir("entrada", STDIN_FILENO, O_RDONLY);
         abrir("salida", STDOUT_FILENO, O_WRONLY | O_CREAT);
         abrir("errores", STDERR_FILENO, O_WRONLY | O_CREAT);
-        if (chdir((entorno.carpeta.empty() ? std::string(TABIRA_DATOS) : entorno.carpeta).c_str()) != 0) _exit(126);
+        if (chdir((entorno.carpeta.empty() ? std::string(TABIRA_DATOS) : entorno.carpeta).c_str()) != 0)
+            _exit(126);
         for (const auto &[nombre, valor] : entorno.variables) setenv(nombre.c_str(), valor.c_str(), 1);
         std::vector<char *> lista = {const_cast<char *>(TABIRA_LOTE)};
         for (const std::string &a : argumentos) lista.push_back(const_cast<char *>(a.c_str()));

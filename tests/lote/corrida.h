@@ -14,8 +14,8 @@ struct ResultadoCorrida {
 };
 
 struct EntornoCorrida {
-    std::string carpeta;                                            // working folder; empty: that of the example files
-    std::string entrada;                                            // standard input
+    std::string carpeta; // working folder; empty: that of the example files
+    std::string entrada; // standard input
     std::vector<std::pair<std::string, std::string>> variables = {}; // added to the environment
 };
 

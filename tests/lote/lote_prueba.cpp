@@ -9,7 +9,8 @@ namespace {
 
 using nlohmann::json;
 
-const std::vector<std::string> Klein = {"--tipo", "anual:1920:1941", "--importar", "klein.csv", "--procesar", "klein.txt"};
+const std::vector<std::string> Klein = {"--tipo",    "anual:1920:1941", "--importar",
+                                        "klein.csv", "--procesar",      "klein.txt"};
 
 std::vector<std::string> Mas(std::vector<std::string> a, const std::vector<std::string> &b) {
     a.insert(a.end(), b.begin(), b.end());
@@ -68,7 +69,8 @@ TEST(Lote, KleinDelArchivoAlInforme) {
     const json beta = BuscarCodigo(volcado["matrices"], "_BETA");
     ASSERT_EQ(beta["filas"], 4);
     ASSERT_EQ(beta["columnas"], 1);
-    for (std::size_t i = 0; i < 4; ++i) EXPECT_NEAR(beta["datos"][i].get<double>(), CoeficientesDeKlein[i], 0.0005);
+    for (std::size_t i = 0; i < 4; ++i)
+        EXPECT_NEAR(beta["datos"][i].get<double>(), CoeficientesDeKlein[i], 0.0005);
 
     EXPECT_EQ(sucesos[3], json({{"suceso", "fin"}, {"estado", 0}}));
 }
@@ -78,7 +80,8 @@ TEST(Lote, InformeParaPersonas) {
     EXPECT_EQ(r.estado, 0);
     const std::string regla = "+" + std::string(72, '-') + "+\n";
     EXPECT_NE(r.salida.find("[Aviso] ¿Desea ver la regresion? -> si\n"), std::string::npos) << r.salida;
-    EXPECT_NE(r.salida.find("\nMínimos cuadrados ordinarios\n" + regla + "| Variable Dep.: CONSUMO"), std::string::npos);
+    EXPECT_NE(r.salida.find("\nMínimos cuadrados ordinarios\n" + regla + "| Variable Dep.: CONSUMO"),
+              std::string::npos);
     // Every line of the block is as wide as its rules, accents or not.
     EXPECT_NE(r.salida.find("| Muestra      : 1921 - 1941"), std::string::npos);
     EXPECT_NE(r.salida.find("Nº Observaciones     : 21         "), std::string::npos) << r.salida;
@@ -132,10 +135,10 @@ TEST(Lote, SinAccionesYConAyudaMuestraElUso) {
     for (const auto &argumentos : {std::vector<std::string>{}, std::vector<std::string>{"--ayuda"}}) {
         const auto r = Correr(argumentos);
         EXPECT_EQ(r.estado, 0);
-        for (const char *accion : {"--json", "--tipo", "--formato", "--importar", "--exportar", "--procesar", "--sentencia",
-                                   "--seguir", "--respuesta", "--decimales", "--borrar", "--relacion", "--muestra-actual",
-                                   "--ultima-regresion", "--imprimir", "--imprimir-salidas", "--listado",
-                                   "--volcado"})
+        for (const char *accion :
+             {"--json", "--tipo", "--formato", "--importar", "--exportar", "--procesar", "--sentencia",
+              "--seguir", "--respuesta", "--decimales", "--borrar", "--relacion", "--muestra-actual",
+              "--ultima-regresion", "--imprimir", "--imprimir-salidas", "--listado", "--volcado"})
             EXPECT_NE(r.salida.find(accion), std::string::npos) << accion;
         EXPECT_EQ(r.salida.find("--grafico"), std::string::npos) << "only what there is";
     }
@@ -162,7 +165,9 @@ TEST(Lote, EstadoDeSalida) {
         {{"--tipo", "sin", "--importar", "no_existe.csv"}, 1, {"Error al abrir el archivo"}},
         {{"--tipo", "sin", "--importar", "no-existe.csv"}, 1, {"Nombre archivo incorrecto"}},
         // Actions behind a failed one are not carried out, unless --seguir stands before it.
-        {{"--tipo", "sin", "--sentencia", "SER X = (1", "--sentencia", "SER X = )1"}, 1, {"Número inadecuado de paréntesis"}},
+        {{"--tipo", "sin", "--sentencia", "SER X = (1", "--sentencia", "SER X = )1"},
+         1,
+         {"Número inadecuado de paréntesis"}},
         {{"--seguir", "--tipo", "sin", "--sentencia", "SER X = (1", "--sentencia", "SER X = [1"},
          1,
          {"Número inadecuado de paréntesis", "Número inadecuado de corchetes"}},
@@ -203,9 +208,12 @@ TEST(Lote, RespuestaNoOcultaElInforme) {
 
 TEST(Lote, EntradaEstandarYCodificaciones) {
     const std::string sentencias = "CAL 2 + 3 * 4\n; comentario con eñe: ñ\nESC A = 7\nPEÑA X\n";
-    const std::string en1252 = "CAL 2 + 3 * 4\n; comentario con e\xF1" "e: \xF1\nESC A = 7\nPE\xD1" "A X\n";
+    const std::string en1252 = "CAL 2 + 3 * 4\n; comentario con e\xF1"
+                               "e: \xF1\nESC A = 7\nPE\xD1"
+                               "A X\n";
     for (const std::string &texto : {sentencias, en1252, "\xEF\xBB\xBF" + sentencias}) {
-        const auto r = Correr({"--json", "--tipo", "sin", "--procesar", "-"}, {.carpeta = {}, .entrada = texto});
+        const auto r =
+            Correr({"--json", "--tipo", "sin", "--procesar", "-"}, {.carpeta = {}, .entrada = texto});
         EXPECT_EQ(r.estado, 1);
         const auto cajas = SucesosDe(r, "caja");
         ASSERT_EQ(cajas.size(), 2u) << r.salida;
@@ -217,10 +225,12 @@ TEST(Lote, EntradaEstandarYCodificaciones) {
 }
 
 TEST(Lote, RelacionesYBorrado) {
-    const auto r = Correr({"--json", "--tipo", "anual:1990:1992", "--sentencia", "SER X = TEND", "--sentencia", "SER Y = X",
-                           "--sentencia", "ESC A = 2", "--sentencia", "MAT M = {X Y}", "--relacion", "series", "--relacion",
-                           "matrices", "--relacion", "escalares", "--borrar", "serie:X", "--borrar", "matriz:M",
-                           "--borrar", "escalar:A", "--relacion", "series", "--seguir", "--borrar", "escalar:A"});
+    const auto r =
+        Correr({"--json",    "--tipo",      "anual:1990:1992", "--sentencia", "SER X = TEND",  "--sentencia",
+                "SER Y = X", "--sentencia", "ESC A = 2",       "--sentencia", "MAT M = {X Y}", "--relacion",
+                "series",    "--relacion",  "matrices",        "--relacion",  "escalares",     "--borrar",
+                "serie:X",   "--borrar",    "matriz:M",        "--borrar",    "escalar:A",     "--relacion",
+                "series",    "--seguir",    "--borrar",        "escalar:A"});
     EXPECT_EQ(r.estado, 1) << "the scalar was gone";
     const auto salidas = SucesosDe(r, "salida");
     ASSERT_EQ(salidas.size(), 4u) << r.salida;
@@ -237,7 +247,8 @@ TEST(Lote, RelacionesYBorrado) {
 }
 
 TEST(Lote, MuestraActual) {
-    const auto r = Correr({"--json", "--tipo", "trimestral:1995.1:1996.4", "--sentencia", "MUEST 1995.2 1996.1", "--muestra-actual"});
+    const auto r = Correr({"--json", "--tipo", "trimestral:1995.1:1996.4", "--sentencia",
+                           "MUEST 1995.2 1996.1", "--muestra-actual"});
     const auto salidas = SucesosDe(r, "salida");
     ASSERT_EQ(salidas.size(), 1u) << r.salida;
     EXPECT_EQ(salidas[0]["ventana"], "muestra");
@@ -249,9 +260,10 @@ TEST(Lote, MuestraActual) {
 }
 
 TEST(Lote, VolcadoDeValoresQueFaltanYNoFinitos) {
-    const auto r = Correr({"--json", "--tipo", "anual:1990:1992", "--sentencia", "SER X = TEND", "--sentencia", "OBS X[1992] = 5",
-                           "--sentencia", "SER Y = X(-1)", "--sentencia", "ESC N = POT(0-1, 0.5)", "--sentencia",
-                           "ESC I = POT(10, 400)", "--sentencia", "ESC D = 1 / 3", "--volcado"});
+    const auto r =
+        Correr({"--json", "--tipo", "anual:1990:1992", "--sentencia", "SER X = TEND", "--sentencia",
+                "OBS X[1992] = 5", "--sentencia", "SER Y = X(-1)", "--sentencia", "ESC N = POT(0-1, 0.5)",
+                "--sentencia", "ESC I = POT(10, 400)", "--sentencia", "ESC D = 1 / 3", "--volcado"});
     ASSERT_EQ(r.estado, 0) << r.salida;
     const json v = SucesosDe(r, "volcado").at(0);
     EXPECT_EQ(BuscarCodigo(v["series"], "Y")["valores"], json::array({nullptr, 1.0, 2.0}));
@@ -262,7 +274,8 @@ TEST(Lote, VolcadoDeValoresQueFaltanYNoFinitos) {
 
 // The bounds as they stand: the dump alone doesn't refresh the sample.
 TEST(Lote, VolcadoNoMueveLaMuestra) {
-    const auto r = Correr({"--json", "--tipo", "anual:1990:1995", "--volcado", "--relacion", "series", "--volcado"});
+    const auto r =
+        Correr({"--json", "--tipo", "anual:1990:1995", "--volcado", "--relacion", "series", "--volcado"});
     const auto volcados = SucesosDe(r, "volcado");
     ASSERT_EQ(volcados.size(), 2u) << r.salida;
     EXPECT_EQ(volcados[0]["muestra"], json({0, 0}));
@@ -272,10 +285,11 @@ TEST(Lote, VolcadoNoMueveLaMuestra) {
 TEST(Lote, VolcadoConRotulos) {
     const std::string carpeta = CarpetaNueva("rotulos");
     EscribirBytes(carpeta + "/r.csv", "\"\",X\n\"Pe\xF1\xF3n\",1\n\"Dos\",2\n");
-    const auto r = Correr({"--json", "--tipo", "sin,etiquetas", "--formato",
-                           "variable:separador=coma,delimitador=comillas,delimitados=etiquetas,codigos,etiquetas=1",
-                           "--importar", "r.csv", "--volcado"},
-                          {.carpeta = carpeta, .entrada = {}});
+    const auto r =
+        Correr({"--json", "--tipo", "sin,etiquetas", "--formato",
+                "variable:separador=coma,delimitador=comillas,delimitados=etiquetas,codigos,etiquetas=1",
+                "--importar", "r.csv", "--volcado"},
+               {.carpeta = carpeta, .entrada = {}});
     ASSERT_EQ(r.estado, 0) << r.salida << r.errores;
     const json v = SucesosDe(r, "volcado").at(0);
     EXPECT_EQ(v["etiquetas"], true);
@@ -286,8 +300,9 @@ TEST(Lote, VolcadoConRotulos) {
 }
 
 TEST(Lote, VolcadoParaPersonas) {
-    const auto r = Correr({"--tipo", "anual:1990:1992", "--sentencia", "SER X = TEND", "--sentencia", "SER Y = X(-1)",
-                           "--sentencia", "ESC A = 2", "--sentencia", "MAT M = {X X}", "--volcado"});
+    const auto r =
+        Correr({"--tipo", "anual:1990:1992", "--sentencia", "SER X = TEND", "--sentencia", "SER Y = X(-1)",
+                "--sentencia", "ESC A = 2", "--sentencia", "MAT M = {X X}", "--volcado"});
     EXPECT_EQ(r.salida, "Archivo de trabajo PROYEC01, tipo 1, intervalo 1990#1992, 3 observaciones\n"
                         "Muestra: filas 1 a 2; regresión: 0 a 0\n"
                         "Serie X           : 1 2 3\n"
@@ -302,21 +317,24 @@ TEST(Lote, LoMismoEnEspanolYEnUnaCarpetaConAcentos) {
     const std::string carpeta = CarpetaNueva("año de prueba é");
     for (const char *f : {"klein.csv", "klein.txt"})
         std::filesystem::copy_file(std::string(TABIRA_DATOS) + "/" + f, carpeta + "/" + f);
-    const auto linea = Mas({"--json"}, Mas(Klein, {"--decimales", "4", "--exportar", "vuelta.csv", "--volcado"}));
+    const auto linea =
+        Mas({"--json"}, Mas(Klein, {"--decimales", "4", "--exportar", "vuelta.csv", "--volcado"}));
     const std::string llano = CarpetaNueva("llano");
     for (const char *f : {"klein.csv", "klein.txt"})
         std::filesystem::copy_file(std::string(TABIRA_DATOS) + "/" + f, llano + "/" + f);
     const auto base = Correr(linea, {.carpeta = llano, .entrada = {}, .variables = {{"LC_ALL", "C"}}});
-    const auto espanol = Correr(linea, {.carpeta = carpeta,
-                                        .entrada = {},
-                                        .variables = {{"LC_ALL", "es_ES.UTF-8"}, {"LOCPATH", TABIRA_LOCPATH}}});
+    const auto espanol =
+        Correr(linea, {.carpeta = carpeta,
+                       .entrada = {},
+                       .variables = {{"LC_ALL", "es_ES.UTF-8"}, {"LOCPATH", TABIRA_LOCPATH}}});
     EXPECT_EQ(base.estado, 0) << base.salida << base.errores;
     EXPECT_EQ(espanol.estado, 0);
     EXPECT_EQ(espanol.salida, base.salida);
     EXPECT_EQ(LeerBytes(carpeta + "/vuelta.csv"), LeerBytes(llano + "/vuelta.csv"));
     EXPECT_NE(LeerBytes(carpeta + "/vuelta.csv").find("39.8000"), std::string::npos);
     // The whole path, too.
-    const auto ruta = Correr({"--json", "--tipo", "anual:1920:1941", "--importar", carpeta + "/klein.csv", "--volcado"});
+    const auto ruta =
+        Correr({"--json", "--tipo", "anual:1920:1941", "--importar", carpeta + "/klein.csv", "--volcado"});
     EXPECT_EQ(ruta.estado, 0) << ruta.salida;
 }
 
@@ -336,7 +354,8 @@ TEST(Lote, EntradasDisparatadas) {
     };
     for (const std::string &texto : Textos) {
         SCOPED_TRACE(texto.substr(0, 40));
-        const auto r = Correr({"--json", "--tipo", "sin", "--sentencia", "SER Y = TEND", "--procesar", "-", "--seguir", "--volcado"},
+        const auto r = Correr({"--json", "--tipo", "sin", "--sentencia", "SER Y = TEND", "--procesar", "-",
+                               "--seguir", "--volcado"},
                               {.carpeta = {}, .entrada = texto});
         EXPECT_EQ(r.estado, 1) << r.errores;
         EXPECT_FALSE(SucesosDe(r, "caja").empty());
@@ -350,11 +369,13 @@ TEST(Lote, MuestraSinDatos) {
     const char *Sentencias[] = {"SER Z = X + 1", "ESC A = X", "MC Y 1 X", "MAT M = {X Y}", "OBS X[2] = 3"};
     for (const char *s : Sentencias) {
         SCOPED_TRACE(s);
-        const auto r = Correr({"--json", "--tipo", "sin", "--importar", "una.csv", "--sentencia", s}, {.carpeta = carpeta, .entrada = {}});
+        const auto r = Correr({"--json", "--tipo", "sin", "--importar", "una.csv", "--sentencia", s},
+                              {.carpeta = carpeta, .entrada = {}});
         EXPECT_EQ(r.estado, 1) << r.salida;
         EXPECT_FALSE(SucesosDe(r, "caja").empty());
     }
-    const auto r = Correr({"--json", "--tipo", "sin", "--importar", "una.csv", "--muestra-actual", "--exportar", "v.csv", "--volcado"},
+    const auto r = Correr({"--json", "--tipo", "sin", "--importar", "una.csv", "--muestra-actual",
+                           "--exportar", "v.csv", "--volcado"},
                           {.carpeta = carpeta, .entrada = {}});
     EXPECT_EQ(r.estado, 0) << r.salida << r.errores;
     EXPECT_EQ(SucesosDe(r, "volcado").at(0)["muestra"], json({0, 100000}));

@@ -132,7 +132,10 @@ constexpr CasoTabla Tablas[] = {
     {{"M", "A-1", ""}, "M", nullptr, "Código de serie no válido, igual a matriz:M           "},
     {{"E", "M", ""}, "M", "E", "Código de serie no válido, igual a escalar:E           "},
     {{"ABCDEFGHI", "", ""}, nullptr, nullptr, "Código de serie no válido:ABCDEFGHI   "},
-    {{"m", "", ""}, "M", nullptr, "Código de serie no válido, igual a matriz:M           "}, // in capitals by then
+    {{"m", "", ""},
+     "M",
+     nullptr,
+     "Código de serie no válido, igual a matriz:M           "}, // in capitals by then
     {{"e", "", ""}, nullptr, "E", "Código de serie no válido, igual a escalar:E           "},
     {{"a-1", "", ""}, nullptr, nullptr, "Código de serie no válido:a-1         "},
 };

@@ -21,7 +21,8 @@ std::string IntervaloActual() {
 // lacks, are titled otherwise.
 void EsperarAvisos() {
     for (const CajaVista &c : Prueba.cajas) {
-        const bool aviso = c.texto == "Guarde el fichero ó se perderán todos los datos" || c.texto == "Introduzca datos";
+        const bool aviso =
+            c.texto == "Guarde el fichero ó se perderán todos los datos" || c.texto == "Introduzca datos";
         EXPECT_EQ(c.titulo, aviso ? "Aviso" : "Proceso cancelado") << c.texto;
         EXPECT_EQ(c.icono, IconoInformacion);
         EXPECT_EQ(c.botones, BotonesAceptar);

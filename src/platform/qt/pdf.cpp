@@ -48,17 +48,23 @@ QByteArray Componer(std::string_view titulo, const std::deque<PaginaImpresa> &pa
     escritor.setResolution(PuntosPorPulgada);
     escritor.setTitle(QDe1252(titulo));
     escritor.setCreator(QStringLiteral("Tabira"));
-    QPainter pintor;
-    if (!pintor.begin(&escritor)) return {};
-    const QFont fuente = FuenteFija(AnchoCaracterPagina);
-    for (const PaginaImpresa &p : paginas) {
-        if (&p != &paginas.front() && !escritor.newPage()) return {};
-        PintarPagina(pintor, fuente, p);
-    }
-    return pintor.end() ? bytes : QByteArray();
+    return PintarPaginas(escritor, paginas) ? bytes : QByteArray();
 }
 
 } // namespace
+
+bool PintarPaginas(QPagedPaintDevice &papel, const std::deque<PaginaImpresa> &paginas) {
+    QPainter pintor;
+    if (!pintor.begin(&papel)) return false;
+    // The recorded page is laid over the paper, whatever its resolution and the margins that it can't print on.
+    pintor.setWindow(0, 0, AnchoPagina, AltoPagina);
+    const QFont fuente = FuenteFija(AnchoCaracterPagina);
+    for (const PaginaImpresa &p : paginas) {
+        if (&p != &paginas.front() && !papel.newPage()) return false;
+        PintarPagina(pintor, fuente, p);
+    }
+    return pintor.end();
+}
 
 bool EscribirPdf(const std::string &ruta, std::string_view titulo, const std::deque<PaginaImpresa> &paginas) {
     if (paginas.empty()) return false;

@@ -1,0 +1,136 @@
+// A result as text, as a table and as a file.
+#include "charts/ventanas/guardar_resultado.h"
+
+#include "charts/impresion.h"
+#include "charts/ventana_resultado.h"
+#include "platform/archivos.h"
+#include "platform/qt/impresora_qt.h"
+#include "platform/qt/superficie_qt.h"
+#include "platform/qt/texto_qt.h"
+#include "platform/qt/ventana_qt.h"
+#include "platform/strstr.h"
+#include "platform/texto.h"
+
+#include <QBuffer>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QImage>
+
+namespace {
+
+void PonerLineas(std::string &texto, const TextoSalida *lineas) {
+    if (lineas == nullptr) return;
+    for (const LineaSalida &l : *lineas) texto += std::string(Recortado(l.texto, RecorteDerecha)) + "\n";
+}
+
+std::string Bytes(const QString &ruta) { return ruta.toStdString(); }
+
+bool GuardarTexto(const SalidaResultado &salida, const QString &ruta) {
+    return EscribirArchivo(Bytes(ruta), Utf8De1252(std::string(salida.titulo) + "\n\n" + TextoDeResultado(salida)));
+}
+
+bool GuardarTabla(const SalidaResultado &salida, const QString &ruta) {
+    return EscribirArchivo(Bytes(ruta), Utf8De1252(TablaDeResultado(salida)));
+}
+
+// The pages that the printer would get.
+bool GuardarPdf(const SalidaResultado &salida, const QString &ruta) {
+    return ImprimirEnDocumento(Bytes(ruta), [&] { return ImprimirResultado(nullptr, salida.Contenido, salida) == 0; });
+}
+
+// The window's own painting, as long as the text is, at twice the screen's points.
+bool GuardarImagen(const SalidaResultado &salida, const QString &ruta) {
+    constexpr int AnchoCaracter = 16;
+    const QFont fuente = FuenteFija(AnchoCaracter);
+    const int alto = QFontMetrics(fuente).lineSpacing();
+    const auto filas = static_cast<int>(salida.lineas->size()) * 2 + 8; // every line may bring a rule
+    QImage imagen(AnchoCaracter * ColumnasVentanaResultado, alto * filas, QImage::Format_RGB32);
+    imagen.fill(Qt::white);
+    EstadoVentanaResultado estado{};
+    estado.Clase = salida.Clase;
+    estado.Contenido = salida.Contenido;
+    {
+        QPainter pintor(&imagen);
+        PintorSuperficie propio;
+        // First on the large sheet, to learn how many rows it takes; then on a sheet of that size.
+        Superficie s = SuperficieDePintor(propio, pintor, fuente, imagen.width(), imagen.height());
+        PintarResultado(s, estado, salida);
+    }
+    imagen = QImage(imagen.width(), alto * (estado.Fila + 4) + 50, QImage::Format_RGB32);
+    imagen.fill(Qt::white);
+    {
+        QPainter pintor(&imagen);
+        PintorSuperficie propio;
+        Superficie s = SuperficieDePintor(propio, pintor, fuente, imagen.width(), imagen.height());
+        PintarResultado(s, estado, salida);
+    }
+    QByteArray bytes;
+    QBuffer memoria(&bytes);
+    memoria.open(QIODevice::WriteOnly);
+    return imagen.save(&memoria, "PNG") &&
+           EscribirArchivo(Bytes(ruta), {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+struct FormatoDeArchivo {
+    const char *terminacion;
+    const char *filtro; // Windows-1252
+    bool (*guardar)(const SalidaResultado &salida, const QString &ruta);
+};
+
+constexpr FormatoDeArchivo Formatos[] = {
+    {"txt", "Texto (*.txt)", GuardarTexto},
+    {"pdf", "Documento PDF (*.pdf)", GuardarPdf},
+    {"tsv", "Tabla para hojas de cálculo (*.tsv)"_w, GuardarTabla},
+    {"png", "Imagen PNG (*.png)", GuardarImagen},
+};
+
+} // namespace
+
+std::string TextoDeResultado(const SalidaResultado &salida) {
+    std::string texto;
+    PonerLineas(texto, salida.fijas);
+    PonerLineas(texto, salida.lineas);
+    return texto;
+}
+
+std::string TablaDeResultado(const SalidaResultado &salida) {
+    if (!salida.tabla.empty()) return std::string(salida.tabla);
+    // A result without a table of its own is parted where its lines leave two blanks or more.
+    const std::string tabla = TextoDeResultado(salida);
+    std::string partida;
+    for (std::size_t i = 0; i < tabla.size();) {
+        const std::size_t fin = std::min(tabla.find_first_not_of(' ', i), tabla.size());
+        const bool alPrincipio = partida.empty() || partida.back() == '\n';
+        if (fin - i >= 2) {
+            if (!alPrincipio) partida += '\t';
+        } else {
+            partida.append(fin - i, ' ');
+        }
+        if (fin < tabla.size()) partida += tabla[fin];
+        i = fin + 1;
+    }
+    return partida;
+}
+
+bool GuardarResultado(const SalidaResultado &salida, const QString &ruta) {
+    const QString final = QFileInfo(ruta).suffix().toLower();
+    for (const FormatoDeArchivo &f : Formatos)
+        if (final == QLatin1String(f.terminacion)) return f.guardar(salida, ruta);
+    return GuardarTexto(salida, ruta);
+}
+
+void DialogoGuardarResultado(QWidget *padre, const SalidaResultado &salida) {
+    QStringList filtros;
+    for (const FormatoDeArchivo &f : Formatos) filtros << QDe1252(f.filtro);
+    QFileDialog dialogo(padre, QStringLiteral("Guardar como"), QString(), filtros.join(QStringLiteral(";;")));
+    dialogo.setAcceptMode(QFileDialog::AcceptSave);
+    const auto ponerFinal = [&] {
+        const auto elegido = filtros.indexOf(dialogo.selectedNameFilter());
+        dialogo.setDefaultSuffix(QLatin1String(Formatos[elegido < 0 ? 0 : elegido].terminacion));
+    };
+    ponerFinal();
+    QObject::connect(&dialogo, &QFileDialog::filterSelected, &dialogo, ponerFinal);
+    if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return;
+    if (!GuardarResultado(salida, dialogo.selectedFiles().constFirst()))
+        MostrarMensaje(AVentana(padre), "No se ha podido guardar el archivo");
+}

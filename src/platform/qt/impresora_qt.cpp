@@ -1,0 +1,78 @@
+// The desktop's printer.
+#include "platform/qt/impresora_qt.h"
+
+#include "platform/impresora_grabadora.h"
+#include "platform/qt/pdf.h"
+#include "platform/qt/texto_qt.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QStandardPaths>
+#include <QStatusBar>
+
+#include <cstdio>
+
+namespace {
+
+std::string DocumentoElegido;  // where the present job goes, empty for the printer
+bool DocumentoEscrito = false; // and whether it got there
+std::string UltimoDocumento;
+
+// "Imprime1: Imprimiendo" becomes "Imprime1 Imprimiendo 2026-11-21 10.15.30.pdf", with a number behind where that
+// name is taken: nothing of the user's is overwritten.
+QString DocumentoNuevo(const std::string &documento) {
+    const QDir carpeta(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    carpeta.mkpath(QStringLiteral("."));
+    const QString nombre = QDe1252(documento).remove(u':') + QDateTime::currentDateTime().toString(QStringLiteral(" yyyy-MM-dd HH.mm.ss"));
+    QString ruta = carpeta.filePath(nombre + QStringLiteral(".pdf"));
+    for (int n = 2; QFileInfo::exists(ruta); ++n) ruta = carpeta.filePath(nombre + QStringLiteral(" (%1).pdf").arg(n));
+    return ruta;
+}
+
+// A line in the status of the main window, and a note for whoever started the program from a terminal.
+void Avisar(const QString &texto) {
+    std::fprintf(stderr, "tabira: %s\n", texto.toUtf8().constData());
+    for (QWidget *w : QApplication::topLevelWidgets())
+        if (auto *principal = qobject_cast<QMainWindow *>(w)) principal->statusBar()->showMessage(texto);
+}
+
+} // namespace
+
+void EmpezarTrabajoQt(std::string_view titulo) { EmpezarTrabajoGrabado(titulo); }
+
+void TerminarTrabajoQt() {
+    const TrabajoImpreso trabajo = TerminarTrabajoGrabado();
+    if (trabajo.paginas.empty()) return;
+    if (!DocumentoElegido.empty()) {
+        DocumentoEscrito = EscribirPdf(DocumentoElegido, trabajo.titulo, trabajo.paginas);
+        return;
+    }
+    const QPrinterInfo impresora = QPrinterInfo::defaultPrinter();
+    if (!impresora.isNull()) {
+        QPrinter papel(impresora, QPrinter::HighResolution);
+        papel.setDocName(QDe1252(trabajo.documento));
+        if (PintarPaginas(papel, trabajo.paginas)) return;
+    }
+    const QString ruta = DocumentoNuevo(trabajo.documento);
+    if (EscribirPdf(ruta.toStdString(), trabajo.titulo, trabajo.paginas)) {
+        UltimoDocumento = ruta.toStdString();
+        Avisar(QStringLiteral("Sin impresora: impreso en %1").arg(QDir::toNativeSeparators(ruta)));
+    } else {
+        Avisar(QStringLiteral("No se ha podido imprimir en %1").arg(QDir::toNativeSeparators(ruta)));
+    }
+}
+
+bool ImprimirEnDocumento(const std::string &ruta, const std::function<bool()> &imprimir) {
+    DocumentoElegido = ruta;
+    DocumentoEscrito = false;
+    const bool bien = imprimir();
+    DocumentoElegido.clear();
+    return bien && DocumentoEscrito;
+}
+
+const std::string &UltimoDocumentoImpreso() { return UltimoDocumento; }

@@ -1,0 +1,18 @@
+// The desktop's printer: jobs are recorded, and when one is over its pages go to the default printer or, where there is
+// none, to a PDF document in the user's documents folder.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+// Operations of the platform around a job.
+void EmpezarTrabajoQt(std::string_view titulo);
+void TerminarTrabajoQt();
+
+// Runs `imprimir`, and what it prints goes to the PDF document `ruta` instead. False when it prints nothing or the
+// document can't be written.
+bool ImprimirEnDocumento(const std::string &ruta, const std::function<bool()> &imprimir);
+
+// Path of the document that the last job without a printer went to; empty when there was none.
+const std::string &UltimoDocumentoImpreso();

@@ -1,0 +1,31 @@
+// The main window: its text control, its menu and its closing.
+#pragma once
+
+#include <QMainWindow>
+#include <QPlainTextEdit>
+
+#include "platform/plataforma.h"
+
+class QLabel;
+
+class VentanaPrincipal : public QMainWindow {
+    Q_OBJECT
+public:
+    VentanaPrincipal();
+
+    QPlainTextEdit *PantallaEdicion;
+    bool Destruida = false; // the closing sequence ended: the window goes without asking again
+
+protected:
+    void closeEvent(QCloseEvent *suceso) override;
+    void paintEvent(QPaintEvent *suceso) override;
+
+private:
+    void CrearMenus();
+    void MostrarPortada();
+
+    bool PortadaMostrada = false;
+};
+
+// The desktop's dialogs and main window for the commands.
+void InstalarOperacionesEscritorio();

@@ -1,0 +1,6 @@
+// The dialog of data types and those that follow it.
+#pragma once
+
+#include "platform/plataforma.h"
+
+void DialogoTipoDatos(Ventana *ventana);
