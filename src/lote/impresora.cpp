@@ -2,8 +2,8 @@
 #include "lote/impresora.h"
 
 #include "charts/impresion.h"
+#include "lote/modulo_pdf.h"
 #include "lote/sucesos.h"
-#include "platform/qt/pdf.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -61,7 +61,7 @@ void ImprimirVentana(const SalidaResultado &salida) {
 bool EscribirDocumentos() {
     bool bien = true;
     for (const DocumentoDeCorrida &d : Impresora.documentos) {
-        if (d.paginas.empty() || EscribirPdf(d.ruta, d.titulo, d.paginas)) continue;
+        if (d.paginas.empty() || EscribirPdfConModulo(d.ruta, d.titulo, d.paginas)) continue;
         std::fprintf(stderr, "tabira-lote: no se puede escribir '%s'\n", d.ruta.c_str());
         bien = false;
     }
