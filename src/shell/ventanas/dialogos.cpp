@@ -44,10 +44,12 @@ void DialogoLista(Ventana *ventana, ListasDeElementos lista) {
     d.ui.lista->setFont(FuenteFijaDePantalla());
     for (const std::string &linea : LineasLista(lista)) d.ui.lista->addItem(QDe1252(linea));
     QObject::connect(d.ui.Borrar, &QPushButton::clicked, &d.dialogo, [&] {
-        const int elegida = d.ui.lista->currentRow();
+        const int elegida = FilaElegida(*d.ui.lista);
         if (elegida < 0) return;
-        if (BorrarElemento(d.ventana(), lista, De1252Q(d.ui.lista->item(elegida)->text())))
-            delete d.ui.lista->takeItem(elegida);
+        if (!BorrarElemento(d.ventana(), lista, De1252Q(d.ui.lista->item(elegida)->text()))) return;
+        delete d.ui.lista->takeItem(elegida);
+        // The toolkit would choose the next line, and a second click delete it.
+        d.ui.lista->clearSelection();
     });
     d.AlAceptar();
     d.Ejecutar();
