@@ -17,7 +17,8 @@ using Ajuste = Escritorio;
 namespace {
 
 bool ConTexto(const QWidget *w) {
-    return qobject_cast<const QLabel *>(w) != nullptr || qobject_cast<const QAbstractButton *>(w) != nullptr ||
+    return qobject_cast<const QLabel *>(w) != nullptr ||
+           qobject_cast<const QAbstractButton *>(w) != nullptr ||
            qobject_cast<const QLineEdit *>(w) != nullptr || qobject_cast<const QGroupBox *>(w) != nullptr;
 }
 
@@ -25,7 +26,8 @@ bool ConTexto(const QWidget *w) {
 void CabeEnSuSitio(const QWidget *w) {
     SCOPED_TRACE(w->objectName().toStdString());
     // A field and a box around other controls like more room than they need.
-    const bool holgado = qobject_cast<const QLineEdit *>(w) != nullptr || qobject_cast<const QGroupBox *>(w) != nullptr;
+    const bool holgado =
+        qobject_cast<const QLineEdit *>(w) != nullptr || qobject_cast<const QGroupBox *>(w) != nullptr;
     QSize pide = holgado ? w->minimumSizeHint() : w->sizeHint();
     if (const auto *l = qobject_cast<const QLabel *>(w); l != nullptr && l->wordWrap()) {
         pide = {l->minimumSizeHint().width(), l->heightForWidth(l->width())};
@@ -37,7 +39,8 @@ void CabeEnSuSitio(const QWidget *w) {
 
 void TodoCabe(QDialog &d) {
     for (const QWidget *w : d.findChildren<QWidget *>())
-        if (w->isVisible() && ConTexto(w) && !w->objectName().startsWith(QStringLiteral("qt_"))) CabeEnSuSitio(w);
+        if (w->isVisible() && ConTexto(w) && !w->objectName().startsWith(QStringLiteral("qt_")))
+            CabeEnSuSitio(w);
 }
 
 } // namespace
@@ -85,7 +88,8 @@ TEST_F(Ajuste, RegresionDeMuchosRegresores) {
     ConGuion({}, [&] { Ordenar(2006); });
     ConGuion({{"Última regresión",
                [](QDialog &d) {
-                   EXPECT_EQ(TextoDe(d, "linea2"), "Y  1  REGRESO1  REGRESO2  REGRESO3  REGRESO4  REGRESO5  REGRESO6");
+                   EXPECT_EQ(TextoDe(d, "linea2"),
+                             "Y  1  REGRESO1  REGRESO2  REGRESO3  REGRESO4  REGRESO5  REGRESO6");
                    TodoCabe(d);
                    Pulsar(d, "OK");
                }}},
@@ -103,7 +107,9 @@ TEST_F(Ajuste, CadaControlConSuNombre) {
             }
             for (const QWidget *w : d.findChildren<QWidget *>()) {
                 // What has no text of its own tells a reader of the screen what it is.
-                if (qobject_cast<const QLineEdit *>(w) == nullptr && qobject_cast<const QListWidget *>(w) == nullptr) continue;
+                if (qobject_cast<const QLineEdit *>(w) == nullptr &&
+                    qobject_cast<const QListWidget *>(w) == nullptr)
+                    continue;
                 EXPECT_FALSE(w->accessibleName().isEmpty()) << w->objectName().toStdString();
             }
         });

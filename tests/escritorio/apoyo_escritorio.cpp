@@ -115,6 +115,11 @@ Paso ConEscape(const char *titulo) {
     return {titulo, [](QDialog &d) { QTest::keyClick(&d, Qt::Key_Escape); }};
 }
 
+void Activar(QDialog &d) {
+    d.activateWindow();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &d; }, 1000));
+}
+
 void Pulsar(QWidget &w, const char *boton) {
     if (auto *b = Hijo<QAbstractButton>(w, boton)) {
         EXPECT_TRUE(b->isVisible()) << boton;

@@ -55,6 +55,9 @@ template <class Control> Control *Hijo(QWidget &w, const char *nombre) {
     return hijo;
 }
 
+// Gives the window the keyboard, as a window manager does with a new one.
+void Activar(QDialog &d);
+
 void Pulsar(QWidget &w, const char *boton);                       // a click
 void Escribir(QWidget &w, const char *campo, const char *texto);  // typed in place of what stands there
 std::string TextoDe(QWidget &w, const char *control);             // of a label, a button or a field

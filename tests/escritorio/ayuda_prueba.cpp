@@ -61,7 +61,8 @@ TEST_F(Manual, CancelarCierraTodas) {
     for (const Cadena &c : Cadenas) {
         SCOPED_TRACE(c.titulo);
         Guion guion;
-        for (const int p : c.paginas) guion.push_back(Pagina(c.titulo, p, p == c.paginas.back() ? "Cancelar" : "Siguiente"));
+        for (const int p : c.paginas)
+            guion.push_back(Pagina(c.titulo, p, p == c.paginas.back() ? "Cancelar" : "Siguiente"));
         ConGuion(guion, [&] { Ordenar(c.comando); });
     }
 }
@@ -70,7 +71,8 @@ TEST_F(Manual, CancelarCierraTodas) {
 TEST_F(Manual, EscapeCierraTodas) {
     for (const Cadena &c : Cadenas) {
         SCOPED_TRACE(c.titulo);
-        ConGuion({Pagina(c.titulo, c.paginas[0], "Siguiente"), ConEscape(c.titulo)}, [&] { Ordenar(c.comando); });
+        ConGuion({Pagina(c.titulo, c.paginas[0], "Siguiente"), ConEscape(c.titulo)},
+                 [&] { Ordenar(c.comando); });
     }
 }
 
@@ -81,7 +83,8 @@ TEST_F(Manual, AnteriorVuelve) {
         Guion guion;
         for (const int p : c.paginas)
             if (p != c.paginas.back()) guion.push_back(Pagina(c.titulo, p, "Siguiente"));
-        for (auto p = c.paginas.rbegin(); p + 1 != c.paginas.rend(); ++p) guion.push_back(Pagina(c.titulo, *p, "Anterior"));
+        for (auto p = c.paginas.rbegin(); p + 1 != c.paginas.rend(); ++p)
+            guion.push_back(Pagina(c.titulo, *p, "Anterior"));
         guion.push_back({c.titulo, [&](QDialog &d) {
                              EXPECT_FALSE(Hijo<QWidget>(d, "Anterior")->isVisible());
                              EXPECT_EQ(d.objectName().toStdString(), "P" + std::to_string(c.paginas[0]));
@@ -96,7 +99,8 @@ TEST_F(Manual, AnteriorVuelve) {
 TEST_F(Manual, CancelarNoSeQueda) {
     const Cadena &c = Cadenas[0];
     for (int vez = 0; vez < 2; ++vez)
-        ConGuion({Pagina(c.titulo, 1194, "Siguiente"), Pagina(c.titulo, 1138, "Anterior"), Pagina(c.titulo, 1194, "Cancelar")},
+        ConGuion({Pagina(c.titulo, 1194, "Siguiente"), Pagina(c.titulo, 1138, "Anterior"),
+                  Pagina(c.titulo, 1194, "Cancelar")},
                  [&] { Ordenar(c.comando); });
 }
 
@@ -126,7 +130,8 @@ TEST_F(Manual, TextoEntero) {
                        int i = 0;
                        for (const LineaAyuda *l = p.lineas; l->texto != nullptr; ++l, ++i) {
                            ASSERT_LT(i, lineas.size());
-                           EXPECT_TRUE(lineas[i].toStdString().ends_with(Utf8De1252(l->texto))) << lineas[i].toStdString();
+                           EXPECT_TRUE(lineas[i].toStdString().ends_with(Utf8De1252(l->texto)))
+                               << lineas[i].toStdString();
                        }
                        EXPECT_EQ(i, lineas.size());
                        QTest::keyClick(&d, Qt::Key_Escape);
@@ -146,7 +151,8 @@ TEST_F(Manual, AcercaDe) {
                    EXPECT_EQ(TextoDe(d, "nombre"), "TABIRA");
                    EXPECT_EQ(TextoDe(d, "captionDiseno"), "Diseño :");
                    EXPECT_EQ(TextoDe(d, "captionProgramacion"), "Programación informática:");
-                   for (const char *autor : {"autor0", "autor1", "autor2"}) EXPECT_NE(TextoDe(d, autor), "") << autor;
+                   for (const char *autor : {"autor0", "autor1", "autor2"})
+                       EXPECT_NE(TextoDe(d, autor), "") << autor;
                    for (const char *icono : {"iconoIzquierdo", "iconoDerecho"})
                        EXPECT_FALSE(Hijo<QLabel>(d, icono)->pixmap(Qt::ReturnByValue).isNull()) << icono;
                    Pulsar(d, "OK");

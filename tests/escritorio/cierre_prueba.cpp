@@ -89,7 +89,8 @@ TEST_F(Cierre, ConSuPregunta) {
             if (c.escalar) PonerEscalar(nullptr, "E", 1);
             Guion guion;
             if (c.boton != nullptr) guion.push_back(Pregunta(c.boton));
-            if (c.boton != nullptr && std::string(c.boton) == "Si") guion.push_back(Pulsando("Opción del menú", "OK"));
+            if (c.boton != nullptr && std::string(c.boton) == "Si")
+                guion.push_back(Pulsando("Opción del menú", "OK"));
             EXPECT_EQ(Cerrar(*ventana, forma, guion), c.termina);
             EXPECT_EQ(ventana->isVisible(), !c.termina);
             if (c.termina) continue;

@@ -46,7 +46,8 @@ TEST_F(Dialogos, Muestra) {
     } Casos[] = {
         {TipoAnual, "1990#1999", "1992", "1995", 2, 5, "1992", "1995"},
         {TipoAnual, "1990#1999", "", "", 0, 9, "0", "0"}, // no limit is a year 0
-        {TipoAnual, "1990#1999", "1999", "", 0, 9, "1999", "0"}, // a first limit on the last row finds none above
+        {TipoAnual, "1990#1999", "1999", "", 0, 9, "1999",
+         "0"}, // a first limit on the last row finds none above
         {TipoTrimestral, "1995#1#1999#4", "1995.1", "1996.4", 0, 7, "1995.1", "1996.4"},
         {TipoTrimestral, "1995#1#1999#4", "1996", "1996", 4, 7, "1996", "1996"},
         {TipoMensual, "1995#01#1999#12", "1995.1", "1995.2", 0, 1, "1995.01", "1995.02"},
@@ -84,7 +85,8 @@ TEST_F(Dialogos, AyudaDeLaMuestra) {
                    Pulsar(d, "Ayuda");
                    EXPECT_EQ(TextoDe(d, "TextoInicial"), "1991");
                }},
-              Pulsando("Acotación intervalos muestra", "OK"), Pulsando(Acotar, "Cancela")},
+              Pulsando("Acotación intervalos muestra", "OK"),
+              Pulsando(Acotar, "Cancela")},
              [&] { Ordenar(2038); });
 }
 
@@ -103,8 +105,9 @@ TEST_F(Dialogos, MuestraActual) {
 }
 
 TEST_F(Dialogos, Decimales) {
-    static constexpr const char *Textos[] = {"Sin decimales",    "Un decimal",      "Dos decimales", "Tres decimales",
-                                             "Cuatro decimales", "Cinco decimales", "Seis decimales"};
+    static constexpr const char *Textos[] = {"Sin decimales",  "Un decimal",       "Dos decimales",
+                                             "Tres decimales", "Cuatro decimales", "Cinco decimales",
+                                             "Seis decimales"};
     static const auto boton = [](QDialog &d, int i) {
         return Hijo<QRadioButton>(d, QByteArray("decimales").append(QByteArray::number(i)));
     };
@@ -114,9 +117,9 @@ TEST_F(Dialogos, Decimales) {
         const char *con;
         int despues;
     } Casos[] = {
-        {4, -1, "OK", 2}, {2, -1, "OK", 2}, {4, -1, "Cancela", 4}, {4, 6, "Cancela", 4}, {2, 0, "OK", 0},
-        {2, 1, "OK", 1},  {2, 2, "OK", 2},  {2, 3, "OK", 3},       {2, 4, "OK", 4},      {2, 5, "OK", 5},
-        {0, 6, "OK", 6},
+        {4, -1, "OK", 2}, {2, -1, "OK", 2}, {4, -1, "Cancela", 4}, {4, 6, "Cancela", 4},
+        {2, 0, "OK", 0},  {2, 1, "OK", 1},  {2, 2, "OK", 2},       {2, 3, "OK", 3},
+        {2, 4, "OK", 4},  {2, 5, "OK", 5},  {0, 6, "OK", 6},
     };
     for (const auto &c : Casos) {
         SCOPED_TRACE(testing::Message() << c.antes << " " << c.elige << " " << c.con);
@@ -185,6 +188,7 @@ TEST_F(Dialogos, BorrarSinElegirNada) {
         ConGuion({{c.titulo,
                    [&](QDialog &d) {
                        Pulsar(d, "Borrar");
+                       Activar(d);
                        Hijo<QWidget>(d, "lista")->setFocus(Qt::TabFocusReason);
                        Pulsar(d, "Borrar");
                        EXPECT_EQ(LineasDe(d, "lista"), c.lineas);
@@ -204,7 +208,9 @@ TEST_F(Dialogos, BorrarDeLasListas) {
         int id;
         const char *titulo;
         int linea;
-    } Casos[] = {{2065, "Relación de series", 1}, {2064, "Relación de matrices", 0}, {2066, "Relación de escalares", 1}};
+    } Casos[] = {{2065, "Relación de series", 1},
+                 {2064, "Relación de matrices", 0},
+                 {2066, "Relación de escalares", 1}};
     for (const auto &c : Casos) {
         SCOPED_TRACE(c.titulo);
         ConGuion({{c.titulo,
@@ -262,6 +268,7 @@ TEST_F(Dialogos, BorrarConElTeclado) {
     ConGuion({{"Relación de series",
                [](QDialog &d) {
                    auto *lista = Hijo<QListWidget>(d, "lista");
+                   Activar(d);
                    lista->setFocus(Qt::TabFocusReason);
                    QTest::keyClick(lista, Qt::Key_Down);
                    EXPECT_EQ(lista->selectedItems().size(), 1);
@@ -329,7 +336,10 @@ TEST_F(Dialogos, Cajas) {
                        if (c.boton != nullptr) return Pulsar(d, c.boton);
                        QTest::keyClick(&d, c.tecla);
                    }}},
-                 [&] { respuesta = CajaQt(AVentana(ventana.get()), "a & b <b>c</b>", "Aviso", IconoPregunta, c.botones); });
+                 [&] {
+                     respuesta =
+                         CajaQt(AVentana(ventana.get()), "a & b <b>c</b>", "Aviso", IconoPregunta, c.botones);
+                 });
         EXPECT_EQ(respuesta, c.respuesta);
     }
 }
@@ -357,7 +367,7 @@ TEST_F(Dialogos, TextosDeLasCajas) {
                        Pulsar(d, "Cancelar");
                    }}},
                  [&] {
-                     CajaQt(AVentana(ventana.get()), Texto1252DeUtf8("a & b <b>ñ</b>\n (QQ)"), Texto1252DeUtf8("¿Año?"),
-                            i.icono, BotonesSiNoCancelar);
+                     CajaQt(AVentana(ventana.get()), Texto1252DeUtf8("a & b <b>ñ</b>\n (QQ)"),
+                            Texto1252DeUtf8("¿Año?"), i.icono, BotonesSiNoCancelar);
                  });
 }

@@ -177,8 +177,10 @@ TEST_F(Ordenes, IdentificadoresSinEntrada) {
         SCOPED_TRACE(id);
         ConGuion({DialogoNoEnsamblada}, [&] { EjecutarComando(AVentana(ventana.get()), id); });
     }
-    ConGuion({Pulsando("Alisado exponencial", "OK")}, [&] { EjecutarComando(AVentana(ventana.get()), 2052); });
-    ConGuion({Pulsando("Generación de series", "OK")}, [&] { EjecutarComando(AVentana(ventana.get()), 2099); });
+    ConGuion({Pulsando("Alisado exponencial", "OK")},
+             [&] { EjecutarComando(AVentana(ventana.get()), 2052); });
+    ConGuion({Pulsando("Generación de series", "OK")},
+             [&] { EjecutarComando(AVentana(ventana.get()), 2099); });
     for (const int id : {0, 1, 3, 120, 2005, 2058, 2074, 2095, 2103, 9999, -1, -2002, 1 << 30}) {
         SCOPED_TRACE(id);
         ConGuion({}, [&] { EjecutarComando(AVentana(ventana.get()), id); });
@@ -193,7 +195,7 @@ TEST_F(Ordenes, RefrescanLaMuestra) {
         const char *titulo;
         bool refresca;
     } Casos[] = {
-        {2065, "Relación de series", true},   {2064, "Relación de matrices", true},
+        {2065, "Relación de series", true},    {2064, "Relación de matrices", true},
         {2066, "Relación de escalares", true}, {2085, "Muestra actual", true},
         {2086, "Última regresión", true},      {2038, "Acotación de la muestra a utilizar", false},
         {2013, "Opción del menú", true},       {2036, "Opción del menú", false},

@@ -88,9 +88,24 @@ struct CasoConstante {
 };
 
 const CasoConstante Constantes[] = {
-    {"periodoPrimero", "3", "anual", "1990", "1991", {"1990-1", "1990-2", "1990-3", "1991-1", "1991-2", "1991-3"}},
-    {"individuoPrimero", "2", "anual", "1990", "1992", {"1-1990", "1-1991", "1-1992", "2-1990", "2-1991", "2-1992"}},
-    {"periodoPrimero", "2", "trimestral", "1990.4", "1991.1", {"1990.4-1", "1990.4-2", "1991.1-1", "1991.1-2"}},
+    {"periodoPrimero",
+     "3",
+     "anual",
+     "1990",
+     "1991",
+     {"1990-1", "1990-2", "1990-3", "1991-1", "1991-2", "1991-3"}},
+    {"individuoPrimero",
+     "2",
+     "anual",
+     "1990",
+     "1992",
+     {"1-1990", "1-1991", "1-1992", "2-1990", "2-1991", "2-1992"}},
+    {"periodoPrimero",
+     "2",
+     "trimestral",
+     "1990.4",
+     "1991.1",
+     {"1990.4-1", "1990.4-2", "1991.1-1", "1991.1-2"}},
     {"individuoPrimero", "1", "trimestral", "1990.4", "1991.1", {"1-1990.4", "1-1991.1"}},
     {"periodoPrimero", "1", "mensual", "1990.9", "1990.11", {"1990.09-1", "1990.10-1", "1990.11-1"}},
     {"individuoPrimero", "1", "mensual", "1990.9", "1990.10", {"1-1990.09", "1-1990.10"}},
@@ -101,7 +116,8 @@ const CasoConstante Constantes[] = {
 TEST_F(Panel, ConstanteYSecuencial) {
     for (const CasoConstante &c : Constantes) {
         SCOPED_TRACE(c.filas.front());
-        ConGuion({ElegirPanel, EnPanel({"constante", c.primero, "introducirPeriodos"}),
+        ConGuion({ElegirPanel,
+                  EnPanel({"constante", c.primero, "introducirPeriodos"}),
                   {Constante,
                    [&](QDialog &d) {
                        Escribir(d, "individuos", c.individuos);
@@ -127,7 +143,8 @@ TEST_F(Panel, ConstanteRechaza) {
     };
     for (const auto &c : Casos) {
         SCOPED_TRACE(c.mensaje);
-        ConGuion({ElegirPanel, EnPanel({"introducirPeriodos"}),
+        ConGuion({ElegirPanel,
+                  EnPanel({"introducirPeriodos"}),
                   {Constante,
                    [&](QDialog &d) {
                        Escribir(d, "individuos", "2");
@@ -143,7 +160,10 @@ TEST_F(Panel, ConstanteRechaza) {
                        EXPECT_EQ(TextoDe(d, "fin"), c.fin);
                        Pulsar(d, "Cancela");
                    }},
-                  EnPanel({"OK"}), Caja("Aviso", "Introduzca datos"), EnPanel({"Cancela"}), Salir},
+                  EnPanel({"OK"}),
+                  Caja("Aviso", "Introduzca datos"),
+                  EnPanel({"Cancela"}),
+                  Salir},
                  [&] { Ordenar(2020); });
     }
     EXPECT_EQ(ArchivoTrabajo.TipoDatos, SinTipoDatos);
@@ -151,7 +171,8 @@ TEST_F(Panel, ConstanteRechaza) {
 
 // Opened again, the dialog shows what was accepted in it: its OK then changes nothing.
 TEST_F(Panel, ConstanteAbiertoOtraVez) {
-    ConGuion({ElegirPanel, EnPanel({"introducirPeriodos"}),
+    ConGuion({ElegirPanel,
+              EnPanel({"introducirPeriodos"}),
               {Constante,
                [&](QDialog &d) {
                    Escribir(d, "individuos", "2");
@@ -173,7 +194,8 @@ TEST_F(Panel, ConstanteAbiertoOtraVez) {
 }
 
 TEST_F(Panel, VariablePeriodoPrimero) {
-    ConGuion({ElegirPanel, EnPanel({"variable", "periodoPrimero", "introducirPeriodos"}),
+    ConGuion({ElegirPanel,
+              EnPanel({"variable", "periodoPrimero", "introducirPeriodos"}),
               {DePeriodos, [](QDialog &d) { Anadir(d, "1995", "0"); }},
               Caja("Aviso", "Individuos ha de ser mayor de cero"),
               {DePeriodos, [](QDialog &d) { Anadir(d, "999", "2"); }},
@@ -207,7 +229,8 @@ TEST_F(Panel, VariableIndividuoPrimero) {
         Escribir(d, "periodo", texto);
         Pulsar(d, "anadirPeriodo");
     };
-    ConGuion({ElegirPanel, EnPanel({"variable", "individuoPrimero", "introducirPeriodos"}),
+    ConGuion({ElegirPanel,
+              EnPanel({"variable", "individuoPrimero", "introducirPeriodos"}),
               {DeIndividuos, [=](QDialog &d) { individuo(d, "0"); }},
               Caja("Aviso", "Individuos ha de ser mayor de cero"),
               {DeIndividuos,
@@ -244,11 +267,12 @@ TEST_F(Panel, VariableIndividuoPrimero) {
 
 // A line that nobody chose isn't deleted, even if the list has the keyboard.
 TEST_F(Panel, EliminarSinElegirNada) {
-    ConGuion({ElegirPanel, EnPanel({"variable", "periodoPrimero", "introducirPeriodos"}),
+    ConGuion({ElegirPanel,
+              EnPanel({"variable", "periodoPrimero", "introducirPeriodos"}),
               {DePeriodos,
                [](QDialog &d) {
                    Anadir(d, "1995", "2");
-                   EXPECT_TRUE(QTest::qWaitForWindowActive(&d));
+                   Activar(d);
                    Hijo<QWidget>(d, "lista")->setFocus(Qt::TabFocusReason);
                    EXPECT_EQ(Hijo<QListWidget>(d, "lista")->currentRow(), 0); // current, and not chosen
                    Pulsar(d, "eliminar");
@@ -268,8 +292,12 @@ TEST_F(Panel, CancelarUnaLista) {
                         Pulsar(d, boton);
                     }};
     };
-    ConGuion({ElegirPanel, EnPanel({"variable", "periodoPrimero", "introducirPeriodos"}), con("1995", "OK"),
-              EnPanel({"introducirPeriodos"}), con("1996", "Cancela"), EnPanel({"introducirPeriodos"}),
+    ConGuion({ElegirPanel,
+              EnPanel({"variable", "periodoPrimero", "introducirPeriodos"}),
+              con("1995", "OK"),
+              EnPanel({"introducirPeriodos"}),
+              con("1996", "Cancela"),
+              EnPanel({"introducirPeriodos"}),
               {DePeriodos,
                [](QDialog &d) {
                    EXPECT_EQ(Hijo<QListWidget>(d, "lista")->count(), 1);
@@ -284,13 +312,15 @@ TEST_F(Panel, CancelarUnaLista) {
 TEST_F(Panel, CancelarTodo) {
     const int forma = DescripcionPanel.FormaPanel, entradas = DescripcionPanel.NumEntradas;
     const int observaciones = ArchivoTrabajo.NumObs;
-    ConGuion({ElegirPanel, EnPanel({"variable", "introducirPeriodos"}),
+    ConGuion({ElegirPanel,
+              EnPanel({"variable", "introducirPeriodos"}),
               {DePeriodos,
                [](QDialog &d) {
                    Anadir(d, "1995", "2");
                    Pulsar(d, "OK");
                }},
-              EnPanel({"Cancela"}), Salir},
+              EnPanel({"Cancela"}),
+              Salir},
              [&] { Ordenar(2020); });
     EXPECT_EQ(DescripcionPanel.FormaPanel, forma);
     EXPECT_EQ(DescripcionPanel.NumEntradas, entradas);
@@ -304,7 +334,8 @@ TEST_F(Panel, EtiquetasDeIndividuos) {
         Escribir(d, "etiqueta", texto);
         Pulsar(d, "anadir");
     };
-    ConGuion({ElegirPanel, EnPanel({"etiquetas", "introducirEtiquetas"}),
+    ConGuion({ElegirPanel,
+              EnPanel({"etiquetas", "introducirEtiquetas"}),
               {Etiquetas,
                [=](QDialog &d) {
                    EXPECT_EQ(LineasDe(d, "lista").size(), 50u);

@@ -51,12 +51,11 @@ void EscribirKlein(VentanaPrincipal &v) {
 void EnKlein(VentanaPrincipal &v, const std::function<void(QDialog &, QAbstractScrollArea &)> &hacer,
              const Guion &mas = {}) {
     EscribirKlein(v);
-    Guion guion = {Ver,
-                   {Titulo, [&](QDialog &d) {
-                        EXPECT_TRUE(QTest::qWaitForWindowExposed(&d));
-                        if (auto *area = Hijo<QAbstractScrollArea>(d, "areaResultado")) hacer(d, *area);
-                        if (d.isVisible()) d.reject();
-                    }}};
+    Guion guion = {Ver, {Titulo, [&](QDialog &d) {
+                             EXPECT_TRUE(QTest::qWaitForWindowExposed(&d));
+                             if (auto *area = Hijo<QAbstractScrollArea>(d, "areaResultado")) hacer(d, *area);
+                             if (d.isVisible()) d.reject();
+                         }}};
     guion.insert(guion.end(), mas.begin(), mas.end());
     ConGuion(guion, [&] { v.findChild<QAction *>(QStringLiteral("comando2006"))->trigger(); });
 }
@@ -75,26 +74,35 @@ void DelMenu(QAbstractScrollArea &area, const char *entrada) {
         ADD_FAILURE() << "no entry " << entrada;
         menu->close();
     });
-    QContextMenuEvent suceso(QContextMenuEvent::Keyboard, {20, 20}, area.viewport()->mapToGlobal(QPoint(20, 20)));
+    QContextMenuEvent suceso(QContextMenuEvent::Keyboard, {20, 20},
+                             area.viewport()->mapToGlobal(QPoint(20, 20)));
     QApplication::sendEvent(area.viewport(), &suceso);
 }
 
-std::string Portapapeles() { return QApplication::clipboard()->text().toStdString(); }
+std::string Portapapeles() {
+    return QApplication::clipboard()->text().toStdString();
+}
 
 // A line with each stretch of blanks made one.
-QString Apretada(const QString &linea) { return linea.simplified(); }
+QString Apretada(const QString &linea) {
+    return linea.simplified();
+}
 
 QStringList TextoDePdf(const QString &ruta) {
     QProcess p;
-    p.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), QStringLiteral("-enc"), QStringLiteral("UTF-8"),
-                                          ruta, QStringLiteral("-")});
+    p.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), QStringLiteral("-enc"),
+                                          QStringLiteral("UTF-8"), ruta, QStringLiteral("-")});
     if (!p.waitForStarted() || !p.waitForFinished()) return {};
     return QString::fromUtf8(p.readAllStandardOutput()).split(u'\n');
 }
 
-bool HayPdftotext() { return !QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty(); }
+bool HayPdftotext() {
+    return !QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty();
+}
 
-QDir Documentos() { return {QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)}; }
+QDir Documentos() {
+    return {QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)};
+}
 
 // The lines of the text are in the document, with their columns: fields of a line stand as far apart as they did.
 void EstaEnElPdf(const QString &texto, const QString &ruta) {
@@ -179,9 +187,9 @@ TEST_F(Resultado, Desplazarse) {
         static constexpr struct {
             Qt::Key tecla;
             int linea;
-        } Teclas[] = {{Qt::Key_Up, 0},       {Qt::Key_Down, 1},     {Qt::Key_Down, 2}, {Qt::Key_PageDown, 7},
-                      {Qt::Key_PageUp, 2},   {Qt::Key_PageUp, 0},   {Qt::Key_PageDown, 5}, {Qt::Key_Up, 4},
-                      {Qt::Key_Home, 0}};
+        } Teclas[] = {{Qt::Key_Up, 0},       {Qt::Key_Down, 1},   {Qt::Key_Down, 2},
+                      {Qt::Key_PageDown, 7}, {Qt::Key_PageUp, 2}, {Qt::Key_PageUp, 0},
+                      {Qt::Key_PageDown, 5}, {Qt::Key_Up, 4},     {Qt::Key_Home, 0}};
         for (const auto &t : Teclas) {
             QTest::keyClick(&area, t.tecla);
             EXPECT_EQ(barra.value(), t.linea);
@@ -209,8 +217,8 @@ TEST_F(Resultado, Desplazarse) {
         barra.setValue(0);
         // The wheel: three lines a notch; parts of a notch wait for the rest.
         const auto rueda = [&](int grados) {
-            QWheelEvent suceso({20, 20}, area.viewport()->mapToGlobal(QPointF(20, 20)), {}, {0, grados}, Qt::NoButton,
-                               Qt::NoModifier, Qt::NoScrollPhase, false);
+            QWheelEvent suceso({20, 20}, area.viewport()->mapToGlobal(QPointF(20, 20)), {}, {0, grados},
+                               Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
             QApplication::sendEvent(area.viewport(), &suceso);
             return barra.value();
         };
@@ -263,12 +271,13 @@ TEST_F(Resultado, GuardarComo) {
     const auto guardar = [](QDialog &, QAbstractScrollArea &area) { DelMenu(area, "Guardar como..."); };
     EnKlein(*ventana, guardar, {ConEscape("Guardar como")});
     EXPECT_FALSE(QFile::exists(ruta));
-    EnKlein(*ventana, guardar, {{"Guardar como", [&](QDialog &d) {
-                                     auto *nombre = d.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-                                     ASSERT_NE(nombre, nullptr);
-                                     nombre->setText(QStringLiteral(TABIRA_CASA "/elegido")); // gets its ending
-                                     QTest::keyClick(nombre, Qt::Key_Return);
-                                 }}});
+    EnKlein(*ventana, guardar,
+            {{"Guardar como", [&](QDialog &d) {
+                  auto *nombre = d.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+                  ASSERT_NE(nombre, nullptr);
+                  nombre->setText(QStringLiteral(TABIRA_CASA "/elegido")); // gets its ending
+                  QTest::keyClick(nombre, Qt::Key_Return);
+              }}});
     EXPECT_TRUE(QFile::exists(ruta));
     EXPECT_TRUE(Leer(ruta).contains("16.236600"));
 }
@@ -314,7 +323,9 @@ TEST_F(Resultado, GuardarEnTodasLasFormas) {
 TEST_F(Resultado, GuardarDondeNoSePuede) {
     TomarKlein(*ventana);
     for (const char *final : {"txt", "tsv", "pdf", "png"})
-        EXPECT_FALSE(GuardarResultado(Guardado.Salida(), QStringLiteral(TABIRA_CASA "/no/existe/klein.%1").arg(QString::fromLatin1(final))))
+        EXPECT_FALSE(GuardarResultado(
+            Guardado.Salida(),
+            QStringLiteral(TABIRA_CASA "/no/existe/klein.%1").arg(QString::fromLatin1(final))))
             << final;
 }
 
@@ -324,7 +335,8 @@ TEST_F(Resultado, GuardarElMasLargo) {
     largo.titulo = "Largo";
     for (int i = 0; i < MaxLineasSalida; ++i) AnadirLinea(largo.lineas, i % 2, "linea " + std::to_string(i));
     QDir().mkpath(QStringLiteral(TABIRA_CASA));
-    const QString pdf = QStringLiteral(TABIRA_CASA "/largo.pdf"), png = QStringLiteral(TABIRA_CASA "/largo.png");
+    const QString pdf = QStringLiteral(TABIRA_CASA "/largo.pdf"),
+                  png = QStringLiteral(TABIRA_CASA "/largo.png");
     QFile::remove(png);
     ASSERT_TRUE(GuardarResultado(largo.Salida(), pdf));
     const auto enElPdf = [&](const QString &linea) { return TextoDePdf(pdf).filter(linea).size() == 1; };
@@ -337,7 +349,8 @@ TEST_F(Resultado, GuardarElMasLargo) {
 TEST_F(Resultado, ImprimirSinImpresora) {
     const QDir documentos = Documentos();
     ASSERT_TRUE(documentos.path().startsWith(QStringLiteral(TABIRA_CASA))); // not in anybody's folder
-    for (const QString &f : documentos.entryList({QStringLiteral("*.pdf")})) QFile::remove(documentos.filePath(f));
+    for (const QString &f : documentos.entryList({QStringLiteral("*.pdf")}))
+        QFile::remove(documentos.filePath(f));
     QString texto;
     testing::internal::CaptureStderr();
     EnKlein(*ventana, [&](QDialog &d, QAbstractScrollArea &area) {
@@ -350,8 +363,8 @@ TEST_F(Resultado, ImprimirSinImpresora) {
     const QString nota = QString::fromStdString(testing::internal::GetCapturedStderr());
     const QStringList escritos = documentos.entryList({QStringLiteral("*.pdf")});
     EXPECT_EQ(escritos.size(), 3); // nothing overwritten
-    static const QRegularExpression Nombre(
-        QStringLiteral("^Imprime1 Imprimiendo \\d{4}-\\d\\d-\\d\\d \\d\\d\\.\\d\\d\\.\\d\\d( \\(\\d\\))?\\.pdf$"));
+    static const QRegularExpression Nombre(QStringLiteral(
+        "^Imprime1 Imprimiendo \\d{4}-\\d\\d-\\d\\d \\d\\d\\.\\d\\d\\.\\d\\d( \\(\\d\\))?\\.pdf$"));
     for (const QString &f : escritos) {
         EXPECT_TRUE(Nombre.match(f).hasMatch()) << f.toStdString();
         EXPECT_TRUE(nota.contains(documentos.filePath(f))) << nota.toStdString();
@@ -367,7 +380,8 @@ TEST_F(Resultado, ImprimirSeleccion) {
         const char *esta, *noEsta;
     } Casos[] = {{0, 0, "ESC B = 2", "nada"}, {3, 4, "ESC B = 2", "nada"}, {0, 9, "ESC A = 1", "ESC B"}};
     for (const auto &c : Casos) {
-        for (const QString &f : documentos.entryList({QStringLiteral("*.pdf")})) QFile::remove(documentos.filePath(f));
+        for (const QString &f : documentos.entryList({QStringLiteral("*.pdf")}))
+            QFile::remove(documentos.filePath(f));
         ventana->PantallaEdicion->setPlainText(QStringLiteral("ESC A = 1\nESC B = 2\n; Peñón"));
         QTextCursor cursor = ventana->PantallaEdicion->textCursor();
         cursor.setPosition(c.desde);

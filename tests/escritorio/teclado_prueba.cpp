@@ -36,13 +36,15 @@ constexpr const char *Repetidos[] = {"Datos M"};
 void SinRepetir(const std::string &donde, const QList<QAction *> &acciones) {
     std::map<QChar, int> veces;
     for (QAction *a : acciones) {
-        if (a->menu() != nullptr) SinRepetir(QString(a->text()).remove(u'&').toStdString(), a->menu()->actions());
+        if (a->menu() != nullptr)
+            SinRepetir(QString(a->text()).remove(u'&').toStdString(), a->menu()->actions());
         const QChar letra = Nemonico(a->text());
         if (!letra.isNull()) ++veces[letra];
     }
     for (const auto &[letra, n] : veces) {
         const std::string caso = donde + " " + QString(letra).toStdString();
-        const bool consabido = std::find(std::begin(Repetidos), std::end(Repetidos), caso) != std::end(Repetidos);
+        const bool consabido =
+            std::find(std::begin(Repetidos), std::end(Repetidos), caso) != std::end(Repetidos);
         EXPECT_EQ(n, consabido ? 2 : 1) << caso;
     }
 }
@@ -53,7 +55,7 @@ TEST_F(Teclado, TabRecorreCadaDialogo) {
     for (const AperturaDeDialogo &a : TodosLosDialogos()) {
         SCOPED_TRACE(a.titulo);
         EnDialogo(*ventana, a, [&](QDialog &d) {
-            EXPECT_TRUE(QTest::qWaitForWindowActive(&d));
+            Activar(d);
             const std::size_t n = a.orden.size();
             // Twice around, and back again.
             for (std::size_t i = 0; i < 2 * n; ++i) {
@@ -74,7 +76,7 @@ TEST_F(Teclado, EscapeCancelaCadaDialogo) {
         int resultado = -1;
         EnDialogo(*ventana, a, [&](QDialog &d) {
             QObject::connect(&d, &QDialog::finished, [&](int r) { resultado = r; });
-            EXPECT_TRUE(QTest::qWaitForWindowActive(&d));
+            Activar(d);
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
             EXPECT_FALSE(d.isVisible());
         });
@@ -85,10 +87,11 @@ TEST_F(Teclado, EscapeCancelaCadaDialogo) {
 // From wherever the keyboard is at the beginning.
 TEST_F(Teclado, EnterEsElBotonOK) {
     for (const AperturaDeDialogo &a : TodosLosDialogos()) {
-        if (!a.aceptaConEnter || std::string(a.titulo).starts_with("Datos ")) continue; // these would close all above them
+        if (!a.aceptaConEnter || std::string(a.titulo).starts_with("Datos "))
+            continue; // these would close all above them
         SCOPED_TRACE(a.titulo);
         EnDialogo(*ventana, a, [&](QDialog &d) {
-            EXPECT_TRUE(QTest::qWaitForWindowActive(&d));
+            Activar(d);
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
             EXPECT_FALSE(d.isVisible());
         });
@@ -98,8 +101,10 @@ TEST_F(Teclado, EnterEsElBotonOK) {
 TEST_F(Teclado, FlechasEntreLosTipos) {
     ConGuion({{"Tipos de datos",
                [](QDialog &d) {
-                   EXPECT_TRUE(QTest::qWaitForWindowActive(&d));
+                   Activar(d);
                    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+                   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+                   EXPECT_TRUE(Hijo<QAbstractButton>(d, "tipo0")->isChecked());
                    for (const char *tipo : {"tipo1", "tipo2", "tipo3", "tipo4"}) {
                        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
                        EXPECT_EQ(ConFoco(d), tipo);
@@ -114,14 +119,16 @@ TEST_F(Teclado, FlechasEntreLosTipos) {
 TEST_F(Teclado, TipoDeDatosSinRaton) {
     ConGuion({{"Tipos de datos",
                [](QDialog &d) {
-                   EXPECT_TRUE(QTest::qWaitForWindowActive(&d));
-                   QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("TECLAS")); // the old name is selected
-                   QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::AltModifier);
+                   Activar(d);
+                   QTest::keyClicks(QApplication::focusWidget(),
+                                    QStringLiteral("TECLAS")); // the old name is selected
+                   for (const Qt::Key tecla : {Qt::Key_Tab, Qt::Key_Space, Qt::Key_Down})
+                       QTest::keyClick(QApplication::focusWidget(), tecla);
                    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
                }},
               {"Datos anuales",
                [](QDialog &d) {
-                   EXPECT_TRUE(QTest::qWaitForWindowActive(&d));
+                   Activar(d);
                    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("1990"));
                    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
                    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("1995"));
@@ -131,7 +138,9 @@ TEST_F(Teclado, TipoDeDatosSinRaton) {
     EXPECT_EQ(ventana->windowTitle(), QStringLiteral("Tabira: TECLAS"));
 }
 
-TEST_F(Teclado, NemonicosDeLosMenus) { SinRepetir("", ventana->menuBar()->actions()); }
+TEST_F(Teclado, NemonicosDeLosMenus) {
+    SinRepetir("", ventana->menuBar()->actions());
+}
 
 TEST_F(Teclado, NemonicosDeLosDialogos) {
     for (const AperturaDeDialogo &a : TodosLosDialogos()) {

@@ -49,7 +49,9 @@ Foto Fotografiar() {
             a.ConEtiquetas};
 }
 
-std::string Fila(int fila) { return std::string(Recortado(TextoPeriodo(fila))); }
+std::string Fila(int fila) {
+    return std::string(Recortado(TextoPeriodo(fila)));
+}
 
 } // namespace
 
@@ -94,11 +96,11 @@ TEST_F(TiposDatos, OrdenDeLasComprobaciones) {
     PonerDatos(TipoAnual, "1990#1999");
     PonerSerie("A", {1, 2, 3});
     const Foto antes = Fotografiar();
-    ConGuion({Primero(-1, ""), Caja(Cancelado, "Introduzca nombre fichero"),
-              Primero(-1, "   "), Caja(Cancelado, "Introduzca nombre fichero"),
-              Primero(-1, "NUEVO"), Caja(Cancelado, "Introduzca tipo de datos"),
-              Primero(2, ""), Caja(Cancelado, "Introduzca nombre fichero"),
-              Primero(2, "NUEVO"), Caja("Aviso", "Guarde el fichero ó se perderán todos los datos"),
+    ConGuion({Primero(-1, ""), Caja(Cancelado, "Introduzca nombre fichero"), Primero(-1, "   "),
+              Caja(Cancelado, "Introduzca nombre fichero"), Primero(-1, "NUEVO"),
+              Caja(Cancelado, "Introduzca tipo de datos"), Primero(2, ""),
+              Caja(Cancelado, "Introduzca nombre fichero"), Primero(2, "NUEVO"),
+              Caja("Aviso", "Guarde el fichero ó se perderán todos los datos"),
               Pulsando(TitulosDelTipo[2], "Cancela"), Pulsando(Titulo, "Cancela")},
              [&] { Ordenar(2020); });
     EXPECT_EQ(Fotografiar(), antes);
@@ -121,11 +123,13 @@ TEST_F(TiposDatos, CancelarVuelveAlPrimero) {
         const Foto antes = Fotografiar();
         for (int tipo = 0; tipo <= 4; ++tipo) {
             SCOPED_TRACE(TitulosDelTipo[tipo]);
-            const Paso vuelta = {Titulo, [=](QDialog &d) {
-                                     EXPECT_EQ(TextoDe(d, "NombreProyecto"), "OTRO");
-                                     EXPECT_TRUE(Hijo<QRadioButton>(d, QByteArray("tipo").append(QByteArray::number(tipo)))->isChecked());
-                                     Pulsar(d, "OK");
-                                 }};
+            const Paso vuelta = {
+                Titulo, [=](QDialog &d) {
+                    EXPECT_EQ(TextoDe(d, "NombreProyecto"), "OTRO");
+                    EXPECT_TRUE(Hijo<QRadioButton>(d, QByteArray("tipo").append(QByteArray::number(tipo)))
+                                    ->isChecked());
+                    Pulsar(d, "OK");
+                }};
             ConGuion({Primero(tipo, "OTRO"), Pulsando(TitulosDelTipo[tipo], "Cancela"), vuelta,
                       ConEscape(TitulosDelTipo[tipo]), Pulsando(Titulo, "Cancela")},
                      [&] { Ordenar(2020); });
@@ -237,9 +241,7 @@ TEST_F(TiposDatos, PeriodosRechazados) {
 }
 
 TEST_F(TiposDatos, AnchuraDeLosCampos) {
-    static constexpr struct {
-        int tipo, longitud;
-    } Casos[] = {{2, 18}, {3, 8}};
+    static constexpr struct { int tipo, longitud; } Casos[] = {{2, 18}, {3, 8}};
     for (const auto &c : Casos)
         ConGuion({Primero(c.tipo),
                   {TitulosDelTipo[c.tipo],
@@ -253,7 +255,8 @@ TEST_F(TiposDatos, AnchuraDeLosCampos) {
 }
 
 TEST_F(TiposDatos, Ayuda) {
-    ConGuion({Pulsando(Titulo, "Ayuda"), Pulsando("Acotación intervalos muestra", "OK"), Pulsando(Titulo, "Cancela")},
+    ConGuion({Pulsando(Titulo, "Ayuda"), Pulsando("Acotación intervalos muestra", "OK"),
+              Pulsando(Titulo, "Cancela")},
              [&] { Ordenar(2020); });
 }
 

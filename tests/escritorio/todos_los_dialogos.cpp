@@ -37,26 +37,43 @@ std::vector<AperturaDeDialogo> TodosLosDialogos() {
         {"Datos anuales", Hasta("tipo1"), tipo, {"inicio", "fin", "OK", "Cancela"}},
         {"Datos trimestrales", Hasta("tipo2"), tipo, {"inicio", "fin", "OK", "Cancela"}},
         {"Datos mensuales", Hasta("tipo3"), tipo, {"inicio", "fin", "OK", "Cancela"}},
-        {"Datos Panel", Hasta("tipo4"), tipo,
-         {"periodoPrimero", "constante", "etiquetas", "introducirPeriodos", "introducirEtiquetas", "OK", "Cancela"},
+        {"Datos Panel",
+         Hasta("tipo4"),
+         tipo,
+         {"periodoPrimero", "constante", "etiquetas", "introducirPeriodos", "introducirEtiquetas", "OK",
+          "Cancela"},
          false},
-        {"Períodos/Individúos constante y secuencial", Hasta("tipo4", {"constante", "introducirPeriodos"}), tipo,
-         {"individuos", "anual", "inicio", "fin", "OK", "Cancela"}, false},
-        {"Períodos e Individúos", Hasta("tipo4", {"variable", "periodoPrimero", "introducirPeriodos"}), tipo,
+        {"Períodos/Individúos constante y secuencial",
+         Hasta("tipo4", {"constante", "introducirPeriodos"}),
+         tipo,
+         {"individuos", "anual", "inicio", "fin", "OK", "Cancela"},
+         false},
+        {"Períodos e Individúos",
+         Hasta("tipo4", {"variable", "periodoPrimero", "introducirPeriodos"}),
+         tipo,
          {"periodo", "individuos", "anadir", "lista", "eliminar", "OK", "Cancela"}},
-        {"Individúos y Períodos", Hasta("tipo4", {"variable", "individuoPrimero", "introducirPeriodos"}), tipo,
-         {"orden", "anadirIndividuo", "individuos", "eliminarIndividuo", "periodo", "anadirPeriodo", "periodos",
-          "eliminarPeriodo", "OK", "Cancela"}},
-        {"Introducción de Etiquetas", Hasta("tipo4", {"introducirEtiquetas"}), tipo,
-         {"orden", "etiqueta", "anadir", "lista", "OK"}, false},
-        {"Acotación de la muestra a utilizar", {}, Orden(2038), {"TextoInicial", "TextoFinal", "OK", "Cancela", "Ayuda"}},
+        {"Individúos y Períodos",
+         Hasta("tipo4", {"variable", "individuoPrimero", "introducirPeriodos"}),
+         tipo,
+         {"orden", "anadirIndividuo", "individuos", "eliminarIndividuo", "periodo", "anadirPeriodo",
+          "periodos", "eliminarPeriodo", "OK", "Cancela"}},
+        {"Introducción de Etiquetas",
+         Hasta("tipo4", {"introducirEtiquetas"}),
+         tipo,
+         {"orden", "etiqueta", "anadir", "lista", "OK"},
+         false},
+        {"Acotación de la muestra a utilizar",
+         {},
+         Orden(2038),
+         {"TextoInicial", "TextoFinal", "OK", "Cancela", "Ayuda"}},
         {"Muestra actual", {}, Orden(2085), {"OK"}},
         {"Relación de series", {}, Orden(2065), {"lista", "Borrar", "OK"}},
         {"Relación de matrices", {}, Orden(2064), {"lista", "Borrar", "OK"}},
         {"Relación de escalares", {}, Orden(2066), {"lista", "Borrar", "OK"}},
         {"Última regresión", {}, Orden(2086), {"OK"}},
         {"Opción del menú", {}, Orden(2002), {"OK"}},
-        {"Formato decimal", {},
+        {"Formato decimal",
+         {},
          [](VentanaPrincipal &v) {
              static int decimales;
              DialogoDecimales(decimales, AVentana(&v));
@@ -64,10 +81,14 @@ std::vector<AperturaDeDialogo> TodosLosDialogos() {
          {"decimales2", "OK", "Cancela"}},
         {"Acerca de..", {}, Orden(2046), {"OK"}},
         {"Reglas generales", {}, Orden(2067), {"Siguiente", "Cancelar"}, false},
-        {"Reglas generales", {Pulsados("Reglas generales", {"Siguiente"})}, Orden(2067),
-         {"Siguiente", "Anterior", "Cancelar"}, false},
+        {"Reglas generales",
+         {Pulsados("Reglas generales", {"Siguiente"})},
+         Orden(2067),
+         {"Siguiente", "Anterior", "Cancelar"},
+         false},
         {"Calculadora", {}, Orden(2053), {"OK"}},
-        {"Aviso", {},
+        {"Aviso",
+         {},
          [](VentanaPrincipal &v) {
              CajaQt(AVentana(&v), Texto1252DeUtf8("¿Desea guardar su trabajo?"), "Aviso", IconoPregunta,
                     BotonesSiNoCancelar);
@@ -76,7 +97,8 @@ std::vector<AperturaDeDialogo> TodosLosDialogos() {
     };
 }
 
-void EnDialogo(VentanaPrincipal &ventana, const AperturaDeDialogo &a, const std::function<void(QDialog &)> &hacer) {
+void EnDialogo(VentanaPrincipal &ventana, const AperturaDeDialogo &a,
+               const std::function<void(QDialog &)> &hacer) {
     PonerDatos(TipoAnual, "1990#1999");
     PonerMatriz("M", {1, 2}, 1, 2);
     PonerEscalar(nullptr, "E", 1);
@@ -86,7 +108,8 @@ void EnDialogo(VentanaPrincipal &ventana, const AperturaDeDialogo &a, const std:
                          if (d.isVisible()) d.reject();
                      }});
     // A page of the manual closes those below it itself.
-    for (auto p = a.camino.rbegin(); p != a.camino.rend() && std::string(p->titulo) != "Reglas generales"; ++p)
+    for (auto p = a.camino.rbegin(); p != a.camino.rend() && std::string(p->titulo) != "Reglas generales";
+         ++p)
         guion.push_back({p->titulo, [](QDialog &d) { d.reject(); }});
     ConGuion(guion, [&] { a.abrir(ventana); });
 }

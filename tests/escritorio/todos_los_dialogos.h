@@ -5,14 +5,15 @@
 
 struct AperturaDeDialogo {
     const char *titulo;
-    Guion camino;                           // through the dialogs above it
+    Guion camino; // through the dialogs above it
     std::function<void(VentanaPrincipal &)> abrir;
-    std::vector<const char *> orden;        // controls in the order of the Tab key, from the one that has it first
-    bool aceptaConEnter = true;             // Enter closes it as OK does
+    std::vector<const char *> orden; // controls in the order of the Tab key, from the one that has it first
+    bool aceptaConEnter = true;      // Enter closes it as OK does
 };
 
 // With a work file that fills the lists.
 std::vector<AperturaDeDialogo> TodosLosDialogos();
 
 // Opens the dialog, does `hacer` in it, closes it if it is still there, and cancels those above it.
-void EnDialogo(VentanaPrincipal &ventana, const AperturaDeDialogo &a, const std::function<void(QDialog &)> &hacer);
+void EnDialogo(VentanaPrincipal &ventana, const AperturaDeDialogo &a,
+               const std::function<void(QDialog &)> &hacer);

@@ -23,10 +23,13 @@ void PonerLineas(std::string &texto, const TextoSalida *lineas) {
     for (const LineaSalida &l : *lineas) texto += std::string(Recortado(l.texto, RecorteDerecha)) + "\n";
 }
 
-std::string Bytes(const QString &ruta) { return ruta.toStdString(); }
+std::string Bytes(const QString &ruta) {
+    return ruta.toStdString();
+}
 
 bool GuardarTexto(const SalidaResultado &salida, const QString &ruta) {
-    return EscribirArchivo(Bytes(ruta), Utf8De1252(std::string(salida.titulo) + "\n\n" + TextoDeResultado(salida)));
+    return EscribirArchivo(Bytes(ruta),
+                           Utf8De1252(std::string(salida.titulo) + "\n\n" + TextoDeResultado(salida)));
 }
 
 bool GuardarTabla(const SalidaResultado &salida, const QString &ruta) {
@@ -35,7 +38,8 @@ bool GuardarTabla(const SalidaResultado &salida, const QString &ruta) {
 
 // The pages that the printer would get.
 bool GuardarPdf(const SalidaResultado &salida, const QString &ruta) {
-    return ImprimirEnDocumento(Bytes(ruta), [&] { return ImprimirResultado(nullptr, salida.Contenido, salida) == 0; });
+    return ImprimirEnDocumento(Bytes(ruta),
+                               [&] { return ImprimirResultado(nullptr, salida.Contenido, salida) == 0; });
 }
 
 // The window's own painting, as long as the text is, at twice the screen's points.

@@ -52,7 +52,8 @@ template <class Formulario> struct DialogoConFormulario {
     bool Ejecutar() {
         QSize lado = dialogo.sizeHint().expandedTo(holgura);
         const QLayout &l = *dialogo.layout();
-        if (l.hasHeightForWidth()) lado.setHeight(std::max(lado.height(), l.totalHeightForWidth(lado.width())));
+        if (l.hasHeightForWidth())
+            lado.setHeight(std::max(lado.height(), l.totalHeightForWidth(lado.width())));
         dialogo.resize(lado);
         return dialogo.exec() == QDialog::Accepted;
     }

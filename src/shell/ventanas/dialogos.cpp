@@ -33,7 +33,8 @@ void DialogoMuestraActual(Ventana *ventana) {
     DialogoConFormulario<Ui::MuestraActual> d(ventana);
     QLabel *const lineas[] = {d.ui.linea0, d.ui.linea1, d.ui.linea2, d.ui.linea3};
     const std::vector<std::string> textos = LineasMuestraActual();
-    for (std::size_t i = 0; i < std::size(lineas) && i < textos.size(); ++i) lineas[i]->setText(QDe1252(textos[i]));
+    for (std::size_t i = 0; i < std::size(lineas) && i < textos.size(); ++i)
+        lineas[i]->setText(QDe1252(textos[i]));
     d.AlAceptar();
     d.Ejecutar();
 }
@@ -59,7 +60,8 @@ void DialogoUltimaRegresion(Ventana *ventana) {
     DialogoConFormulario<Ui::UltimaRegresionDialogo> d(ventana);
     QLabel *const lineas[] = {d.ui.linea0, d.ui.linea1, d.ui.linea2};
     const std::vector<std::string> textos = LineasUltimaRegresion();
-    for (std::size_t i = 0; i < std::size(lineas) && i < textos.size(); ++i) lineas[i]->setText(QDe1252(textos[i]));
+    for (std::size_t i = 0; i < std::size(lineas) && i < textos.size(); ++i)
+        lineas[i]->setText(QDe1252(textos[i]));
     d.AlAceptar();
     d.Ejecutar();
 }
@@ -76,6 +78,7 @@ void DialogoDecimales(int &decimales, Ventana *ventana) {
                                      d.ui.decimales4, d.ui.decimales5, d.ui.decimales6};
     // Two decimals are checked whatever the present value is.
     d.ui.decimales2->setChecked(true);
+    d.ui.decimales2->setFocus(); // the arrows go on from there
     d.AlAceptar([&] {
         for (std::size_t i = 0; i < std::size(botones); ++i)
             if (botones[i]->isChecked()) decimales = static_cast<int>(i);

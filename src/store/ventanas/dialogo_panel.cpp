@@ -41,8 +41,8 @@ void DialogoPanelConstante(Ventana *ventana) {
         int tipo = TipoAnual;
         for (int t = 0; t < 3; ++t)
             if (botones[t]->isChecked()) tipo = t + 1;
-        return AceptarPanelConstante(d.ventana(), De1252Q(d.ui.individuos->text()), tipo, De1252Q(d.ui.inicio->text()),
-                                     De1252Q(d.ui.fin->text())) == 1;
+        return AceptarPanelConstante(d.ventana(), De1252Q(d.ui.individuos->text()), tipo,
+                                     De1252Q(d.ui.inicio->text()), De1252Q(d.ui.fin->text())) == 1;
     });
     d.Ejecutar();
 }
@@ -58,7 +58,9 @@ void DialogoPanelPeriodos(Ventana *ventana) {
     };
     mostrar();
     QObject::connect(d.ui.anadir, &QPushButton::clicked, &d.dialogo, [&] {
-        if (AnadirPeriodoPanel(d.ventana(), De1252Q(d.ui.periodo->text()), De1252Q(d.ui.individuos->text())) == 0) return;
+        if (AnadirPeriodoPanel(d.ventana(), De1252Q(d.ui.periodo->text()),
+                               De1252Q(d.ui.individuos->text())) == 0)
+            return;
         d.ui.periodo->clear();
         d.ui.individuos->clear();
         d.ui.periodo->setFocus();
@@ -91,7 +93,8 @@ void DialogoPanelIndividuos(Ventana *ventana) {
         mostrarPeriodos();
     };
     mostrar(EdicionPanel.panel.NumEntradas > 0 ? 0 : -1);
-    QObject::connect(d.ui.individuos, &QListWidget::itemSelectionChanged, &d.dialogo, [&] { mostrarPeriodos(); });
+    QObject::connect(d.ui.individuos, &QListWidget::itemSelectionChanged, &d.dialogo,
+                     [&] { mostrarPeriodos(); });
     QObject::connect(d.ui.anadirIndividuo, &QPushButton::clicked, &d.dialogo, [&] {
         const int i = AnadirIndividuoPanel(d.ventana(), De1252Q(d.ui.orden->text()));
         if (i < 0) return;
@@ -128,7 +131,8 @@ void DialogoPanelEtiquetas(Ventana *ventana) {
     QObject::connect(d.ui.anadir, &QPushButton::clicked, &d.dialogo, [&] {
         const std::string orden = De1252Q(d.ui.orden->text());
         if (PonerEtiquetaIndividuo(d.ventana(), orden, De1252Q(d.ui.etiqueta->text())) == 0) return;
-        for (int i = 0; i < MaxIndividuosEtiqueta; ++i) d.ui.lista->item(i)->setText(QDe1252(LineaEtiqueta(i)));
+        for (int i = 0; i < MaxIndividuosEtiqueta; ++i)
+            d.ui.lista->item(i)->setText(QDe1252(LineaEtiqueta(i)));
         d.ui.orden->clear();
         d.ui.etiqueta->clear();
         d.ui.orden->setFocus();
