@@ -3,13 +3,17 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QTemporaryDir>
 
 #include <clocale>
 
 int main(int numArgumentos, char **argumentos) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // What is printed and saved stays in the build, and never reaches the paper of whoever runs the tests.
-    const QString casa = QStringLiteral(TABIRA_CASA);
+    // Each run has a folder of its own, since several run at once.
+    QDir().mkpath(QStringLiteral(TABIRA_CASA));
+    const QTemporaryDir propia(QStringLiteral(TABIRA_CASA "/XXXXXX"));
+    const QString casa = propia.path();
     QDir().mkpath(casa + QStringLiteral("/Documents"));
     qputenv("HOME", casa.toUtf8());
     qputenv("XDG_DOCUMENTS_DIR", (casa + QStringLiteral("/Documents")).toUtf8());

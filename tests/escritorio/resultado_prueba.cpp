@@ -100,6 +100,11 @@ bool HayPdftotext() {
     return !QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty();
 }
 
+// The home of this run.
+QString Casa() {
+    return qEnvironmentVariable("HOME");
+}
+
 QDir Documentos() {
     return {QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)};
 }
@@ -266,18 +271,17 @@ TEST_F(Resultado, CopiarComoTabla) {
 }
 
 TEST_F(Resultado, GuardarComo) {
-    const QString ruta = QStringLiteral(TABIRA_CASA "/elegido.txt");
+    const QString ruta = Casa() + QStringLiteral("/elegido.txt");
     QFile::remove(ruta);
     const auto guardar = [](QDialog &, QAbstractScrollArea &area) { DelMenu(area, "Guardar como..."); };
     EnKlein(*ventana, guardar, {ConEscape("Guardar como")});
     EXPECT_FALSE(QFile::exists(ruta));
-    EnKlein(*ventana, guardar,
-            {{"Guardar como", [&](QDialog &d) {
-                  auto *nombre = d.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-                  ASSERT_NE(nombre, nullptr);
-                  nombre->setText(QStringLiteral(TABIRA_CASA "/elegido")); // gets its ending
-                  QTest::keyClick(nombre, Qt::Key_Return);
-              }}});
+    EnKlein(*ventana, guardar, {{"Guardar como", [&](QDialog &d) {
+                                     auto *nombre = d.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+                                     ASSERT_NE(nombre, nullptr);
+                                     nombre->setText(Casa() + QStringLiteral("/elegido")); // gets its ending
+                                     QTest::keyClick(nombre, Qt::Key_Return);
+                                 }}});
     EXPECT_TRUE(QFile::exists(ruta));
     EXPECT_TRUE(Leer(ruta).contains("16.236600"));
 }
@@ -286,7 +290,7 @@ TEST_F(Resultado, GuardarEnTodasLasFormas) {
     TomarKlein(*ventana);
     const SalidaResultado salida = Guardado.Salida();
     const QString texto = QString::fromStdString(Utf8De1252(TextoDeResultado(salida)));
-    QDir carpeta(QStringLiteral(TABIRA_CASA "/guardados con eñe"));
+    QDir carpeta(Casa() + QStringLiteral("/guardados con eñe"));
     carpeta.removeRecursively();
     ASSERT_TRUE(carpeta.mkpath(QStringLiteral(".")));
 
@@ -323,9 +327,9 @@ TEST_F(Resultado, GuardarEnTodasLasFormas) {
 TEST_F(Resultado, GuardarDondeNoSePuede) {
     TomarKlein(*ventana);
     for (const char *final : {"txt", "tsv", "pdf", "png"})
-        EXPECT_FALSE(GuardarResultado(
-            Guardado.Salida(),
-            QStringLiteral(TABIRA_CASA "/no/existe/klein.%1").arg(QString::fromLatin1(final))))
+        EXPECT_FALSE(
+            GuardarResultado(Guardado.Salida(),
+                             Casa() + QStringLiteral("/no/existe/klein.%1").arg(QString::fromLatin1(final))))
             << final;
 }
 
@@ -334,9 +338,7 @@ TEST_F(Resultado, GuardarElMasLargo) {
     ResultadoGuardado largo;
     largo.titulo = "Largo";
     for (int i = 0; i < MaxLineasSalida; ++i) AnadirLinea(largo.lineas, i % 2, "linea " + std::to_string(i));
-    QDir().mkpath(QStringLiteral(TABIRA_CASA));
-    const QString pdf = QStringLiteral(TABIRA_CASA "/largo.pdf"),
-                  png = QStringLiteral(TABIRA_CASA "/largo.png");
+    const QString pdf = Casa() + QStringLiteral("/largo.pdf"), png = Casa() + QStringLiteral("/largo.png");
     QFile::remove(png);
     ASSERT_TRUE(GuardarResultado(largo.Salida(), pdf));
     const auto enElPdf = [&](const QString &linea) { return TextoDePdf(pdf).filter(linea).size() == 1; };
@@ -348,7 +350,7 @@ TEST_F(Resultado, GuardarElMasLargo) {
 // Without a printer a document of its own each time, whose place a note tells.
 TEST_F(Resultado, ImprimirSinImpresora) {
     const QDir documentos = Documentos();
-    ASSERT_TRUE(documentos.path().startsWith(QStringLiteral(TABIRA_CASA))); // not in anybody's folder
+    ASSERT_TRUE(documentos.path().startsWith(Casa())); // not in anybody's folder
     for (const QString &f : documentos.entryList({QStringLiteral("*.pdf")}))
         QFile::remove(documentos.filePath(f));
     QString texto;
