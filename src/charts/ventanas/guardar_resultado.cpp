@@ -23,10 +23,13 @@ void PonerLineas(std::string &texto, const TextoSalida *lineas) {
     for (const LineaSalida &l : *lineas) texto += std::string(Recortado(l.texto, RecorteDerecha)) + "\n";
 }
 
-std::string Bytes(const QString &ruta) { return ruta.toStdString(); }
+std::string Bytes(const QString &ruta) {
+    return ruta.toStdString();
+}
 
 bool GuardarTexto(const SalidaResultado &salida, const QString &ruta) {
-    return EscribirArchivo(Bytes(ruta), Utf8De1252(std::string(salida.titulo) + "\n\n" + TextoDeResultado(salida)));
+    return EscribirArchivo(Bytes(ruta),
+                           Utf8De1252(std::string(salida.titulo) + "\n\n" + TextoDeResultado(salida)));
 }
 
 bool GuardarTabla(const SalidaResultado &salida, const QString &ruta) {
@@ -35,28 +38,32 @@ bool GuardarTabla(const SalidaResultado &salida, const QString &ruta) {
 
 // The pages that the printer would get.
 bool GuardarPdf(const SalidaResultado &salida, const QString &ruta) {
-    return ImprimirEnDocumento(Bytes(ruta), [&] { return ImprimirResultado(nullptr, salida.Contenido, salida) == 0; });
+    return ImprimirEnDocumento(Bytes(ruta),
+                               [&] { return ImprimirResultado(nullptr, salida.Contenido, salida) == 0; });
 }
 
 // The window's own painting, as long as the text is, at twice the screen's points.
 bool GuardarImagen(const SalidaResultado &salida, const QString &ruta) {
     constexpr int AnchoCaracter = 16;
+    constexpr int AlturaMaxima = 32767; // what a painter reaches
     const QFont fuente = FuenteFija(AnchoCaracter);
     const int alto = QFontMetrics(fuente).lineSpacing();
     const auto filas = static_cast<int>(salida.lineas->size()) * 2 + 8; // every line may bring a rule
-    QImage imagen(AnchoCaracter * ColumnasVentanaResultado, alto * filas, QImage::Format_RGB32);
-    imagen.fill(Qt::white);
+    constexpr int Ancho = AnchoCaracter * ColumnasVentanaResultado;
     EstadoVentanaResultado estado{};
     estado.Clase = salida.Clase;
     estado.Contenido = salida.Contenido;
     {
-        QPainter pintor(&imagen);
+        // First beside the sheet, to learn how many rows it takes; then on a sheet of that size.
+        QImage minima(1, 1, QImage::Format_RGB32);
+        QPainter pintor(&minima);
         PintorSuperficie propio;
-        // First on the large sheet, to learn how many rows it takes; then on a sheet of that size.
-        Superficie s = SuperficieDePintor(propio, pintor, fuente, imagen.width(), imagen.height());
+        Superficie s = SuperficieDePintor(propio, pintor, fuente, Ancho, alto * filas);
         PintarResultado(s, estado, salida);
     }
-    imagen = QImage(imagen.width(), alto * (estado.Fila + 4) + 50, QImage::Format_RGB32);
+    const int altura = alto * (estado.Fila + 4) + 50;
+    if (altura > AlturaMaxima) return false;
+    QImage imagen(Ancho, altura, QImage::Format_RGB32);
     imagen.fill(Qt::white);
     {
         QPainter pintor(&imagen);

@@ -14,8 +14,8 @@ std::string TextoDeResultado(const SalidaResultado &salida);
 // Fields parted by tabulators, numbers with all their digits, so that a spreadsheet takes them apart.
 std::string TablaDeResultado(const SalidaResultado &salida);
 
-// Writes the result to a file: plain text (UTF-8), table, PDF, PNG or SVG by the ending of the name. False when it
-// can't be written.
+// Writes the result to a file: plain text (UTF-8), table, PDF or PNG by the ending of the name. False when it can't
+// be written, or is too long for a picture.
 bool GuardarResultado(const SalidaResultado &salida, const QString &ruta);
 
 // Asks for a name and saves; a failure is told.

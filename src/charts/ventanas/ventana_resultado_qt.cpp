@@ -126,6 +126,7 @@ void MostrarResultadoQt(Ventana *ventana, const SalidaResultado &salida) {
     disposicion->setContentsMargins(0, 0, 0, 0);
     auto *area = new AreaResultado(&dialogo, salida);
     auto *barra = new QMenuBar(&dialogo);
+    barra->setObjectName(QStringLiteral("menuResultado"));
     QAction *imprimir = barra->addAction(QStringLiteral("&Imprimir"));
     imprimir->setObjectName(QStringLiteral("comando2006"));
     QAction *salir = barra->addAction(QStringLiteral("&Salir"));

@@ -32,6 +32,7 @@ const std::vector<BotonDeCaja> BotonesDeCaja[] = {{Aceptar}, {Aceptar, Cancelar}
 
 Respuesta CajaQt(Ventana *ventana, std::string_view texto, std::string_view titulo, Icono icono, Botones botones) {
     QMessageBox caja(DeVentana(ventana));
+    caja.setObjectName(QStringLiteral("caja"));
     caja.setWindowTitle(QDe1252(titulo));
     caja.setTextFormat(Qt::PlainText);
     // A formula of 100,000 characters is told in full elsewhere; a box must stay on the screen.

@@ -4,7 +4,18 @@
 #include "platform/qt/ventana_qt.h"
 
 #include <QDialog>
+#include <QLayout>
+#include <QListWidget>
 #include <QPushButton>
+
+#include <algorithm>
+
+// The line of a list that the user has chosen, -1 for none. A list that gets the keyboard has a current line, too, which
+// nobody chose.
+inline int FilaElegida(const QListWidget &lista) {
+    const QList<QListWidgetItem *> elegidas = lista.selectedItems();
+    return elegidas.isEmpty() ? -1 : lista.row(elegidas.constFirst());
+}
 
 // A dialog with its generated form. The buttons OK and Cancela, where the form has them, accept and reject unless
 // the dialog connects OK itself to a check.
@@ -14,6 +25,10 @@ template <class Formulario> struct DialogoConFormulario {
 
     explicit DialogoConFormulario(Ventana *ventana) : dialogo(DeVentana(ventana)) {
         ui.setupUi(&dialogo);
+        // A least size of its own would stand in the place of the one that the texts ask for, and cut large letters:
+        // it is only the size to begin with.
+        holgura = dialogo.minimumSize();
+        dialogo.setMinimumSize(0, 0);
         dialogo.setWindowFlag(Qt::WindowContextHelpButtonHint, false);
         if (auto *cancela = dialogo.template findChild<QPushButton *>(QStringLiteral("Cancela")))
             QObject::connect(cancela, &QPushButton::clicked, &dialogo, &QDialog::reject);
@@ -32,5 +47,17 @@ template <class Formulario> struct DialogoConFormulario {
     }
 
     Ventana *ventana() { return AVentana(&dialogo); }
-    bool Ejecutar() { return dialogo.exec() == QDialog::Accepted; }
+
+    // The texts are in their places by now, and the dialog takes the room that they ask for.
+    bool Ejecutar() {
+        QSize lado = dialogo.sizeHint().expandedTo(holgura);
+        const QLayout &l = *dialogo.layout();
+        if (l.hasHeightForWidth())
+            lado.setHeight(std::max(lado.height(), l.totalHeightForWidth(lado.width())));
+        dialogo.resize(lado);
+        return dialogo.exec() == QDialog::Accepted;
+    }
+
+private:
+    QSize holgura;
 };

@@ -33,7 +33,8 @@ void DialogoMuestraActual(Ventana *ventana) {
     DialogoConFormulario<Ui::MuestraActual> d(ventana);
     QLabel *const lineas[] = {d.ui.linea0, d.ui.linea1, d.ui.linea2, d.ui.linea3};
     const std::vector<std::string> textos = LineasMuestraActual();
-    for (std::size_t i = 0; i < std::size(lineas) && i < textos.size(); ++i) lineas[i]->setText(QDe1252(textos[i]));
+    for (std::size_t i = 0; i < std::size(lineas) && i < textos.size(); ++i)
+        lineas[i]->setText(QDe1252(textos[i]));
     d.AlAceptar();
     d.Ejecutar();
 }
@@ -44,10 +45,12 @@ void DialogoLista(Ventana *ventana, ListasDeElementos lista) {
     d.ui.lista->setFont(FuenteFijaDePantalla());
     for (const std::string &linea : LineasLista(lista)) d.ui.lista->addItem(QDe1252(linea));
     QObject::connect(d.ui.Borrar, &QPushButton::clicked, &d.dialogo, [&] {
-        const int elegida = d.ui.lista->currentRow();
+        const int elegida = FilaElegida(*d.ui.lista);
         if (elegida < 0) return;
-        if (BorrarElemento(d.ventana(), lista, De1252Q(d.ui.lista->item(elegida)->text())))
-            delete d.ui.lista->takeItem(elegida);
+        if (!BorrarElemento(d.ventana(), lista, De1252Q(d.ui.lista->item(elegida)->text()))) return;
+        delete d.ui.lista->takeItem(elegida);
+        // The toolkit would choose the next line, and a second click delete it.
+        d.ui.lista->clearSelection();
     });
     d.AlAceptar();
     d.Ejecutar();
@@ -57,7 +60,8 @@ void DialogoUltimaRegresion(Ventana *ventana) {
     DialogoConFormulario<Ui::UltimaRegresionDialogo> d(ventana);
     QLabel *const lineas[] = {d.ui.linea0, d.ui.linea1, d.ui.linea2};
     const std::vector<std::string> textos = LineasUltimaRegresion();
-    for (std::size_t i = 0; i < std::size(lineas) && i < textos.size(); ++i) lineas[i]->setText(QDe1252(textos[i]));
+    for (std::size_t i = 0; i < std::size(lineas) && i < textos.size(); ++i)
+        lineas[i]->setText(QDe1252(textos[i]));
     d.AlAceptar();
     d.Ejecutar();
 }
@@ -74,6 +78,7 @@ void DialogoDecimales(int &decimales, Ventana *ventana) {
                                      d.ui.decimales4, d.ui.decimales5, d.ui.decimales6};
     // Two decimals are checked whatever the present value is.
     d.ui.decimales2->setChecked(true);
+    d.ui.decimales2->setFocus(); // the arrows go on from there
     d.AlAceptar([&] {
         for (std::size_t i = 0; i < std::size(botones); ++i)
             if (botones[i]->isChecked()) decimales = static_cast<int>(i);

@@ -12,21 +12,37 @@
 #include "ui_panel_periodos.h"
 
 #include <algorithm>
+#include <memory>
 
 namespace {
+
+// Runs a dialog that edits the copy as it goes: leaving it by another way than OK takes its changes back.
+template <class Dialogo> void EjecutarSobreCopia(Dialogo &d) {
+    const auto antes = std::make_unique<EdicionDePanel>(EdicionPanel);
+    if (!d.Ejecutar()) EdicionPanel = *antes;
+}
 
 void DialogoPanelConstante(Ventana *ventana) {
     DialogoConFormulario<Ui::PanelConstante> d(ventana);
     const DescripcionDePanel &panel = EdicionPanel.panel;
     QRadioButton *const botones[] = {d.ui.anual, d.ui.trimestral, d.ui.mensual};
-    if (panel.NumEntradas > 0) d.ui.individuos->setText(QString::number(panel.NumEntradas));
     botones[std::clamp(panel.TipoPeriodoPanel, 1, 3) - 1]->setChecked(true);
+    if (panel.NumEntradas > 0) {
+        const Intervalo &i = EdicionPanel.intervalo;
+        const int porAno = PeriodosPorAno(panel.TipoPeriodoPanel);
+        const auto texto = [&](int ano, int sub) {
+            return ano > 0 ? QDe1252(TextoDeIndice(IndicePeriodo(ano, sub, porAno), porAno)) : QString();
+        };
+        d.ui.individuos->setText(QString::number(panel.NumEntradas));
+        d.ui.inicio->setText(texto(i.primerAno, i.primerSub));
+        d.ui.fin->setText(texto(i.ultimoAno, i.ultimoSub));
+    }
     d.AlAceptar([&] {
         int tipo = TipoAnual;
         for (int t = 0; t < 3; ++t)
             if (botones[t]->isChecked()) tipo = t + 1;
-        return AceptarPanelConstante(d.ventana(), De1252Q(d.ui.individuos->text()), tipo, De1252Q(d.ui.inicio->text()),
-                                     De1252Q(d.ui.fin->text())) == 1;
+        return AceptarPanelConstante(d.ventana(), De1252Q(d.ui.individuos->text()), tipo,
+                                     De1252Q(d.ui.inicio->text()), De1252Q(d.ui.fin->text())) == 1;
     });
     d.Ejecutar();
 }
@@ -42,26 +58,29 @@ void DialogoPanelPeriodos(Ventana *ventana) {
     };
     mostrar();
     QObject::connect(d.ui.anadir, &QPushButton::clicked, &d.dialogo, [&] {
-        if (AnadirPeriodoPanel(d.ventana(), De1252Q(d.ui.periodo->text()), De1252Q(d.ui.individuos->text())) == 0) return;
+        if (AnadirPeriodoPanel(d.ventana(), De1252Q(d.ui.periodo->text()),
+                               De1252Q(d.ui.individuos->text())) == 0)
+            return;
         d.ui.periodo->clear();
         d.ui.individuos->clear();
         d.ui.periodo->setFocus();
         mostrar();
     });
     QObject::connect(d.ui.eliminar, &QPushButton::clicked, &d.dialogo, [&] {
-        if (d.ui.lista->currentRow() < 0) return;
-        QuitarPeriodoPanel(d.ui.lista->currentRow());
+        const int elegida = FilaElegida(*d.ui.lista);
+        if (elegida < 0) return;
+        QuitarPeriodoPanel(elegida);
         mostrar();
     });
     d.AlAceptar();
-    d.Ejecutar();
+    EjecutarSobreCopia(d);
 }
 
 void DialogoPanelIndividuos(Ventana *ventana) {
     DialogoConFormulario<Ui::PanelIndividuos> d(ventana);
     const auto mostrarPeriodos = [&] {
         d.ui.periodos->clear();
-        const int i = d.ui.individuos->currentRow();
+        const int i = FilaElegida(*d.ui.individuos);
         if (i < 0) return;
         const EntradaIndividuoPanel &e = EdicionPanel.panel.individuos[i];
         for (int p = 0; p < e.numPeriodos; ++p) d.ui.periodos->addItem(QDe1252(e.periodos[p]));
@@ -74,7 +93,8 @@ void DialogoPanelIndividuos(Ventana *ventana) {
         mostrarPeriodos();
     };
     mostrar(EdicionPanel.panel.NumEntradas > 0 ? 0 : -1);
-    QObject::connect(d.ui.individuos, &QListWidget::currentRowChanged, &d.dialogo, [&] { mostrarPeriodos(); });
+    QObject::connect(d.ui.individuos, &QListWidget::itemSelectionChanged, &d.dialogo,
+                     [&] { mostrarPeriodos(); });
     QObject::connect(d.ui.anadirIndividuo, &QPushButton::clicked, &d.dialogo, [&] {
         const int i = AnadirIndividuoPanel(d.ventana(), De1252Q(d.ui.orden->text()));
         if (i < 0) return;
@@ -83,25 +103,26 @@ void DialogoPanelIndividuos(Ventana *ventana) {
         d.ui.periodo->setFocus();
     });
     QObject::connect(d.ui.eliminarIndividuo, &QPushButton::clicked, &d.dialogo, [&] {
-        if (d.ui.individuos->currentRow() < 0) return;
-        QuitarIndividuoPanel(d.ui.individuos->currentRow());
+        const int elegido = FilaElegida(*d.ui.individuos);
+        if (elegido < 0) return;
+        QuitarIndividuoPanel(elegido);
         mostrar(-1);
     });
     QObject::connect(d.ui.anadirPeriodo, &QPushButton::clicked, &d.dialogo, [&] {
-        const int i = d.ui.individuos->currentRow();
+        const int i = FilaElegida(*d.ui.individuos);
         if (i < 0 || AnadirPeriodoIndividuo(d.ventana(), i, De1252Q(d.ui.periodo->text())) == 0) return;
         d.ui.periodo->clear();
         d.ui.periodo->setFocus();
         mostrarPeriodos();
     });
     QObject::connect(d.ui.eliminarPeriodo, &QPushButton::clicked, &d.dialogo, [&] {
-        const int i = d.ui.individuos->currentRow();
-        if (i < 0 || d.ui.periodos->currentRow() < 0) return;
-        QuitarPeriodoIndividuo(i, d.ui.periodos->currentRow());
+        const int i = FilaElegida(*d.ui.individuos), p = FilaElegida(*d.ui.periodos);
+        if (i < 0 || p < 0) return;
+        QuitarPeriodoIndividuo(i, p);
         mostrarPeriodos();
     });
     d.AlAceptar();
-    d.Ejecutar();
+    EjecutarSobreCopia(d);
 }
 
 void DialogoPanelEtiquetas(Ventana *ventana) {
@@ -110,7 +131,8 @@ void DialogoPanelEtiquetas(Ventana *ventana) {
     QObject::connect(d.ui.anadir, &QPushButton::clicked, &d.dialogo, [&] {
         const std::string orden = De1252Q(d.ui.orden->text());
         if (PonerEtiquetaIndividuo(d.ventana(), orden, De1252Q(d.ui.etiqueta->text())) == 0) return;
-        for (int i = 0; i < MaxIndividuosEtiqueta; ++i) d.ui.lista->item(i)->setText(QDe1252(LineaEtiqueta(i)));
+        for (int i = 0; i < MaxIndividuosEtiqueta; ++i)
+            d.ui.lista->item(i)->setText(QDe1252(LineaEtiqueta(i)));
         d.ui.orden->clear();
         d.ui.etiqueta->clear();
         d.ui.orden->setFocus();
@@ -118,14 +140,16 @@ void DialogoPanelEtiquetas(Ventana *ventana) {
     // A line that is chosen gives its label out for editing. By a click or Enter, so that the keys can walk the list.
     QObject::connect(d.ui.lista, &QListWidget::itemActivated, &d.dialogo, [&](QListWidgetItem *linea) {
         const int i = d.ui.lista->row(linea);
-        d.ui.orden->setText(QString::number(i + 1));
-        d.ui.etiqueta->setText(QDe1252(SacarEtiquetaIndividuo(i)));
+        const QString orden = QString::number(i + 1), etiqueta = QDe1252(SacarEtiquetaIndividuo(i));
+        // A double click chooses twice: what the first click took out stays in the field.
+        if (!etiqueta.isEmpty() || d.ui.orden->text() != orden) d.ui.etiqueta->setText(etiqueta);
+        d.ui.orden->setText(orden);
         linea->setText(QDe1252(LineaEtiqueta(i)));
         d.ui.etiqueta->setFocus();
     });
     QObject::connect(d.ui.lista, &QListWidget::itemClicked, d.ui.lista, &QListWidget::itemActivated);
     d.AlAceptar();
-    d.Ejecutar();
+    EjecutarSobreCopia(d);
 }
 
 } // namespace

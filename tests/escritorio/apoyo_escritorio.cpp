@@ -1,0 +1,171 @@
+// The main window of the tests, and the script of modal windows.
+#include "apoyo_escritorio.h"
+
+#include "platform/qt/plataforma_qt.h"
+#include "platform/qt/ventana_qt.h"
+#include "platform/strstr.h"
+#include "shell/comandos.h"
+#include "store/archivo.h"
+#include "store/panel.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTimer>
+
+namespace {
+
+struct EstadoGuion {
+    Guion pasos;
+    std::size_t siguiente = 0;
+    std::vector<QDialog *> enCurso; // windows whose step hasn't come back yet
+    int vueltasDeMas = 0;
+    bool terminado = false;
+};
+using Estado = std::shared_ptr<EstadoGuion>;
+
+void Mirar(const Estado &e);
+
+void VolverAMirar(const Estado &e) {
+    QTimer::singleShot(1, qApp, [e] { Mirar(e); });
+}
+
+void Mirar(const Estado &e) {
+    if (e->terminado) return;
+    VolverAMirar(e); // before the step: a window that it opens runs its own loop
+    auto *d = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+    if (d == nullptr || !d->isVisible() || (!e->enCurso.empty() && e->enCurso.back() == d)) return;
+    if (e->siguiente >= e->pasos.size()) {
+        if (++e->vueltasDeMas < 50) return; // it may be about to close
+        e->vueltasDeMas = 0;
+        ADD_FAILURE() << "a window that nobody expects: " << d->windowTitle().toStdString();
+        d->done(QDialog::Rejected);
+        return;
+    }
+    const Paso paso = e->pasos[e->siguiente++];
+    SCOPED_TRACE(paso.titulo);
+    if (d->windowTitle().toStdString() != paso.titulo) {
+        ADD_FAILURE() << "another window: " << d->windowTitle().toStdString();
+        d->done(QDialog::Rejected);
+        return;
+    }
+    e->enCurso.push_back(d);
+    paso.hacer(*d);
+    e->enCurso.pop_back();
+}
+
+std::vector<std::string> Codigos(int numero, const std::function<const char *(int)> &codigo) {
+    std::vector<std::string> r;
+    for (int i = 0; i < numero; ++i) r.emplace_back(Recortado(codigo(i)));
+    return r;
+}
+
+} // namespace
+
+void Escritorio::SetUp() {
+    EmpezarPrueba();
+    LimpiarEdicionPanel();
+    InstalarPlataformaQt();
+    InstalarOperacionesEscritorio();
+    ventana = std::make_unique<VentanaPrincipal>();
+    IniciarPrograma();
+}
+
+void Escritorio::Ordenar(int id) {
+    if (auto *entrada = ventana->findChild<QAction *>(QStringLiteral("comando%1").arg(id))) {
+        entrada->trigger();
+    } else {
+        EjecutarComando(AVentana(ventana.get()), id);
+    }
+}
+
+void PonerDatos(int tipo, std::string_view intervalo) {
+    EmpezarConDatos(tipo, intervalo);
+    InstalarPlataformaQt();
+}
+
+void ConGuion(const Guion &guion, const std::function<void()> &llamada) {
+    const auto estado = std::make_shared<EstadoGuion>();
+    estado->pasos = guion;
+    VolverAMirar(estado);
+    llamada();
+    estado->terminado = true;
+    for (std::size_t i = estado->siguiente; i < guion.size(); ++i)
+        ADD_FAILURE() << "a window that didn't come: " << guion[i].titulo;
+}
+
+Paso Caja(const char *titulo, const char *texto, const char *boton, QMessageBox::Icon icono) {
+    return {titulo, [=](QDialog &d) {
+                auto *caja = qobject_cast<QMessageBox *>(&d);
+                ASSERT_NE(caja, nullptr);
+                EXPECT_EQ(caja->text().toStdString(), texto);
+                EXPECT_EQ(caja->icon(), icono);
+                Pulsar(d, boton);
+            }};
+}
+
+Paso Pulsando(const char *titulo, const char *boton) {
+    return {titulo, [=](QDialog &d) { Pulsar(d, boton); }};
+}
+
+Paso ConEscape(const char *titulo) {
+    return {titulo, [](QDialog &d) { QTest::keyClick(&d, Qt::Key_Escape); }};
+}
+
+void Activar(QDialog &d) {
+    d.activateWindow();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &d; }, 1000));
+}
+
+void Pulsar(QWidget &w, const char *boton) {
+    if (auto *b = Hijo<QAbstractButton>(w, boton)) {
+        EXPECT_TRUE(b->isVisible()) << boton;
+        // On its mark: a radio button takes clicks on its text only as far as the text goes.
+        QTest::mouseClick(b, Qt::LeftButton, {}, QPoint(8, b->height() / 2));
+    } else {
+        w.close(); // not to hang
+    }
+}
+
+void Escribir(QWidget &w, const char *campo, const char *texto) {
+    auto *e = Hijo<QLineEdit>(w, campo);
+    if (e == nullptr) return;
+    e->setFocus();
+    e->selectAll();
+    QTest::keyClick(e, Qt::Key_Delete);
+    QTest::keyClicks(e, QString::fromUtf8(texto));
+}
+
+std::string TextoDe(QWidget &w, const char *control) {
+    QWidget *c = Hijo<QWidget>(w, control);
+    if (auto *l = qobject_cast<QLabel *>(c)) return l->text().toStdString();
+    if (auto *b = qobject_cast<QAbstractButton *>(c)) return b->text().toStdString();
+    if (auto *e = qobject_cast<QLineEdit *>(c)) return e->text().toStdString();
+    return {};
+}
+
+std::vector<std::string> LineasDe(QWidget &w, const char *lista) {
+    std::vector<std::string> r;
+    if (auto *l = Hijo<QListWidget>(w, lista))
+        for (int i = 0; i < l->count(); ++i) r.push_back(l->item(i)->text().toStdString());
+    return r;
+}
+
+void Elegir(QWidget &w, const char *lista, int linea) {
+    auto *l = Hijo<QListWidget>(w, lista);
+    if (l == nullptr) return;
+    ASSERT_LT(linea, l->count());
+    l->scrollToItem(l->item(linea));
+    QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, l->visualItemRect(l->item(linea)).center());
+}
+
+std::vector<std::string> CodigosDeSeries() {
+    return Codigos(ArchivoTrabajo.NumSeries, [](int i) { return ArchivoTrabajo.Codigos[i]; });
+}
+
+std::vector<std::string> CodigosDeEscalares() {
+    return Codigos(TablaEscalares.numero, [](int i) { return TablaEscalares.registro[i].Codigo; });
+}

@@ -1,0 +1,174 @@
+// The edit screen: its commands, and Procesar over a selection.
+#include "apoyo_escritorio.h"
+
+#include "store/archivo.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFontInfo>
+#include <QMimeData>
+
+#include <cmath>
+
+using Edicion = Escritorio;
+using Codigos = std::vector<std::string>;
+
+namespace {
+
+void Seleccionar(QPlainTextEdit &p, int desde, int hasta) {
+    QTextCursor c = p.textCursor();
+    c.setPosition(desde);
+    c.setPosition(hasta, QTextCursor::KeepAnchor);
+    p.setTextCursor(c);
+}
+
+} // namespace
+
+TEST_F(Edicion, ElControl) {
+    const QPlainTextEdit &p = *ventana->PantallaEdicion;
+    EXPECT_EQ(p.objectName(), QStringLiteral("PantallaEdicion"));
+    EXPECT_TRUE(QFontInfo(p.font()).fixedPitch());
+    EXPECT_EQ(p.verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
+    EXPECT_EQ(p.horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
+    EXPECT_EQ(p.lineWrapMode(), QPlainTextEdit::NoWrap);
+    EXPECT_TRUE(p.toPlainText().isEmpty());
+}
+
+TEST_F(Edicion, DeshacerCortarCopiarYPegar) {
+    QPlainTextEdit &p = *ventana->PantallaEdicion;
+    QTest::keyClicks(&p, QStringLiteral("ESC A = 1"));
+    Seleccionar(p, 4, 5);
+    Ordenar(2049);
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("A"));
+    EXPECT_EQ(p.toPlainText(), QStringLiteral("ESC A = 1"));
+    Seleccionar(p, 8, 9);
+    Ordenar(2050);
+    EXPECT_EQ(p.toPlainText(), QStringLiteral("ESC A = A"));
+    Ordenar(2047);
+    EXPECT_EQ(p.toPlainText(), QStringLiteral("ESC A = 1"));
+    Seleccionar(p, 0, 4);
+    Ordenar(2048);
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("ESC "));
+    EXPECT_EQ(p.toPlainText(), QStringLiteral("A = 1"));
+    Ordenar(2047);
+    EXPECT_EQ(p.toPlainText(), QStringLiteral("ESC A = 1"));
+}
+
+// With nothing selected nothing is cut or copied; with nothing to undo nothing happens.
+TEST_F(Edicion, SinNadaQueHacer) {
+    QPlainTextEdit &p = *ventana->PantallaEdicion;
+    QApplication::clipboard()->setText(QStringLiteral("antes"));
+    for (const int id : {2047, 2048, 2049}) Ordenar(id);
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("antes"));
+    EXPECT_TRUE(p.toPlainText().isEmpty());
+    Ordenar(2050);
+    EXPECT_EQ(p.toPlainText(), QStringLiteral("antes"));
+}
+
+// Text with a format of its own comes in as plain text.
+TEST_F(Edicion, PegaTextoSolo) {
+    auto *datos = new QMimeData;
+    datos->setHtml(QStringLiteral("<b>ESC</b> A = 1"));
+    datos->setText(QStringLiteral("ESC A = 1"));
+    QApplication::clipboard()->setMimeData(datos);
+    Ordenar(2050);
+    EXPECT_EQ(ventana->PantallaEdicion->toPlainText(), QStringLiteral("ESC A = 1"));
+}
+
+TEST_F(Edicion, TabuladorEscribe) {
+    QPlainTextEdit &p = *ventana->PantallaEdicion;
+    QTest::keyClicks(&p, QStringLiteral("A"));
+    QTest::keyClick(&p, Qt::Key_Tab);
+    EXPECT_EQ(p.toPlainText(), QStringLiteral("A\t"));
+}
+
+TEST_F(Edicion, ProcesarSinSeleccion) {
+    PonerDatos(TipoSinPeriodicidad, "");
+    for (const char *texto : {"", "ESC A = 1", "ESC A = 1\nESC B = 2\n"}) {
+        SCOPED_TRACE(texto);
+        ventana->PantallaEdicion->setPlainText(QString::fromUtf8(texto));
+        ConGuion({Caja("Proceso cancelado", "No hay datos a procesar. Punto 3.")}, [&] { Ordenar(2006); });
+        EXPECT_EQ(TablaEscalares.numero, 0);
+    }
+}
+
+namespace {
+
+struct CasoProcesar {
+    const char *nombre, *texto;
+    int desde, hasta; // the cursor goes from here to there
+    std::vector<std::pair<const char *, double>> escalares;
+    const char *caja = nullptr, *titulo = "Proceso cancelado";
+};
+
+const CasoProcesar Procesados[] = {
+    {"a line", "ESC A = 1", 0, 9, {{"A", 1}}},
+    {"half a line brings one character more", "ESC A = 1234", 0, 10, {{"A", 123}}},
+    {"up to the last but one", "ESC A = 1234", 0, 11, {{"A", 1234}}},
+    {"the character more is the end of the line", "ESC A = 1\nESC B = 2", 0, 9, {{"A", 1}}},
+    {"the next line's first character is no statement", "ESC A = 1\nESC B = 2", 0, 10, {{"A", 1}}},
+    {"several lines", "ESC A = 1\nESC B = 2\nESC C = 3\n", 0, 30, {{"A", 1}, {"B", 2}, {"C", 3}}},
+    {"the middle line", "ESC A = 1\nESC B = 2\nESC C = 3\n", 10, 19, {{"B", 2}}},
+    {"backwards", "ESC A = 1\nESC B = 2\nESC C = 3\n", 19, 0, {{"A", 1}, {"B", 2}}},
+    {"backwards from half a line", "ESC A = 1\nESC B = 234\nESC C = 3\n", 20, 10, {{"B", 234}}},
+    {"from inside a line", "XXESC A = 1", 2, 11, {{"A", 1}}},
+    {"accents take one place", "; Peñón\nESC A = 12", 8, 17, {{"A", 12}}},
+    {"so does what the tables lack", "; \xe2\x82\xac \xce\xb1\nESC A = 12", 6, 15, {{"A", 12}}},
+    {"and a sign of two units takes two", "; \xf0\x9f\x98\x80\nESC A = 12", 5, 14, {{"A", 12}}},
+    {"stops at the first that fails",
+     "ESC A = 1\nQQ\nESC B = 2",
+     0,
+     22,
+     {{"A", 1}},
+     "Funciones o parámetros no válidos: \n (QQ)",
+     "Proceso Cancelado"},
+    {"one character is a selection",
+     "QQ",
+     0,
+     1,
+     {},
+     "Funciones o parámetros no válidos: \n (QQ)",
+     "Proceso Cancelado"},
+    {"parentheses", "ESC A = (1", 0, 10, {}, "Número inadecuado de paréntesis"},
+    {"blank lines", "\n\n  \t\nESC A = 1\n\n", 0, 17, {{"A", 1}}},
+};
+
+} // namespace
+
+TEST_F(Edicion, ProcesarLoSeleccionado) {
+    for (const CasoProcesar &c : Procesados) {
+        SCOPED_TRACE(c.nombre);
+        PonerDatos(TipoSinPeriodicidad, "");
+        ventana->PantallaEdicion->setPlainText(QString::fromUtf8(c.texto));
+        Seleccionar(*ventana->PantallaEdicion, c.desde, c.hasta);
+        Guion guion;
+        if (c.caja != nullptr) guion.push_back(Caja(c.titulo, c.caja));
+        ConGuion(guion, [&] { Ordenar(2006); });
+        EXPECT_EQ(TablaEscalares.numero, static_cast<int>(c.escalares.size()));
+        for (const auto &[codigo, valor] : c.escalares) EXPECT_EQ(EscalarDe(codigo), valor) << codigo;
+        // The user finds the text and the selection as they were, and the arrow cursor.
+        EXPECT_EQ(ventana->PantallaEdicion->toPlainText().toStdString(), c.texto);
+        EXPECT_EQ(ventana->PantallaEdicion->textCursor().position(), c.hasta);
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    }
+}
+
+// The batch runs over the sample as it is now, and MUEST changes it for what follows.
+TEST_F(Edicion, ProcesarSobreLaMuestra) {
+    PonerDatos(TipoAnual, "1990#1999");
+    PonerSerie("A", {1, 2, 3, 4, 5, 6}, 2);
+    ventana->PantallaEdicion->setPlainText(QStringLiteral("SER B = A\nMUEST 1993 1994\nSER C = A"));
+    ventana->PantallaEdicion->selectAll();
+    ConGuion({}, [&] { Ordenar(2006); });
+    EXPECT_EQ(CodigosDeSeries(), (Codigos{"A", "B", "C"}));
+    // Rows 2 to 7 have a value of A; the limits 1993 and 1994 are the rows 3 and 4.
+    const auto presentes = [](const char *codigo) {
+        std::vector<int> filas;
+        const std::vector<double> v = ValoresDe(codigo, 10);
+        for (int i = 0; i < 10; ++i)
+            if (!std::isnan(v[static_cast<std::size_t>(i)])) filas.push_back(i);
+        return filas;
+    };
+    EXPECT_EQ(presentes("B"), (std::vector<int>{2, 3, 4, 5, 6, 7}));
+    EXPECT_EQ(presentes("C"), (std::vector<int>{3, 4}));
+}

@@ -1,0 +1,115 @@
+// Every dialog of the program and how a user gets to it.
+#include "todos_los_dialogos.h"
+
+#include "platform/qt/cajas_qt.h"
+#include "platform/qt/ventana_qt.h"
+#include "platform/texto.h"
+#include "shell/comandos.h"
+#include "shell/ventanas/dialogos.h"
+#include "store/archivo.h"
+
+namespace {
+
+std::function<void(VentanaPrincipal &)> Orden(int id) {
+    return [=](VentanaPrincipal &v) { EjecutarComando(AVentana(&v), id); };
+}
+
+Paso Pulsados(const char *titulo, const std::vector<const char *> &botones) {
+    return {titulo, [=](QDialog &d) {
+                for (const char *b : botones) Pulsar(d, b);
+            }};
+}
+
+Guion Hasta(const char *tipo, const std::vector<const char *> &panel = {}) {
+    Guion camino = {Pulsados("Tipos de datos", {tipo, "OK"})};
+    if (!panel.empty()) camino.push_back(Pulsados("Datos Panel", panel));
+    return camino;
+}
+
+} // namespace
+
+std::vector<AperturaDeDialogo> TodosLosDialogos() {
+    const auto tipo = Orden(2020);
+    return {
+        // Of a group of buttons Tab reaches the one that is checked, or the first; the arrows go on from there.
+        {"Tipos de datos", {}, tipo, {"NombreProyecto", "tipo0", "OK", "Cancela", "Ayuda"}, false},
+        {"Datos sin periodicidad", Hasta("tipo0"), tipo, {"etiquetas", "OK", "Cancela"}},
+        {"Datos anuales", Hasta("tipo1"), tipo, {"inicio", "fin", "OK", "Cancela"}},
+        {"Datos trimestrales", Hasta("tipo2"), tipo, {"inicio", "fin", "OK", "Cancela"}},
+        {"Datos mensuales", Hasta("tipo3"), tipo, {"inicio", "fin", "OK", "Cancela"}},
+        {"Datos Panel",
+         Hasta("tipo4"),
+         tipo,
+         {"periodoPrimero", "constante", "etiquetas", "introducirPeriodos", "introducirEtiquetas", "OK",
+          "Cancela"},
+         false},
+        {"Períodos/Individúos constante y secuencial",
+         Hasta("tipo4", {"constante", "introducirPeriodos"}),
+         tipo,
+         {"individuos", "anual", "inicio", "fin", "OK", "Cancela"},
+         false},
+        {"Períodos e Individúos",
+         Hasta("tipo4", {"variable", "periodoPrimero", "introducirPeriodos"}),
+         tipo,
+         {"periodo", "individuos", "anadir", "lista", "eliminar", "OK", "Cancela"}},
+        {"Individúos y Períodos",
+         Hasta("tipo4", {"variable", "individuoPrimero", "introducirPeriodos"}),
+         tipo,
+         {"orden", "anadirIndividuo", "individuos", "eliminarIndividuo", "periodo", "anadirPeriodo",
+          "periodos", "eliminarPeriodo", "OK", "Cancela"}},
+        {"Introducción de Etiquetas",
+         Hasta("tipo4", {"introducirEtiquetas"}),
+         tipo,
+         {"orden", "etiqueta", "anadir", "lista", "OK"},
+         false},
+        {"Acotación de la muestra a utilizar",
+         {},
+         Orden(2038),
+         {"TextoInicial", "TextoFinal", "OK", "Cancela", "Ayuda"}},
+        {"Muestra actual", {}, Orden(2085), {"OK"}},
+        {"Relación de series", {}, Orden(2065), {"lista", "Borrar", "OK"}},
+        {"Relación de matrices", {}, Orden(2064), {"lista", "Borrar", "OK"}},
+        {"Relación de escalares", {}, Orden(2066), {"lista", "Borrar", "OK"}},
+        {"Última regresión", {}, Orden(2086), {"OK"}},
+        {"Opción del menú", {}, Orden(2002), {"OK"}},
+        {"Formato decimal",
+         {},
+         [](VentanaPrincipal &v) {
+             static int decimales;
+             DialogoDecimales(decimales, AVentana(&v));
+         },
+         {"decimales2", "OK", "Cancela"}},
+        {"Acerca de..", {}, Orden(2046), {"OK"}},
+        {"Reglas generales", {}, Orden(2067), {"Siguiente", "Cancelar"}, false},
+        {"Reglas generales",
+         {Pulsados("Reglas generales", {"Siguiente"})},
+         Orden(2067),
+         {"Siguiente", "Anterior", "Cancelar"},
+         false},
+        {"Calculadora", {}, Orden(2053), {"OK"}},
+        {"Aviso",
+         {},
+         [](VentanaPrincipal &v) {
+             CajaQt(AVentana(&v), Texto1252DeUtf8("¿Desea guardar su trabajo?"), "Aviso", IconoPregunta,
+                    BotonesSiNoCancelar);
+         },
+         {"Si", "No", "Cancelar"}},
+    };
+}
+
+void EnDialogo(VentanaPrincipal &ventana, const AperturaDeDialogo &a,
+               const std::function<void(QDialog &)> &hacer) {
+    PonerDatos(TipoAnual, "1990#1999");
+    PonerMatriz("M", {1, 2}, 1, 2);
+    PonerEscalar(nullptr, "E", 1);
+    Guion guion = a.camino;
+    guion.push_back({a.titulo, [&](QDialog &d) {
+                         hacer(d);
+                         if (d.isVisible()) d.reject();
+                     }});
+    // A page of the manual closes those below it itself.
+    for (auto p = a.camino.rbegin(); p != a.camino.rend() && std::string(p->titulo) != "Reglas generales";
+         ++p)
+        guion.push_back({p->titulo, [](QDialog &d) { d.reject(); }});
+    ConGuion(guion, [&] { a.abrir(ventana); });
+}
