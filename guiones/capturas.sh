@@ -20,12 +20,21 @@ abrir() { # SCALE WIDTH HEIGHT
     sleep 1
     openbox >/dev/null 2>&1 &
     QT_SCALE_FACTOR=$1 "$programa" 2>/dev/null &
-    xdotool search --sync --onlyvisible --class tabira >/dev/null
+    ventana=$(xdotool search --sync --onlyvisible --class tabira | head -n 1)
     sleep 2
+    xdotool windowactivate --sync "$ventana" || true
 }
 cerrar() { kill "$servidor"; wait 2>/dev/null || true; }
 teclas() { for t in "$@"; do xdotool key --clearmodifiers "$t"; sleep 0.25; done; }
-escribir() { xdotool type --delay 8 -- "$1"; sleep 0.3; }
+escribir() { # LINE...: each but the last is closed by Enter
+    local primera=si linea
+    for linea in "$@"; do
+        [ "$primera" = si ] || xdotool key Return
+        primera=no
+        xdotool type --delay 8 -- "$linea"
+    done
+    sleep 0.3
+}
 captura() { sleep 0.5; import -window root "$destino/$1$sufijo.png"; }
 
 recorrido() { # the walk that shows every window
@@ -33,7 +42,8 @@ recorrido() { # the walk that shows every window
     teclas alt+d t; captura tipos_datos
     teclas alt+a Return; sleep 0.4; escribir 1990; teclas Tab; escribir 2005; captura periodos
     teclas Return; sleep 0.4
-    escribir $'; La tendencia y un choque en 1999\nSER T = TEND\nSER X = T + POT(T ,2) / 10\nSER Y = 3 + 2 * X\nOBS Y[1999] = 60\nMC Y 1 X T'
+    escribir '; Una tendencia con un choque en 1999' 'SER T = TEND' 'SER X = T + POT(T ,2) / 10' \
+        'SER Y = 3 + 2 * X' 'OBS Y[1999] = 60' 'MC Y 1 X T'
     captura ventana_principal
     teclas ctrl+a alt+p p; sleep 0.5; captura pregunta
     teclas Return; sleep 0.5; captura informe
