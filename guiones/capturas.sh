@@ -20,9 +20,9 @@ abrir() { # SCALE WIDTH HEIGHT
     sleep 1
     openbox >/dev/null 2>&1 &
     QT_SCALE_FACTOR=$1 "$programa" 2>/dev/null &
-    ventana=$(xdotool search --sync --onlyvisible --class tabira | head -n 1)
+    ventana=$(timeout 30 xdotool search --sync --onlyvisible --class tabira | head -n 1)
     sleep 2
-    xdotool windowactivate --sync "$ventana" || true
+    timeout 5 xdotool windowactivate --sync "$ventana" || true
 }
 cerrar() { kill "$servidor"; wait 2>/dev/null || true; }
 teclas() { for t in "$@"; do xdotool key --clearmodifiers "$t"; sleep 0.25; done; }
