@@ -38,7 +38,7 @@ ResultadoCorrida Correr(const std::vector<std::string> &argumentos, const Entorn
     r.estado = WIFEXITED(estado) ? WEXITSTATUS(estado) : -1;
     r.salida = LeerBytes(carpeta + "/salida");
     r.errores = LeerBytes(carpeta + "/errores");
-    std::filesystem::remove_all(carpeta);
+    std::filesystem::remove_all(std::filesystem::path(carpeta).parent_path());
     return r;
 }
 
@@ -58,8 +58,10 @@ std::vector<nlohmann::json> SucesosDe(const ResultadoCorrida &corrida, const std
 
 std::string CarpetaNueva(const std::string &nombre) {
     static int cuenta = 0;
-    const auto ruta = std::filesystem::temp_directory_path() /
-                      ("tabira_" + std::to_string(getpid()) + "_" + std::to_string(++cuenta)) / nombre;
+    std::filesystem::path temporales = std::filesystem::temp_directory_path();
+    if (temporales.string().find('-') != std::string::npos) temporales = "/tmp";
+    const auto ruta =
+        temporales / ("tabira_" + std::to_string(getpid()) + "_" + std::to_string(++cuenta)) / nombre;
     std::filesystem::create_directories(ruta);
     return ruta.string();
 }

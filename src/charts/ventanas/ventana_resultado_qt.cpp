@@ -47,7 +47,8 @@ public:
 
     QSize TamanoInicial() const {
         const QFontMetrics m(fuente);
-        return {m.horizontalAdvance(u'0') * ColumnasVentanaResultado + verticalScrollBar()->sizeHint().width(),
+        return {m.horizontalAdvance(u'0') * ColumnasVentanaResultado +
+                    verticalScrollBar()->sizeHint().width(),
                 m.lineSpacing() * FilasDeLaVentana};
     }
 

@@ -26,18 +26,21 @@ constexpr BotonDeCaja Si = {RespuestaSi, "&Sí"_w, "Si", QMessageBox::YesRole};
 constexpr BotonDeCaja No = {RespuestaNo, "&No", "No", QMessageBox::NoRole};
 
 // By Botones, the default first; the last one answers Escape, where it cancels.
-const std::vector<BotonDeCaja> BotonesDeCaja[] = {{Aceptar}, {Aceptar, Cancelar}, {Si, No}, {Si, No, Cancelar}};
+const std::vector<BotonDeCaja> BotonesDeCaja[] = {
+    {Aceptar}, {Aceptar, Cancelar}, {Si, No}, {Si, No, Cancelar}};
 
 } // namespace
 
-Respuesta CajaQt(Ventana *ventana, std::string_view texto, std::string_view titulo, Icono icono, Botones botones) {
+Respuesta CajaQt(Ventana *ventana, std::string_view texto, std::string_view titulo, Icono icono,
+                 Botones botones) {
     QMessageBox caja(DeVentana(ventana));
     caja.setObjectName(QStringLiteral("caja"));
     caja.setWindowTitle(QDe1252(titulo));
     caja.setTextFormat(Qt::PlainText);
     // A formula of 100,000 characters is told in full elsewhere; a box must stay on the screen.
     constexpr std::size_t MasLargo = 2000;
-    caja.setText(QDe1252(texto.substr(0, MasLargo)) + (texto.size() > MasLargo ? QStringLiteral("...") : QString()));
+    caja.setText(QDe1252(texto.substr(0, MasLargo)) +
+                 (texto.size() > MasLargo ? QStringLiteral("...") : QString()));
     caja.setIcon(Iconos[icono]);
     std::vector<QPushButton *> puestos;
     for (const BotonDeCaja &b : BotonesDeCaja[botones]) {

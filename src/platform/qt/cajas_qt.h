@@ -5,4 +5,5 @@
 
 #include <string_view>
 
-Respuesta CajaQt(Ventana *ventana, std::string_view texto, std::string_view titulo, Icono icono, Botones botones);
+Respuesta CajaQt(Ventana *ventana, std::string_view texto, std::string_view titulo, Icono icono,
+                 Botones botones);

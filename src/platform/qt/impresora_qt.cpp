@@ -28,9 +28,11 @@ std::string UltimoDocumento;
 QString DocumentoNuevo(const std::string &documento) {
     const QDir carpeta(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     carpeta.mkpath(QStringLiteral("."));
-    const QString nombre = QDe1252(documento).remove(u':') + QDateTime::currentDateTime().toString(QStringLiteral(" yyyy-MM-dd HH.mm.ss"));
+    const QString nombre = QDe1252(documento).remove(u':') +
+                           QDateTime::currentDateTime().toString(QStringLiteral(" yyyy-MM-dd HH.mm.ss"));
     QString ruta = carpeta.filePath(nombre + QStringLiteral(".pdf"));
-    for (int n = 2; QFileInfo::exists(ruta); ++n) ruta = carpeta.filePath(nombre + QStringLiteral(" (%1).pdf").arg(n));
+    for (int n = 2; QFileInfo::exists(ruta); ++n)
+        ruta = carpeta.filePath(nombre + QStringLiteral(" (%1).pdf").arg(n));
     return ruta;
 }
 
@@ -43,7 +45,9 @@ void Avisar(const QString &texto) {
 
 } // namespace
 
-void EmpezarTrabajoQt(std::string_view titulo) { EmpezarTrabajoGrabado(titulo); }
+void EmpezarTrabajoQt(std::string_view titulo) {
+    EmpezarTrabajoGrabado(titulo);
+}
 
 void TerminarTrabajoQt() {
     const TrabajoImpreso trabajo = TerminarTrabajoGrabado();
@@ -75,4 +79,6 @@ bool ImprimirEnDocumento(const std::string &ruta, const std::function<bool()> &i
     return bien && DocumentoEscrito;
 }
 
-const std::string &UltimoDocumentoImpreso() { return UltimoDocumento; }
+const std::string &UltimoDocumentoImpreso() {
+    return UltimoDocumento;
+}

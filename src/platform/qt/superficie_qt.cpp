@@ -10,9 +10,13 @@
 
 namespace {
 
-PintorSuperficie &Propio(void *p) { return *static_cast<PintorSuperficie *>(p); }
+PintorSuperficie &Propio(void *p) {
+    return *static_cast<PintorSuperficie *>(p);
+}
 
-QColor De(Color c) { return {c.r, c.g, c.b}; }
+QColor De(Color c) {
+    return {c.r, c.g, c.b};
+}
 
 QPen De(const Pluma &pluma) {
     static constexpr Qt::PenStyle Estilos[] = {Qt::SolidLine, Qt::DotLine, Qt::DashLine, Qt::DashDotLine};
@@ -77,9 +81,11 @@ QFont FuenteFijaDePantalla() {
     return f;
 }
 
-Superficie SuperficieDePintor(PintorSuperficie &propio, QPainter &pintor, const QFont &fuente, int ancho, int alto) {
+Superficie SuperficieDePintor(PintorSuperficie &propio, QPainter &pintor, const QFont &fuente, int ancho,
+                              int alto) {
     pintor.setFont(fuente);
     const QFontMetrics metrica(fuente, pintor.device());
     propio = {&pintor, metrica.horizontalAdvance(QLatin1Char('0')), metrica.ascent()};
-    return {&propio, ancho, alto, propio.anchoCaracter, metrica.lineSpacing(), PintarLinea, PintarRectangulo, PintarTexto};
+    return {&propio,          ancho,      alto, propio.anchoCaracter, metrica.lineSpacing(), PintarLinea,
+            PintarRectangulo, PintarTexto};
 }

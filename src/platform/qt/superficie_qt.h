@@ -20,4 +20,5 @@ struct PintorSuperficie {
 };
 
 // A surface of the given size over an active painter, whose font is set. `propio` is filled by the call.
-Superficie SuperficieDePintor(PintorSuperficie &propio, QPainter &pintor, const QFont &fuente, int ancho, int alto);
+Superficie SuperficieDePintor(PintorSuperficie &propio, QPainter &pintor, const QFont &fuente, int ancho,
+                              int alto);

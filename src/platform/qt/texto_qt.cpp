@@ -4,7 +4,9 @@
 #include "platform/literal.h"
 #include "platform/texto.h"
 
-QString QDe1252(std::string_view texto) { return QString::fromStdString(Utf8De1252(texto)); }
+QString QDe1252(std::string_view texto) {
+    return QString::fromStdString(Utf8De1252(texto));
+}
 
 std::string De1252Q(const QString &texto) {
     std::string r;

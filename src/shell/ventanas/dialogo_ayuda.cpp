@@ -22,7 +22,8 @@ int MostrarAcerca(Ventana *ventana, const PaginaManual &) {
         l->setPixmap(QIcon(QStringLiteral(":/tabira/icono128.png")).pixmap(48, 48));
     QLabel *const autores[] = {d.ui.autor0, d.ui.autor1, d.ui.autor2};
     const auto nombres = NombresAcercaDe();
-    for (std::size_t i = 0; i < std::size(autores) && i < nombres.size(); ++i) autores[i]->setText(QDe1252(nombres[i]));
+    for (std::size_t i = 0; i < std::size(autores) && i < nombres.size(); ++i)
+        autores[i]->setText(QDe1252(nombres[i]));
     d.AlAceptar();
     d.Ejecutar();
     return BotonAyudaOK;
@@ -69,4 +70,6 @@ int MostrarUnaPagina(Ventana *ventana, const PaginaManual &pagina) {
 
 } // namespace
 
-void DialogoAyuda(Ventana *ventana, int pagina) { PaginaAyuda(ventana, pagina, MostrarUnaPagina); }
+void DialogoAyuda(Ventana *ventana, int pagina) {
+    PaginaAyuda(ventana, pagina, MostrarUnaPagina);
+}

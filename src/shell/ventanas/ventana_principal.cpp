@@ -16,7 +16,9 @@
 
 namespace {
 
-VentanaPrincipal *Principal(Ventana *ventana) { return qobject_cast<VentanaPrincipal *>(DeVentana(ventana)); }
+VentanaPrincipal *Principal(Ventana *ventana) {
+    return qobject_cast<VentanaPrincipal *>(DeVentana(ventana));
+}
 
 // The menu of a path such as "&Contrastes/Contrastes de &heteroscedasticidad", created where it's missing.
 QMenu *MenuDeRuta(QMenuBar *barra, const QString &ruta) {
@@ -116,7 +118,8 @@ void InstalarOperacionesEscritorio() {
                 case EditarPegar: p->paste(); break;
                 }
             },
-        .ponerTitulo = [](Ventana *v, std::string_view titulo) { Principal(v)->setWindowTitle(QDe1252(titulo)); },
+        .ponerTitulo = [](Ventana *v,
+                          std::string_view titulo) { Principal(v)->setWindowTitle(QDe1252(titulo)); },
         .destruir =
             [](Ventana *v) {
                 Principal(v)->Destruida = true;
