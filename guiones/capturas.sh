@@ -19,6 +19,7 @@ abrir() { # SCALE WIDTH HEIGHT
     servidor=$!
     sleep 1
     openbox >/dev/null 2>&1 &
+    sleep 1.5 # a window that is mapped before the window manager stands may stay hidden
     QT_SCALE_FACTOR=$1 "$programa" 2>/dev/null &
     ventana=$(timeout 30 xdotool search --sync --onlyvisible --class tabira | head -n 1)
     sleep 2
@@ -50,15 +51,15 @@ recorrido() { # the walk that shows every window
     teclas Escape; sleep 0.3
     teclas alt+d r; captura relacion_series; teclas Escape
     teclas alt+d l; captura relacion_escalares; teclas Escape
-    teclas alt+d m Return; sleep 0.2; captura muestra_actual; teclas Escape Escape
+    teclas alt+d m m Return; captura muestra_actual; teclas Escape
     teclas alt+p m; captura muestra; teclas Escape
-    teclas alt+t u Return; captura ultima_regresion; teclas Escape Escape
+    teclas alt+t Up Return; captura ultima_regresion; teclas Escape
     teclas alt+y r; captura ayuda_reglas; teclas Return; captura ayuda_reglas_2; teclas Escape Escape
     teclas alt+y t; captura ayuda_series; teclas Escape
     teclas alt+y n; captura ayuda_control; teclas Escape
     teclas alt+y a; captura acerca_de; teclas Escape
-    teclas alt+c o Return; captura no_ensamblada; teclas Escape Escape
-    teclas alt+d t alt+p Return; captura panel; teclas Escape Escape
+    teclas alt+c o; captura no_ensamblada; teclas Escape
+    teclas alt+d t alt+p Return Return; captura panel; teclas Escape Escape
 }
 
 for escala in 1 2; do
