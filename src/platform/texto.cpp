@@ -98,17 +98,13 @@ std::string Formatear(const char *formato, ...) {
     char corto[256];
     va_list argumentos;
     va_start(argumentos, formato);
-    va_list otraVez;
-    va_copy(otraVez, argumentos);
     const int largo = std::vsnprintf(corto, sizeof corto, formato, argumentos);
     va_end(argumentos);
-    std::string r;
-    if (largo > 0 && static_cast<std::size_t>(largo) < sizeof corto) {
-        r.assign(corto, static_cast<std::size_t>(largo));
-    } else if (largo > 0) {
-        r.resize(static_cast<std::size_t>(largo));
-        std::vsnprintf(r.data(), r.size() + 1, formato, otraVez);
-    }
-    va_end(otraVez);
+    if (largo <= 0) return {};
+    if (static_cast<std::size_t>(largo) < sizeof corto) return {corto, static_cast<std::size_t>(largo)};
+    std::string r(static_cast<std::size_t>(largo), '\0');
+    va_start(argumentos, formato);
+    std::vsnprintf(r.data(), r.size() + 1, formato, argumentos);
+    va_end(argumentos);
     return r;
 }
