@@ -1,6 +1,7 @@
 // A regression formula by formula.
 #include "apoyo/cadena_formulas.h"
 
+#include "apoyo/plataforma_prueba.h"
 #include "language/asignaciones.h"
 #include "matrix/formula_matriz.h"
 #include "platform/analib01.h"
@@ -51,18 +52,6 @@ bool Serie(std::string_view destino, const std::string &texto) {
 
 bool SerieDe(std::string_view serie, std::string_view matriz) {
     return SerieDesdeMatriz(serie, "{" + std::string(matriz) + "}", 1, nullptr) == 1;
-}
-
-std::vector<double> Elementos(std::string_view codigo, int &filas, int &columnas) {
-    const int m = BuscarMatriz(codigo);
-    if (m < 0) return {};
-    filas = TablaMatrices.registro[m].Filas;
-    columnas = TablaMatrices.registro[m].Columnas;
-    FijarMatriz(m);
-    const double *d = TablaMatrices.registro[m].Datos;
-    std::vector<double> r(d, d + filas * columnas);
-    SoltarMatriz(m);
-    return r;
 }
 
 bool Guardar(std::string_view codigo, const std::vector<double> &datos, int filas, int columnas) {
@@ -146,12 +135,12 @@ bool EstimarPorFormulas(std::string_view dependiente, const std::vector<std::str
     for (const char *nombre : {"_TMF2", "_TMF3", "_TMF4"})
         if (!Matriz(nombre, "{0 0 0 0}")) return false;
     int n = 0, k = 0, una = 0;
-    const std::vector<double> X = Elementos("_XIND", n, k);
+    const std::vector<double> X = MatrizDe("_XIND", n, k);
     if (!Momentos(dependiente, X, n, k) || !Matriz("_BETA", "_TMF5$ * _TMF6")) return false;
     if (!Matriz("_YAJU1", "_XIND * _BETA") || !SerieDe("_YAJUS", "_YAJU1")) return false;
     if (!Matriz("_RESM", "_YDEP - (_XIND * _BETA)") || !SerieDe("_RES", "_RESM")) return false;
-    const std::vector<double> residuos = Elementos("_RESM", n, una);
-    if (!Residuos(residuos) || !Medidas(Elementos("_YDEP", n, una), residuos, k, seriesRegresoras))
+    const std::vector<double> residuos = MatrizDe("_RESM", n, una);
+    if (!Residuos(residuos) || !Medidas(MatrizDe("_YDEP", n, una), residuos, k, seriesRegresoras))
         return false;
     if (!Matriz("_DTE1", "_DTE'") || !SerieDe("_DTE2", "_DTE1") || !SerieDe("_BETA2", "_BETA")) return false;
     return Serie("_DIV", "_BETA2/_DTE2") && Serie("_PROBT", "PROBT(_DIV,_NORE)");
