@@ -1,6 +1,7 @@
 // Every dialog of the program and how a user gets to it.
 #include "todos_los_dialogos.h"
 
+#include "charts/ventanas/dialogo_seleccion.h"
 #include "platform/qt/cajas_qt.h"
 #include "platform/qt/ventana_qt.h"
 #include "platform/texto.h"
@@ -79,6 +80,11 @@ std::vector<AperturaDeDialogo> TodosLosDialogos() {
              DialogoDecimales(decimales, AVentana(&v));
          },
          {"decimales2", "OK", "Cancela"}},
+        {"Selección de series",
+         {},
+         [](VentanaPrincipal &v) { DialogoSeleccion(AVentana(&v), SeleccionDeSeries); },
+         {"disponibles", "Anadir", "Eliminar", "elegidas", "Decimales", "OK", "Cancela"},
+         false},
         {"Acerca de..", {}, Orden(2046), {"OK"}},
         {"Reglas generales", {}, Orden(2067), {"Siguiente", "Cancelar"}, false},
         {"Reglas generales",
