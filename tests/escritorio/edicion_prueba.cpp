@@ -172,3 +172,23 @@ TEST_F(Edicion, ProcesarSobreLaMuestra) {
     EXPECT_EQ(presentes("B"), (std::vector<int>{2, 3, 4, 5, 6, 7}));
     EXPECT_EQ(presentes("C"), (std::vector<int>{3, 4}));
 }
+
+// A line runs under the wait cursor, whatever the line before it set; a box is read under the arrow.
+TEST_F(Edicion, CursorDeEspera) {
+    const auto forma = [] {
+        const QCursor *c = QApplication::overrideCursor();
+        return c != nullptr ? c->shape() : Qt::BlankCursor; // blank stands for none of its own
+    };
+    PonerCursor(CursorEspera);
+    PonerCursor(CursorEspera);
+    EXPECT_EQ(forma(), Qt::WaitCursor);
+    ConGuion({{"Aviso",
+               [&](QDialog &d) {
+                   EXPECT_EQ(forma(), Qt::ArrowCursor);
+                   Pulsar(d, "Aceptar");
+               }}},
+             [] { MostrarMensaje(nullptr, "texto", TituloAviso); });
+    EXPECT_EQ(forma(), Qt::WaitCursor);
+    PonerCursor(CursorFlecha);
+    EXPECT_EQ(forma(), Qt::BlankCursor);
+}
