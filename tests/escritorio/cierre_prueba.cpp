@@ -171,7 +171,7 @@ TEST_F(Cierre, ElEditorEsperaOculto) {
 // A name is shown as it was typed, even where the toolkit has a mark of its own.
 TEST_F(Cierre, ElTituloLlevaElNombreTalCual) {
     ventana->show();
-    for (const char *nombre : {"KLEIN", "A [*] B", "[*][*]", "5 % &c <b>"}) {
+    for (const char *nombre : {"KLEIN", "A [*] B", "[*][*]", "5% &c<b>"}) {
         PonerCampo(ArchivoTrabajo.NombreProyecto, nombre, AnchoProyecto);
         ConGuion({ConEscape("Tipos de datos")}, [&] { Ordenar(2020); });
         EXPECT_EQ(ventana->windowHandle()->title().toStdString(), std::string("Tabira: ") + nombre);
