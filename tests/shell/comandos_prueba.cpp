@@ -185,3 +185,11 @@ TEST(Comandos, LaPreguntaDelCierre) {
         EXPECT_EQ(Pedido, c.pedido);
     }
 }
+
+TEST(Comandos, SinMemoria) {
+    EmpezarPrueba();
+    MensajeSinMemoria(2001, 3999, nullptr);
+    EXPECT_EQ(Prueba.cajas,
+              (std::vector<CajaVista>{{"Proceso cancelado", "No hay suficiente memoria. Ptos: 2001 3999",
+                                       IconoInformacion, BotonesAceptar}}));
+}
