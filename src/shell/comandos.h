@@ -32,10 +32,10 @@ struct Comando {
     int id;
     const char *menu;    // menu and, behind "/", submenu; null for an id that no entry bears
     const char *entrada; // with its mnemonic behind "&"
-    const char
-        *bloques; // block groups that the command works on: W BufferMatriz, V ValoresObs, P PresenciaObs,
-                  // L EtiquetasObs, T TextosPeriodo, E TextosEcuacion. They are plain arrays that live as
-                  // long as the program; the table says who touches what.
+    // Block groups that the command works on: W BufferMatriz, V ValoresObs, P PresenciaObs, L EtiquetasObs,
+    // T TextosPeriodo, E TextosEcuacion. They are plain arrays that live as long as the program; the table says who
+    // touches what.
+    const char *bloques;
     bool refrescaMuestra;   // ActualizarMuestra runs before the work
     const char *guardia;    // message while no data type was chosen, null for none
     RutinaDeComando rutina; // null: announced and not built

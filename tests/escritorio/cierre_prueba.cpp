@@ -2,12 +2,14 @@
 #include "apoyo_escritorio.h"
 
 #include "platform/qt/ventana_qt.h"
+#include "platform/strstr.h"
 #include "shell/comandos.h"
 #include "store/archivo.h"
 
 #include <QApplication>
 #include <QLabel>
 #include <QTimer>
+#include <QWindow>
 
 using Cierre = Escritorio;
 
@@ -151,4 +153,27 @@ TEST_F(Cierre, AlEmpezar) {
     ventana->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(ventana.get()));
     EXPECT_TRUE(ventana->PantallaEdicion->hasFocus()); // ready to type
+}
+
+// The window of the editor is there from the start, belongs to the main window, and waits hidden.
+TEST_F(Cierre, ElEditorEsperaOculto) {
+    ventana->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(ventana.get()));
+    const auto *editor = ventana->findChild<QWidget *>(QStringLiteral("EditorDatos"));
+    ASSERT_NE(editor, nullptr);
+    EXPECT_TRUE(editor->isWindow());
+    EXPECT_FALSE(editor->isVisible());
+    EXPECT_EQ(editor->parentWidget(), ventana.get());
+    EXPECT_EQ(editor->windowTitle(), QStringLiteral("Editor de Series/Matrices"));
+    EXPECT_EQ(editor->size(), QSize(640, 450));
+}
+
+// A name is shown as it was typed, even where the toolkit has a mark of its own.
+TEST_F(Cierre, ElTituloLlevaElNombreTalCual) {
+    ventana->show();
+    for (const char *nombre : {"KLEIN", "A [*] B", "[*][*]", "5% &c<b>"}) {
+        PonerCampo(ArchivoTrabajo.NombreProyecto, nombre, AnchoProyecto);
+        ConGuion({ConEscape("Tipos de datos")}, [&] { Ordenar(2020); });
+        EXPECT_EQ(ventana->windowHandle()->title().toStdString(), std::string("Tabira: ") + nombre);
+    }
 }

@@ -153,6 +153,34 @@ TEST_F(Edicion, ProcesarLoSeleccionado) {
     }
 }
 
+// Whatever parts the lines of a pasted text, and whatever kind of blank stands in it, the selection is the text.
+TEST_F(Edicion, ProcesarLoPegado) {
+    PonerDatos(TipoSinPeriodicidad, "");
+    QApplication::clipboard()->setText(
+        QStringLiteral("ESC A = 1\r\nESC B = 2\rESC C = 3\u2028ESC D = 4\u2029ESC\u00a0E = 56"));
+    Ordenar(2050);
+    QPlainTextEdit &p = *ventana->PantallaEdicion;
+    const int fin = p.document()->characterCount() - 1;
+    Seleccionar(p, 0, fin - 2); // the last but one character comes along
+    ConGuion({}, [&] { Ordenar(2006); });
+    EXPECT_EQ(CodigosDeEscalares(), (Codigos{"A", "B", "C", "D", "E"}));
+    EXPECT_EQ(EscalarDe("D"), 4);
+    EXPECT_EQ(EscalarDe("E"), 5);
+}
+
+// Positions don't end at 65,535.
+TEST_F(Edicion, ProcesarMuyAbajo) {
+    PonerDatos(TipoSinPeriodicidad, "");
+    QPlainTextEdit &p = *ventana->PantallaEdicion;
+    QString texto;
+    for (int i = 0; i < 7000; ++i) texto += QStringLiteral("ESC A = 1\n");
+    p.setPlainText(texto + QStringLiteral("ESC B = 2\nESC C = 3"));
+    Seleccionar(p, 70000, 70009);
+    ConGuion({}, [&] { Ordenar(2006); });
+    EXPECT_EQ(CodigosDeEscalares(), (Codigos{"B"}));
+    EXPECT_EQ(EscalarDe("B"), 2);
+}
+
 // The batch runs over the sample as it is now, and MUEST changes it for what follows.
 TEST_F(Edicion, ProcesarSobreLaMuestra) {
     PonerDatos(TipoAnual, "1990#1999");
@@ -171,4 +199,24 @@ TEST_F(Edicion, ProcesarSobreLaMuestra) {
     };
     EXPECT_EQ(presentes("B"), (std::vector<int>{2, 3, 4, 5, 6, 7}));
     EXPECT_EQ(presentes("C"), (std::vector<int>{3, 4}));
+}
+
+// A line runs under the wait cursor, whatever the line before it set; a box is read under the arrow.
+TEST_F(Edicion, CursorDeEspera) {
+    const auto forma = [] {
+        const QCursor *c = QApplication::overrideCursor();
+        return c != nullptr ? c->shape() : Qt::BlankCursor; // blank stands for none of its own
+    };
+    PonerCursor(CursorEspera);
+    PonerCursor(CursorEspera);
+    EXPECT_EQ(forma(), Qt::WaitCursor);
+    ConGuion({{"Aviso",
+               [&](QDialog &d) {
+                   EXPECT_EQ(forma(), Qt::ArrowCursor);
+                   Pulsar(d, "Aceptar");
+               }}},
+             [] { MostrarMensaje(nullptr, "texto", TituloAviso); });
+    EXPECT_EQ(forma(), Qt::WaitCursor);
+    PonerCursor(CursorFlecha);
+    EXPECT_EQ(forma(), Qt::BlankCursor);
 }

@@ -17,8 +17,11 @@
 
 namespace {
 
-// The program sets the wait cursor for each line and the arrow at the end; one override stands for all of them.
+// The program sets the wait cursor for each line and the arrow at the end; one override stands for all of them. A
+// loop runs lines by the hundred thousand: a cursor that stands already isn't sent to the display again.
 void CursorQt(Cursor cursor) {
+    const QCursor *puesto = QApplication::overrideCursor();
+    if (cursor == CursorEspera && puesto != nullptr && puesto->shape() == Qt::WaitCursor) return;
     while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
     if (cursor == CursorEspera) QApplication::setOverrideCursor(Qt::WaitCursor);
 }

@@ -45,9 +45,14 @@ void EsperarDeLaPortada() {
 
 } // namespace
 
-VentanaPrincipal::VentanaPrincipal() : PantallaEdicion(new QPlainTextEdit(this)) {
+VentanaPrincipal::VentanaPrincipal()
+    : EditorDatos(new QWidget(this, Qt::Window)), PantallaEdicion(new QPlainTextEdit(this)) {
     setObjectName(QStringLiteral("MiClaseVentana"));
     setWindowTitle(QStringLiteral("Tabira"));
+    EditorDatos->setObjectName(QStringLiteral("EditorDatos"));
+    EditorDatos->setWindowTitle(QStringLiteral("Editor de Series/Matrices"));
+    EditorDatos->setPalette(QPalette(Qt::lightGray));
+    EditorDatos->resize(640, 450);
     PantallaEdicion->setObjectName(QStringLiteral("PantallaEdicion"));
     PantallaEdicion->setAccessibleName(QStringLiteral("Pantalla de edición"));
     PantallaEdicion->setFont(FuenteFijaDePantalla());
@@ -118,8 +123,12 @@ void InstalarOperacionesEscritorio() {
                 case EditarPegar: p->paste(); break;
                 }
             },
-        .ponerTitulo = [](Ventana *v,
-                          std::string_view titulo) { Principal(v)->setWindowTitle(QDe1252(titulo)); },
+        .ponerTitulo =
+            [](Ventana *v, std::string_view titulo) {
+                // The toolkit takes a lone "[*]" for the place of its mark of changes.
+                const QString marca = QStringLiteral("[*]");
+                Principal(v)->setWindowTitle(QDe1252(titulo).replace(marca, marca + marca));
+            },
         .destruir =
             [](Ventana *v) {
                 Principal(v)->Destruida = true;

@@ -6,13 +6,12 @@
 
 #include "platform/plataforma.h"
 
-class QLabel;
-
 class VentanaPrincipal : public QMainWindow {
     Q_OBJECT
 public:
     VentanaPrincipal();
 
+    QWidget *EditorDatos; // the window of the series and the matrices; hidden until it has its grid
     QPlainTextEdit *PantallaEdicion;
     bool Destruida = false; // the closing sequence ended: the window goes without asking again
 
