@@ -45,7 +45,9 @@ void TodoCabe(QDialog &d) {
 
 } // namespace
 
+// With a folder in TABIRA_CAPTURAS it leaves a picture of each dialog there.
 TEST_F(Ajuste, ConLasLetrasDelUsuario) {
+    const QString capturas = qEnvironmentVariable("TABIRA_CAPTURAS");
     for (const AperturaDeDialogo &a : TodosLosDialogos()) {
         SCOPED_TRACE(a.titulo);
         EnDialogo(*ventana, a, [&](QDialog &d) {
@@ -53,6 +55,9 @@ TEST_F(Ajuste, ConLasLetrasDelUsuario) {
             // A laptop's screen at twice its density, without the bar of the desktop.
             EXPECT_LE(d.width(), 960);
             EXPECT_LE(d.height(), 500);
+            if (!capturas.isEmpty()) {
+                EXPECT_TRUE(d.grab().save(capturas + u'/' + d.objectName() + QStringLiteral(".png")));
+            }
         });
     }
 }

@@ -80,9 +80,9 @@ std::vector<AperturaDeDialogo> TodosLosDialogos() {
              DialogoDecimales(decimales, AVentana(&v));
          },
          {"decimales2", "OK", "Cancela"}},
-        {"Selección de series",
+        {"Selección de matrices",
          {},
-         [](VentanaPrincipal &v) { DialogoSeleccion(AVentana(&v), SeleccionDeSeries); },
+         [](VentanaPrincipal &v) { DialogoSeleccion(AVentana(&v), SeleccionDeMatrices); },
          {"disponibles", "Anadir", "Eliminar", "elegidas", "Decimales", "OK", "Cancela"},
          false},
         {"Acerca de..", {}, Orden(2046), {"OK"}},
