@@ -9,6 +9,7 @@
 #include "shell/ventanas/dialogos.h"
 #include "store/archivo.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -62,6 +63,25 @@ TEST_F(Dialogos, Muestra) {
         EXPECT_EQ(::Muestra.FinMuestra, c.fin);
         ConGuion({MuestraTextos(c.vuelveInicial, c.vuelveFinal)}, [&] { Ordenar(2038); });
     }
+}
+
+// What is typed stands in the place of the limits shown.
+TEST_F(Dialogos, MuestraConElTeclado) {
+    PonerDatos(TipoAnual, "1990#1999");
+    ConGuion({{Acotar,
+               [](QDialog &d) {
+                   Activar(d);
+                   for (const char *limite : {"1992", "1994"}) {
+                       QTest::keyClicks(QApplication::focusWidget(), QString::fromLatin1(limite));
+                       QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+                   }
+                   EXPECT_EQ(TextoDe(d, "TextoInicial"), "1992");
+                   EXPECT_EQ(TextoDe(d, "TextoFinal"), "1994");
+                   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+               }}},
+             [&] { Ordenar(2038); });
+    EXPECT_EQ(::Muestra.InicioMuestra, 2);
+    EXPECT_EQ(::Muestra.FinMuestra, 4);
 }
 
 TEST_F(Dialogos, MuestraCancelada) {

@@ -7,6 +7,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLineEdit>
 #include <QListWidget>
 
 using Panel = Escritorio;
@@ -178,6 +179,7 @@ TEST_F(Panel, ConstanteAbiertoOtraVez) {
         SCOPED_TRACE(c.tipo);
         const Paso otraVez = {Constante, [&](QDialog &d) {
                                   EXPECT_EQ(TextoDe(d, "individuos"), "2");
+                                  EXPECT_TRUE(Hijo<QLineEdit>(d, "individuos")->hasSelectedText());
                                   EXPECT_TRUE(Hijo<QAbstractButton>(d, c.tipo)->isChecked());
                                   EXPECT_EQ(TextoDe(d, "inicio"), c.inicio);
                                   EXPECT_EQ(TextoDe(d, "fin"), c.fin);

@@ -36,6 +36,7 @@ void DialogoMuestra(Ventana *ventana) {
     PrepararDialogoMuestra();
     d.ui.TextoInicial->setText(QDe1252(::Muestra.TextoInicial));
     d.ui.TextoFinal->setText(QDe1252(::Muestra.TextoFinal));
+    d.ui.TextoInicial->selectAll(); // typing replaces it, as it does in a field reached by Tab
     d.AlAceptar([&] {
         AceptarDialogoMuestra(De1252Q(d.ui.TextoInicial->text()), De1252Q(d.ui.TextoFinal->text()));
         return true;

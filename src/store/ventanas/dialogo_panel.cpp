@@ -2,6 +2,7 @@
 #include "store/ventanas/dialogo_panel.h"
 
 #include "platform/qt/formulario.h"
+#include "platform/qt/superficie_qt.h"
 #include "platform/qt/texto_qt.h"
 #include "store/panel.h"
 
@@ -46,6 +47,7 @@ void DialogoPanelConstante(Ventana *ventana) {
             return ano > 0 ? QDe1252(TextoDeIndice(indice, porAno)) : QString();
         };
         d.ui.individuos->setText(QString::number(panel.NumEntradas));
+        d.ui.individuos->selectAll();
         d.ui.inicio->setText(texto(i.primerAno, i.primerSub));
         d.ui.fin->setText(texto(i.ultimoAno, i.ultimoSub));
     }
@@ -142,6 +144,7 @@ void DialogoPanelIndividuos(Ventana *ventana) {
 
 void DialogoPanelEtiquetas(Ventana *ventana) {
     DialogoConFormulario<Ui::PanelEtiquetas> d(ventana);
+    d.ui.lista->setFont(FuenteFijaDePantalla()); // the labels are padded with blanks
     for (int i = 0; i < MaxIndividuosEtiqueta; ++i) d.ui.lista->addItem(QDe1252(LineaEtiqueta(i)));
     QObject::connect(d.ui.anadir, &QPushButton::clicked, &d.dialogo, [&] {
         const std::string orden = De1252Q(d.ui.orden->text());
