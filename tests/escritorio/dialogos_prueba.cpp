@@ -382,6 +382,8 @@ TEST_F(Dialogos, UltimaRegresionTrasOtroTipo) {
     ver("Período inicial: 2012  ", "No se ha realizado ninguna regresión");
     PonerSerie("Y", {1, 2, 4, 3});
     ver("Período inicial: 2012  ", "Y  1  X");
+    // Its results went with the data: what needs them says so.
+    procesar("CR Y 1", {Caja("Proceso cancelado", "Calcule mínimo cuadrado. Pto 263")});
 }
 
 // The buttons of the boxes, which one Enter and Escape press, and what the caller hears.

@@ -30,8 +30,6 @@ template <class Formulario> struct DialogoConFormulario {
         holgura = dialogo.minimumSize();
         dialogo.setMinimumSize(0, 0);
         dialogo.setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-        // Enter presses the button that has the keyboard: Cancela must not accept.
-        for (QPushButton *boton : dialogo.findChildren<QPushButton *>()) boton->setAutoDefault(true);
         if (auto *cancela = dialogo.template findChild<QPushButton *>(QStringLiteral("Cancela")))
             QObject::connect(cancela, &QPushButton::clicked, &dialogo, &QDialog::reject);
     }
