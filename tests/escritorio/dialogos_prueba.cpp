@@ -3,11 +3,14 @@
 
 #include "estimation/regresion.h"
 #include "platform/qt/cajas_qt.h"
+#include "platform/qt/plataforma_qt.h"
 #include "platform/qt/ventana_qt.h"
 #include "platform/texto.h"
 #include "shell/ventanas/dialogos.h"
 #include "store/archivo.h"
 
+#include <QApplication>
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
@@ -62,6 +65,25 @@ TEST_F(Dialogos, Muestra) {
     }
 }
 
+// What is typed stands in the place of the limits shown.
+TEST_F(Dialogos, MuestraConElTeclado) {
+    PonerDatos(TipoAnual, "1990#1999");
+    ConGuion({{Acotar,
+               [](QDialog &d) {
+                   Activar(d);
+                   for (const char *limite : {"1992", "1994"}) {
+                       QTest::keyClicks(QApplication::focusWidget(), QString::fromLatin1(limite));
+                       QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+                   }
+                   EXPECT_EQ(TextoDe(d, "TextoInicial"), "1992");
+                   EXPECT_EQ(TextoDe(d, "TextoFinal"), "1994");
+                   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+               }}},
+             [&] { Ordenar(2038); });
+    EXPECT_EQ(::Muestra.InicioMuestra, 2);
+    EXPECT_EQ(::Muestra.FinMuestra, 4);
+}
+
 TEST_F(Dialogos, MuestraCancelada) {
     PonerDatos(TipoAnual, "1990#1999");
     ConGuion({Limites("1992", "1993", "OK")}, [&] { Ordenar(2038); });
@@ -99,6 +121,24 @@ TEST_F(Dialogos, MuestraActual) {
                    EXPECT_EQ(TextoDe(d, "linea1"), "Período final: 1996");
                    EXPECT_EQ(TextoDe(d, "linea2"), "Muestra máxima: 1990#1999");
                    EXPECT_EQ(TextoDe(d, "linea3"), "Número máximo datos: 10");
+                   Pulsar(d, "OK");
+               }}},
+             [&] { Ordenar(2085); });
+}
+
+// The periods of a panel are what the user typed: no part of them is taken for a mark.
+TEST_F(Dialogos, MuestraActualTalComoSeEscribio) {
+    EmpezarPrueba();
+    InstalarPlataformaQt();
+    DescripcionPanel.FormaPanel = PanelVariable;
+    DescripcionPanel.NumEntradas = 1;
+    DescripcionPanel.periodos[0] = {2, "1995<b>&a"};
+    ArchivoTrabajo.TipoDatos = TipoPanel;
+    VaciarArchivoTrabajo();
+    ConGuion({{"Muestra actual",
+               [](QDialog &d) {
+                   EXPECT_EQ(TextoDe(d, "linea0"), "Período inicial: 1995<b>&a-1");
+                   for (auto *l : d.findChildren<QLabel *>()) EXPECT_EQ(l->textFormat(), Qt::PlainText);
                    Pulsar(d, "OK");
                }}},
              [&] { Ordenar(2085); });
@@ -303,6 +343,47 @@ TEST_F(Dialogos, UltimaRegresion) {
     ver("Período inicial: 1992  ", "Período final  : 1998  ", "Y  1  X");
     BorrarSerie(BuscarSerie("Y"));
     ver("Período inicial: 1992  ", "Período final  : 1998  ", "No se ha realizado ninguna regresión");
+}
+
+// A new data type leaves the record as it is, as it lives until the next regression; without its dependent it isn't shown.
+TEST_F(Dialogos, UltimaRegresionTrasOtroTipo) {
+    PonerDatos(TipoAnual, "1990#1999");
+    const auto ver = [&](const char *inicial, const char *variables) {
+        ConGuion({{"Última regresión",
+                   [=](QDialog &d) {
+                       EXPECT_EQ(TextoDe(d, "linea0"), inicial);
+                       EXPECT_EQ(TextoDe(d, "linea2"), variables);
+                       Pulsar(d, "OK");
+                   }}},
+                 [&] { Ordenar(2086); });
+    };
+    const auto procesar = [&](const char *sentencias, const Guion &guion) {
+        ventana->PantallaEdicion->setPlainText(QString::fromUtf8(sentencias));
+        ventana->PantallaEdicion->selectAll();
+        ConGuion(guion, [&] { Ordenar(2006); });
+    };
+    PonerSerie("Y", {3, 5, 4, 8, 7, 9, 12, 11, 15, 13});
+    PonerSerie("X", {1, 3, 2, 4, 6, 5, 7, 9, 11, 8});
+    procesar("VSR NO\nMUEST 1992 1998\nMC Y 1 X", {});
+    ConGuion({{"Tipos de datos",
+               [](QDialog &d) {
+                   Pulsar(d, "tipo1");
+                   Pulsar(d, "OK");
+               }},
+              Caja("Aviso", "Guarde el fichero ó se perderán todos los datos"),
+              {"Datos anuales",
+               [](QDialog &d) {
+                   Escribir(d, "inicio", "2010");
+                   Escribir(d, "fin", "2013");
+                   Pulsar(d, "OK");
+               }}},
+             [&] { Ordenar(2020); });
+    EXPECT_EQ(UltimaRegresion.RegresionHecha, 1);
+    ver("Período inicial: 2012  ", "No se ha realizado ninguna regresión");
+    PonerSerie("Y", {1, 2, 4, 3});
+    ver("Período inicial: 2012  ", "Y  1  X");
+    // Its results went with the data: what needs them says so.
+    procesar("CR Y 1", {Caja("Proceso cancelado", "Calcule mínimo cuadrado. Pto 263")});
 }
 
 // The buttons of the boxes, which one Enter and Escape press, and what the caller hears.

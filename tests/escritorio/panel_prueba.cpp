@@ -6,6 +6,8 @@
 #include "store/archivo.h"
 
 #include <QAbstractButton>
+#include <QApplication>
+#include <QLineEdit>
 #include <QListWidget>
 
 using Panel = Escritorio;
@@ -27,6 +29,17 @@ const Paso Salir = Pulsando("Tipos de datos", "Cancela");
 Paso EnPanel(const std::vector<const char *> &botones) {
     return {Panel1, [=](QDialog &d) {
                 for (const char *b : botones) Pulsar(d, b);
+            }};
+}
+
+// The dialog of the constant panel, filled and accepted.
+Paso EnConstante(const char *individuos, const char *tipo, const char *inicio, const char *fin) {
+    return {Constante, [=](QDialog &d) {
+                Escribir(d, "individuos", individuos);
+                Pulsar(d, tipo);
+                Escribir(d, "inicio", inicio);
+                Escribir(d, "fin", fin);
+                Pulsar(d, "OK");
             }};
 }
 
@@ -116,17 +129,8 @@ const CasoConstante Constantes[] = {
 TEST_F(Panel, ConstanteYSecuencial) {
     for (const CasoConstante &c : Constantes) {
         SCOPED_TRACE(c.filas.front());
-        ConGuion({ElegirPanel,
-                  EnPanel({"constante", c.primero, "introducirPeriodos"}),
-                  {Constante,
-                   [&](QDialog &d) {
-                       Escribir(d, "individuos", c.individuos);
-                       Pulsar(d, c.tipo);
-                       Escribir(d, "inicio", c.inicio);
-                       Escribir(d, "fin", c.fin);
-                       Pulsar(d, "OK");
-                   }},
-                  EnPanel({"OK"})},
+        ConGuion({ElegirPanel, EnPanel({"constante", c.primero, "introducirPeriodos"}),
+                  EnConstante(c.individuos, c.tipo, c.inicio, c.fin), EnPanel({"OK"})},
                  [&] { Ordenar(2020); });
         EXPECT_EQ(ArchivoTrabajo.TipoDatos, TipoPanel);
         EXPECT_EQ(Filas(), c.filas);
@@ -145,14 +149,7 @@ TEST_F(Panel, ConstanteRechaza) {
         SCOPED_TRACE(c.mensaje);
         ConGuion({ElegirPanel,
                   EnPanel({"introducirPeriodos"}),
-                  {Constante,
-                   [&](QDialog &d) {
-                       Escribir(d, "individuos", "2");
-                       Pulsar(d, c.tipo);
-                       Escribir(d, "inicio", c.inicio);
-                       Escribir(d, "fin", c.fin);
-                       Pulsar(d, "OK");
-                   }},
+                  EnConstante("2", c.tipo, c.inicio, c.fin),
                   Caja("Proceso cancelado", c.mensaje),
                   {Constante,
                    [&](QDialog &d) {
@@ -169,28 +166,34 @@ TEST_F(Panel, ConstanteRechaza) {
     EXPECT_EQ(ArchivoTrabajo.TipoDatos, SinTipoDatos);
 }
 
-// Opened again, the dialog shows what was accepted in it: its OK then changes nothing.
+// Opened again, the dialog shows what was accepted in it, in the same visit and in a later one, which takes it from the
+// work file: its OK then changes nothing.
 TEST_F(Panel, ConstanteAbiertoOtraVez) {
-    ConGuion({ElegirPanel,
-              EnPanel({"introducirPeriodos"}),
-              {Constante,
-               [&](QDialog &d) {
-                   Escribir(d, "individuos", "2");
-                   Pulsar(d, "trimestral");
-                   Escribir(d, "inicio", "1995.2");
-                   Escribir(d, "fin", "1995.3");
-                   Pulsar(d, "OK");
-               }},
-              EnPanel({"introducirPeriodos"}),
-              {Constante,
-               [&](QDialog &d) {
-                   EXPECT_EQ(TextoDe(d, "individuos"), "2");
-                   EXPECT_TRUE(Hijo<QAbstractButton>(d, "trimestral")->isChecked());
-                   Pulsar(d, "OK");
-               }},
-              EnPanel({"OK"})},
-             [&] { Ordenar(2020); });
-    EXPECT_EQ(Filas(), (Lineas{"1995.2-1", "1995.2-2", "1995.3-1", "1995.3-2"}));
+    static constexpr struct {
+        const char *tipo, *inicio, *fin, *primera;
+        int filas;
+    } Casos[] = {{"anual", "1990", "1995", "1990-1", 12},
+                 {"trimestral", "1990.2", "1995.3", "1990.2-1", 44},
+                 {"mensual", "1990.02", "1995.11", "1990.02-1", 140}};
+    for (const auto &c : Casos) {
+        SCOPED_TRACE(c.tipo);
+        const Paso otraVez = {Constante, [&](QDialog &d) {
+                                  EXPECT_EQ(TextoDe(d, "individuos"), "2");
+                                  EXPECT_TRUE(Hijo<QLineEdit>(d, "individuos")->hasSelectedText());
+                                  EXPECT_TRUE(Hijo<QAbstractButton>(d, c.tipo)->isChecked());
+                                  EXPECT_EQ(TextoDe(d, "inicio"), c.inicio);
+                                  EXPECT_EQ(TextoDe(d, "fin"), c.fin);
+                                  Pulsar(d, "OK");
+                              }};
+        const Paso introducir = EnPanel({"introducirPeriodos"}), aceptar = EnPanel({"OK"});
+        for (const Guion &guion : {Guion{ElegirPanel, introducir, EnConstante("2", c.tipo, c.inicio, c.fin),
+                                         introducir, otraVez, aceptar},
+                                   Guion{ElegirPanel, introducir, otraVez, aceptar}}) {
+            ConGuion(guion, [&] { Ordenar(2020); });
+            EXPECT_EQ(ArchivoTrabajo.NumObs, c.filas);
+            EXPECT_EQ(Filas().front(), c.primera);
+        }
+    }
 }
 
 TEST_F(Panel, VariablePeriodoPrimero) {
@@ -368,17 +371,129 @@ TEST_F(Panel, EtiquetasDeIndividuos) {
                    Pulsar(d, "OK");
                }},
               EnPanel({"introducirPeriodos"}),
-              {Constante,
-               [](QDialog &d) {
-                   Escribir(d, "individuos", "3");
-                   Escribir(d, "inicio", "1990");
-                   Escribir(d, "fin", "1991");
-                   Pulsar(d, "OK");
-               }},
+              EnConstante("3", "anual", "1990", "1991"),
               EnPanel({"OK"})},
              [&] { Ordenar(2020); });
     EXPECT_EQ(ArchivoTrabajo.ConEtiquetas, 1);
     EXPECT_EQ(Filas().front(), "1990-1");
     EXPECT_EQ(std::string(ArchivoTrabajo.EtiquetasObs[0], 12), "UNOUNOUNOUNO");
     EXPECT_EQ(std::string(ArchivoTrabajo.EtiquetasObs[1], 12), "DOS         ");
+}
+
+namespace {
+
+void Enter() {
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+}
+
+void Teclas(const char *texto, bool tabulador = false) {
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    QTest::keyClicks(QApplication::focusWidget(), QString::fromUtf8(texto));
+    if (tabulador) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+}
+
+} // namespace
+
+// A list by keys alone: Enter behind an entry adds it, and behind nothing it is OK.
+TEST_F(Panel, ListasSinRaton) {
+    ConGuion({ElegirPanel,
+              EnPanel({"variable", "periodoPrimero", "introducirPeriodos"}),
+              {DePeriodos,
+               [](QDialog &d) {
+                   Activar(d);
+                   for (const char *periodo : {"1995", "1996"}) {
+                       Teclas(periodo, true);
+                       Teclas("2");
+                       Enter();
+                       EXPECT_TRUE(d.isVisible());
+                   }
+                   EXPECT_EQ(Hijo<QListWidget>(d, "lista")->count(), 2);
+                   Teclas("1997"); // its individuals are still to come
+                   Enter();
+               }},
+              Caja("Aviso", "Individuos ha de ser mayor de cero"),
+              {DePeriodos,
+               [](QDialog &d) {
+                   EXPECT_EQ(TextoDe(d, "periodo"), "1997");
+                   Activar(d);
+                   Escribir(d, "periodo", "");
+                   Enter();
+                   EXPECT_FALSE(d.isVisible());
+               }},
+              EnPanel({"OK"})},
+             [&] { Ordenar(2020); });
+    EXPECT_EQ(Filas(), (Lineas{"1995-1", "1995-2", "1996-1", "1996-2"}));
+    ConGuion({ElegirPanel,
+              EnPanel({"individuoPrimero", "introducirPeriodos"}),
+              {DeIndividuos,
+               [](QDialog &d) {
+                   Activar(d);
+                   Teclas("3");
+                   for (const char *periodo : {"", "1995", "1996"}) {
+                       Teclas(periodo);
+                       Enter();
+                       EXPECT_TRUE(d.isVisible());
+                   }
+                   Enter();
+                   EXPECT_FALSE(d.isVisible());
+               }},
+              EnPanel({"OK"})},
+             [&] { Ordenar(2020); });
+    EXPECT_EQ(Filas(), (Lineas{"3-1995", "3-1996"}));
+}
+
+TEST_F(Panel, EtiquetasSinRaton) {
+    ConGuion({ElegirPanel,
+              EnPanel({"introducirEtiquetas"}),
+              {Etiquetas,
+               [](QDialog &d) {
+                   Activar(d);
+                   Teclas("2", true);
+                   Teclas("DOS");
+                   Enter();
+                   EXPECT_EQ(LineasDe(d, "lista")[1], " 2---\"DOS         \"");
+                   auto *lista = Hijo<QListWidget>(d, "lista");
+                   lista->setFocus(Qt::TabFocusReason);
+                   QTest::keyClick(lista, Qt::Key_Down);
+                   EXPECT_EQ(TextoDe(d, "etiqueta"), ""); // the arrows only walk
+                   Enter();
+                   EXPECT_EQ(TextoDe(d, "etiqueta"), "DOS");
+                   EXPECT_EQ(LineasDe(d, "lista")[1], " 2---\"            \"");
+                   Enter(); // put back
+                   EXPECT_EQ(LineasDe(d, "lista")[1], " 2---\"DOS         \"");
+                   Enter();
+                   EXPECT_FALSE(d.isVisible());
+               }},
+              EnPanel({"introducirEtiquetas"}),
+              {Etiquetas,
+               [](QDialog &d) {
+                   EXPECT_EQ(LineasDe(d, "lista")[1], " 2---\"DOS         \"");
+                   Elegir(d, "lista", 1);
+                   Pulsar(d, "Cancela"); // what was taken out comes back
+               }},
+              EnPanel({"introducirEtiquetas"}),
+              {Etiquetas,
+               [](QDialog &d) {
+                   EXPECT_EQ(LineasDe(d, "lista")[1], " 2---\"DOS         \"");
+                   Pulsar(d, "OK");
+               }},
+              EnPanel({"Cancela"}),
+              Salir},
+             [&] { Ordenar(2020); });
+}
+
+// With the second button of each pair checked the keyboard begins there.
+TEST_F(Panel, EmpiezaEnElBotonMarcado) {
+    DescripcionPanel.PrimerConcepto = IndividuoPrimero;
+    ConGuion({ElegirPanel,
+              {Panel1,
+               [](QDialog &d) {
+                   Activar(d);
+                   EXPECT_TRUE(Hijo<QAbstractButton>(d, "individuoPrimero")->isChecked());
+                   EXPECT_TRUE(Hijo<QAbstractButton>(d, "individuoPrimero")->hasFocus());
+                   Pulsar(d, "Cancela");
+               }},
+              Salir},
+             [&] { Ordenar(2020); });
 }

@@ -98,6 +98,26 @@ TEST_F(Teclado, EnterEsElBotonOK) {
     }
 }
 
+// On Cancela, Enter must not accept: it presses the button that has the keyboard.
+TEST_F(Teclado, EnterEsElBotonQueTieneElTeclado) {
+    for (const AperturaDeDialogo &a : TodosLosDialogos()) {
+        SCOPED_TRACE(a.titulo);
+        int resultado = -1;
+        EnDialogo(*ventana, a, [&](QDialog &d) {
+            for (auto *b : d.findChildren<QPushButton *>())
+                EXPECT_TRUE(b->autoDefault()) << b->objectName().toStdString();
+            auto *cancela = d.findChild<QPushButton *>(QStringLiteral("Cancela"));
+            if (cancela == nullptr) return;
+            QObject::connect(&d, &QDialog::finished, [&](int r) { resultado = r; });
+            Activar(d);
+            cancela->setFocus();
+            QTest::keyClick(cancela, Qt::Key_Return);
+            EXPECT_FALSE(d.isVisible());
+            EXPECT_EQ(resultado, QDialog::Rejected);
+        });
+    }
+}
+
 TEST_F(Teclado, FlechasEntreLosTipos) {
     ConGuion({{"Tipos de datos",
                [](QDialog &d) {

@@ -15,11 +15,28 @@
 #include "ui_no_ensamblada.h"
 #include "ui_ultima_regresion.h"
 
+#include <initializer_list>
+
+namespace {
+
+// As they stand: a period of a panel is what the user typed, and nothing in it is a mark.
+void PonerLineas(std::initializer_list<QLabel *> etiquetas, const std::vector<std::string> &textos) {
+    auto texto = textos.begin();
+    for (QLabel *etiqueta : etiquetas) {
+        if (texto == textos.end()) return;
+        etiqueta->setTextFormat(Qt::PlainText);
+        etiqueta->setText(QDe1252(*texto++));
+    }
+}
+
+} // namespace
+
 void DialogoMuestra(Ventana *ventana) {
     DialogoConFormulario<Ui::DialogoDeMuestra> d(ventana);
     PrepararDialogoMuestra();
     d.ui.TextoInicial->setText(QDe1252(::Muestra.TextoInicial));
     d.ui.TextoFinal->setText(QDe1252(::Muestra.TextoFinal));
+    d.ui.TextoInicial->selectAll(); // typing replaces it, as it does in a field reached by Tab
     d.AlAceptar([&] {
         AceptarDialogoMuestra(De1252Q(d.ui.TextoInicial->text()), De1252Q(d.ui.TextoFinal->text()));
         return true;
@@ -31,10 +48,7 @@ void DialogoMuestra(Ventana *ventana) {
 
 void DialogoMuestraActual(Ventana *ventana) {
     DialogoConFormulario<Ui::MuestraActual> d(ventana);
-    QLabel *const lineas[] = {d.ui.linea0, d.ui.linea1, d.ui.linea2, d.ui.linea3};
-    const std::vector<std::string> textos = LineasMuestraActual();
-    for (std::size_t i = 0; i < std::size(lineas) && i < textos.size(); ++i)
-        lineas[i]->setText(QDe1252(textos[i]));
+    PonerLineas({d.ui.linea0, d.ui.linea1, d.ui.linea2, d.ui.linea3}, LineasMuestraActual());
     d.AlAceptar();
     d.Ejecutar();
 }
@@ -58,10 +72,7 @@ void DialogoLista(Ventana *ventana, ListasDeElementos lista) {
 
 void DialogoUltimaRegresion(Ventana *ventana) {
     DialogoConFormulario<Ui::UltimaRegresionDialogo> d(ventana);
-    QLabel *const lineas[] = {d.ui.linea0, d.ui.linea1, d.ui.linea2};
-    const std::vector<std::string> textos = LineasUltimaRegresion();
-    for (std::size_t i = 0; i < std::size(lineas) && i < textos.size(); ++i)
-        lineas[i]->setText(QDe1252(textos[i]));
+    PonerLineas({d.ui.linea0, d.ui.linea1, d.ui.linea2}, LineasUltimaRegresion());
     d.AlAceptar();
     d.Ejecutar();
 }

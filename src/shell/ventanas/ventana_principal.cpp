@@ -135,7 +135,7 @@ void InstalarOperacionesEscritorio() {
                 Principal(v)->close();
                 QCoreApplication::quit();
             },
-        .dialogoTipoDatos = DialogoTipoDatos,
+        .dialogoTipoDatos = ElegirTipoDatos,
         .dialogoMuestra = DialogoMuestra,
         .dialogoMuestraActual = DialogoMuestraActual,
         .dialogoLista = DialogoLista,

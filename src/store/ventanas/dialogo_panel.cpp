@@ -2,6 +2,7 @@
 #include "store/ventanas/dialogo_panel.h"
 
 #include "platform/qt/formulario.h"
+#include "platform/qt/superficie_qt.h"
 #include "platform/qt/texto_qt.h"
 #include "store/panel.h"
 
@@ -12,6 +13,7 @@
 #include "ui_panel_periodos.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <memory>
 
 namespace {
@@ -20,6 +22,15 @@ namespace {
 template <class Dialogo> void EjecutarSobreCopia(Dialogo &d) {
     const auto antes = std::make_unique<EdicionDePanel>(EdicionPanel);
     if (!d.Ejecutar()) EdicionPanel = *antes;
+}
+
+// Enter behind what was typed means the entry: as the OK of the dialog it would lose it. True when it was this.
+bool AnadirLoEscrito(std::initializer_list<QLineEdit *> campos, QPushButton &anadir) {
+    const bool aqui = std::any_of(campos.begin(), campos.end(), [](auto *c) { return c->hasFocus(); });
+    const bool escrito =
+        std::any_of(campos.begin(), campos.end(), [](auto *c) { return !c->text().isEmpty(); });
+    if (aqui && escrito) anadir.click();
+    return aqui && escrito;
 }
 
 void DialogoPanelConstante(Ventana *ventana) {
@@ -31,9 +42,12 @@ void DialogoPanelConstante(Ventana *ventana) {
         const Intervalo &i = EdicionPanel.intervalo;
         const int porAno = PeriodosPorAno(panel.TipoPeriodoPanel);
         const auto texto = [&](int ano, int sub) {
-            return ano > 0 ? QDe1252(TextoDeIndice(IndicePeriodo(ano, sub, porAno), porAno)) : QString();
+            // The columns of annual data hold no sub-period.
+            const int indice = IndicePeriodo(ano, std::max(sub, 1), porAno);
+            return ano > 0 ? QDe1252(TextoDeIndice(indice, porAno)) : QString();
         };
         d.ui.individuos->setText(QString::number(panel.NumEntradas));
+        d.ui.individuos->selectAll();
         d.ui.inicio->setText(texto(i.primerAno, i.primerSub));
         d.ui.fin->setText(texto(i.ultimoAno, i.ultimoSub));
     }
@@ -72,7 +86,7 @@ void DialogoPanelPeriodos(Ventana *ventana) {
         QuitarPeriodoPanel(elegida);
         mostrar();
     });
-    d.AlAceptar();
+    d.AlAceptar([&] { return !AnadirLoEscrito({d.ui.periodo, d.ui.individuos}, *d.ui.anadir); });
     EjecutarSobreCopia(d);
 }
 
@@ -121,12 +135,16 @@ void DialogoPanelIndividuos(Ventana *ventana) {
         QuitarPeriodoIndividuo(i, p);
         mostrarPeriodos();
     });
-    d.AlAceptar();
+    d.AlAceptar([&] {
+        return !AnadirLoEscrito({d.ui.orden}, *d.ui.anadirIndividuo) &&
+               !AnadirLoEscrito({d.ui.periodo}, *d.ui.anadirPeriodo);
+    });
     EjecutarSobreCopia(d);
 }
 
 void DialogoPanelEtiquetas(Ventana *ventana) {
     DialogoConFormulario<Ui::PanelEtiquetas> d(ventana);
+    d.ui.lista->setFont(FuenteFijaDePantalla()); // the labels are padded with blanks
     for (int i = 0; i < MaxIndividuosEtiqueta; ++i) d.ui.lista->addItem(QDe1252(LineaEtiqueta(i)));
     QObject::connect(d.ui.anadir, &QPushButton::clicked, &d.dialogo, [&] {
         const std::string orden = De1252Q(d.ui.orden->text());
@@ -138,7 +156,7 @@ void DialogoPanelEtiquetas(Ventana *ventana) {
         d.ui.orden->setFocus();
     });
     // A line that is chosen gives its label out for editing. By a click or Enter, so that the keys can walk the list.
-    QObject::connect(d.ui.lista, &QListWidget::itemActivated, &d.dialogo, [&](QListWidgetItem *linea) {
+    const auto sacar = [&](QListWidgetItem *linea) {
         const int i = d.ui.lista->row(linea);
         const QString orden = QString::number(i + 1), etiqueta = QDe1252(SacarEtiquetaIndividuo(i));
         // A double click chooses twice: what the first click took out stays in the field.
@@ -146,9 +164,13 @@ void DialogoPanelEtiquetas(Ventana *ventana) {
         d.ui.orden->setText(orden);
         linea->setText(QDe1252(LineaEtiqueta(i)));
         d.ui.etiqueta->setFocus();
+    };
+    QObject::connect(d.ui.lista, &QListWidget::itemClicked, &d.dialogo, sacar);
+    d.AlAceptar([&] {
+        const int elegida = d.ui.lista->hasFocus() ? FilaElegida(*d.ui.lista) : -1;
+        if (elegida >= 0) sacar(d.ui.lista->item(elegida));
+        return elegida < 0 && !AnadirLoEscrito({d.ui.orden, d.ui.etiqueta}, *d.ui.anadir);
     });
-    QObject::connect(d.ui.lista, &QListWidget::itemClicked, d.ui.lista, &QListWidget::itemActivated);
-    d.AlAceptar();
     EjecutarSobreCopia(d);
 }
 
@@ -158,7 +180,10 @@ bool DialogoPanel(Ventana *ventana, PropuestaTipoDatos &propuesta) {
     DialogoConFormulario<Ui::DialogoDePanel> d(ventana);
     AbrirEdicionPanel();
     const DescripcionDePanel &panel = EdicionPanel.panel;
-    (panel.PrimerConcepto == PeriodoPrimero ? d.ui.periodoPrimero : d.ui.individuoPrimero)->setChecked(true);
+    QRadioButton *primero =
+        panel.PrimerConcepto == PeriodoPrimero ? d.ui.periodoPrimero : d.ui.individuoPrimero;
+    primero->setChecked(true);
+    primero->setFocus(); // the arrows go on from there
     (panel.FormaPanel == PanelConstante ? d.ui.constante : d.ui.variable)->setChecked(true);
     d.ui.etiquetas->setChecked(propuesta.etiquetas);
     const auto elegir = [&] {

@@ -54,7 +54,7 @@ bool DialogoPeriodos(Ventana *ventana, PropuestaTipoDatos &propuesta) {
 
 } // namespace
 
-void DialogoTipoDatos(Ventana *ventana) {
+void ElegirTipoDatos(Ventana *ventana) {
     DialogoConFormulario<Ui::TiposDatos> d(ventana);
     QRadioButton *const botones[] = {d.ui.tipo0, d.ui.tipo1, d.ui.tipo2, d.ui.tipo3, d.ui.tipo4};
     d.ui.NombreProyecto->setText(QDe1252(NombreDialogoTipo()));

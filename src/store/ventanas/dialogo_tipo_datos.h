@@ -3,4 +3,4 @@
 
 #include "platform/plataforma.h"
 
-void DialogoTipoDatos(Ventana *ventana);
+void ElegirTipoDatos(Ventana *ventana);
