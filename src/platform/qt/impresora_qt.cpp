@@ -21,7 +21,6 @@ namespace {
 
 std::string DocumentoElegido;  // where the present job goes, empty for the printer
 bool DocumentoEscrito = false; // and whether it got there
-std::string UltimoDocumento;
 
 // "Imprime1: Imprimiendo" becomes "Imprime1 Imprimiendo 2026-11-21 10.15.30.pdf", with a number behind where that
 // name is taken: nothing of the user's is overwritten.
@@ -60,11 +59,11 @@ void TerminarTrabajoQt() {
     if (!impresora.isNull()) {
         QPrinter papel(impresora, QPrinter::HighResolution);
         papel.setDocName(QDe1252(trabajo.documento));
+        papel.setPageOrientation(QPageLayout::Portrait);
         if (PintarPaginas(papel, trabajo.paginas)) return;
     }
     const QString ruta = DocumentoNuevo(trabajo.documento);
     if (EscribirPdf(ruta.toStdString(), trabajo.titulo, trabajo.paginas)) {
-        UltimoDocumento = ruta.toStdString();
         Avisar(QStringLiteral("Sin impresora: impreso en %1").arg(QDir::toNativeSeparators(ruta)));
     } else {
         Avisar(QStringLiteral("No se ha podido imprimir en %1").arg(QDir::toNativeSeparators(ruta)));
@@ -77,8 +76,4 @@ bool ImprimirEnDocumento(const std::string &ruta, const std::function<bool()> &i
     const bool bien = imprimir();
     DocumentoElegido.clear();
     return bien && DocumentoEscrito;
-}
-
-const std::string &UltimoDocumentoImpreso() {
-    return UltimoDocumento;
 }
