@@ -41,7 +41,9 @@ constexpr int ClaseDeVentana[] = {ImprimirInforme,    ImprimirHipotesis,  Imprim
 void ElegirDocumento(const std::string &ruta) {
     // The same file under another spelling of its path is the same document, which gets the pages of both.
     std::error_code error;
-    const auto entera = std::filesystem::weakly_canonical(std::filesystem::absolute(ruta, error), error);
+    auto entera = std::filesystem::weakly_canonical(ruta, error);
+    if (error) entera = ruta;
+    if (entera.is_relative()) entera = std::filesystem::absolute(entera, error);
     const auto p = std::find_if(Impresora.documentos.begin(), Impresora.documentos.end(),
                                 [&](const DocumentoDeCorrida &d) { return d.entera == entera; });
     if (p != Impresora.documentos.end()) {
