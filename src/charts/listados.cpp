@@ -43,9 +43,9 @@ struct Hoja {
     Superficie *s;
     int izquierda, derecha;
     int lineasPagina, contador;
-    int fila;       // next row on the paper
-    bool trasRegla; // the row above holds a rule
-    const char *titulo;
+    int fila;                   // next row on the paper
+    bool trasRegla;             // the row above holds a rule
+    const char *cabeceraPagina; // head of a page, for its number
     int pagina;
     std::string cabecera; // head line of the block being listed
     int filasCabecera;    // what that line and its rules count
@@ -91,7 +91,7 @@ void PonerCabeceraDePagina(Hoja &h) {
     h.fila = PrimeraFila;
     h.trasRegla = false;
     PonerRegla(h);
-    PonerRenglon(h, Formatear("        %s                Página.: %3d  "_w, h.titulo, ++h.pagina));
+    PonerRenglon(h, Formatear(h.cabeceraPagina, ++h.pagina));
     PonerRegla(h);
     h.contador = ContadorTrasCabecera;
 }
@@ -270,7 +270,7 @@ bool ListarSeries(DispositivoImpresion *dispositivo, Ventana *ventana) {
     int primera = 0, ultima = 0;
     if (!FilasAListar(primera, ultima)) return false;
     Hoja h = AbrirHoja(dispositivo, ventana, AnchoListado);
-    h.titulo = "Listado de Series";
+    h.cabeceraPagina = "        Listado de Series                Página.: %3d  "_w;
     h.filasCabecera = FilasCabeceraSeries;
     h.avisarFin = true;
     PonerCabeceraDePagina(h);
@@ -293,7 +293,7 @@ bool ListarMatrices(DispositivoImpresion *dispositivo, Ventana *ventana) {
     Hoja h = AbrirHoja(dispositivo, ventana, AnchoListado);
     // The brace that closes a row of four elements stands in column 66: the right rule leaves it inside.
     h.derecha = std::min(h.derecha + 2 * h.s->anchoCaracter, h.s->ancho);
-    h.titulo = "Listado de Matrices";
+    h.cabeceraPagina = "      Listado de Matrices                Página.: %3d  "_w;
     h.filasCabecera = FilasCabeceraMatriz;
     PonerCabeceraDePagina(h);
     for (const int m : matrices)

@@ -2,7 +2,6 @@
 #include "charts/ventana_resultado.h"
 
 #include <algorithm>
-#include <array>
 
 namespace {
 
@@ -15,11 +14,10 @@ constexpr int LineasDeMuesca = 3;
 constexpr int LineasFinalesSinRegla = 3;
 
 // Thin rules of the coefficient table. With the stock font of 8 by 16: units from the left edge of the window as it
-// opens, where the block begins at 32; in a wider window they move with the block. With any other font: the character
-// of the line with which a field begins, and which its numbers leave blank.
+// opens, where the block begins at 32; in a wider window they move with the block. With any other font:
+// BlancosEntreColumnas.
 constexpr int AnchoFuenteBase = 8, AltoFuenteBase = 16, BordeConFuenteBase = 32;
 constexpr std::array ReglasConFuenteBase = {160, 290, 410, 510};
-constexpr std::array BlancosEntreColumnas = {15, 30, 45, 54};
 
 int NumeroDeLineas(const SalidaResultado &salida) {
     return salida.lineas != nullptr ? static_cast<int>(salida.lineas->size()) : 0;
@@ -78,8 +76,9 @@ void PonerReglasDeTabla(const Pintado &p, const TablaCoeficientes &tabla, int de
     const int c = p.s.anchoCaracter;
     const bool base = c == AnchoFuenteBase && p.s.altoLinea == AltoFuenteBase;
     for (std::size_t i = 0; i < ReglasConFuenteBase.size(); ++i) {
-        const int x = p.bloque.izquierda + (base ? ReglasConFuenteBase[i] - BordeConFuenteBase
-                                                 : (BlancosEntreColumnas[i] + 1) * c + c / 2);
+        const int x =
+            p.bloque.izquierda + (base ? ReglasConFuenteBase[i] - BordeConFuenteBase
+                                       : (static_cast<int>(BlancosEntreColumnas[i]) + 1) * c + c / 2);
         Linea(p.s, x, arriba, x, abajo, PlumaFina);
     }
 }

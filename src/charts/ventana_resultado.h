@@ -4,10 +4,16 @@
 #include "charts/resultado.h"
 #include "platform/superficie.h"
 
+#include <array>
+#include <cstddef>
+
 inline constexpr int AnchoBloqueSalida = 70; // characters of a line that are shown
 inline constexpr int ColumnasVentanaResultado =
     77; // width of the client area when the window opens, in characters
 inline constexpr int TopeBarraResultado = 4000; // the vertical bar runs from 0 to here
+
+// The characters of a row of the coefficient table with which a field begins, and which its numbers leave blank.
+inline constexpr std::array<std::size_t, 4> BlancosEntreColumnas = {15, 30, 45, 54};
 
 // State of an open result window.
 struct EstadoVentanaResultado {

@@ -256,13 +256,20 @@ int BloqueRegresion(TextoSalida &texto, std::vector<TablaCoeficientes> &tablas, 
     return AnadirEstadisticos(texto, d, ventana);
 }
 
+void MostrarSalida(Ventana *ventana, int clase, ProductorDeInforme producir) {
+    if (RechazaPonderada(clase)) return MostrarMensaje(ventana, "Utilice MC ordinarios");
+    if ((clase == OrdenMC || clase == OrdenMCP) && !QuiereVer(ventana)) return;
+    InformeProducido informe;
+    if (producir(informe, ventana, clase) == 0) return;
+    const std::string titulo = TituloRegresion(clase);
+    MostrarVentanaResultado(ventana, {SalidaRegresion, titulo, clase, 0, &informe.lineas, nullptr,
+                                      &informe.tablas, informe.tabla});
+}
+
 void MostrarRegresion(Ventana *ventana, int codigo) {
-    if (RechazaPonderada(codigo)) return MostrarMensaje(ventana, "Utilice MC ordinarios");
-    if ((codigo == OrdenMC || codigo == OrdenMCP) && !QuiereVer(ventana)) return;
-    TextoSalida texto;
-    std::vector<TablaCoeficientes> tablas;
-    if (BloqueRegresion(texto, tablas, ventana, codigo, nullptr) == 0) return;
-    const std::string titulo = TituloRegresion(codigo);
-    const std::string tabla = TablaRegresion(codigo);
-    MostrarVentanaResultado(ventana, {SalidaRegresion, titulo, codigo, 0, &texto, nullptr, &tablas, tabla});
+    MostrarSalida(ventana, codigo, [](InformeProducido &informe, Ventana *v, int c) {
+        if (BloqueRegresion(informe.lineas, informe.tablas, v, c, nullptr) == 0) return 0;
+        informe.tabla = TablaRegresion(c);
+        return 1;
+    });
 }

@@ -26,6 +26,20 @@ struct ParteMuestra {
 int BloqueRegresion(TextoSalida &texto, std::vector<TablaCoeficientes> &tablas, Ventana *ventana, int codigo,
                     const ParteMuestra *parte);
 
-// Decides whether the regression of MC or MCP is shown, asks, builds the report and opens its window, which returns
-// when it is closed. For 10, 11 and 104 after a weighted regression: the box "Utilice MC ordinarios" and nothing else.
+// What a result window shows: its lines, where its coefficient tables stand, and the same for a spreadsheet.
+struct InformeProducido {
+    TextoSalida lineas;
+    std::vector<TablaCoeficientes> tablas;
+    std::string tabla; // may stay empty
+};
+
+// Fills the report of a code. 1, or 0 after a message.
+using ProductorDeInforme = int (*)(InformeProducido &informe, Ventana *ventana, int clase);
+
+// Opens the result window of a code of a regression or of a test, and returns when it is closed. For 10, 11 and 104
+// after a weighted regression: the box "Utilice MC ordinarios" and nothing else. For 8 and 13 only when VerRegresion is
+// set and the user answers yes to "¿Desea ver la regresion?". A report that can't be filled opens no window.
+void MostrarSalida(Ventana *ventana, int clase, ProductorDeInforme producir);
+
+// MostrarSalida with the block of the regression that has just run.
 void MostrarRegresion(Ventana *ventana, int codigo);

@@ -7,13 +7,17 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 #include <iterator>
+#include <system_error>
 #include <utility>
 
 namespace {
 
 struct DocumentoDeCorrida {
-    std::string ruta, titulo;
+    std::string ruta;             // as it was given
+    std::filesystem::path entera; // without links and detours
+    std::string titulo;
     std::deque<PaginaImpresa> paginas;
 };
 
@@ -35,12 +39,17 @@ constexpr int ClaseDeVentana[] = {ImprimirInforme,    ImprimirHipotesis,  Imprim
 } // namespace
 
 void ElegirDocumento(const std::string &ruta) {
+    // The same file under another spelling of its path is the same document, which gets the pages of both.
+    std::error_code error;
+    auto entera = std::filesystem::weakly_canonical(ruta, error);
+    if (error) entera = ruta;
+    if (entera.is_relative()) entera = std::filesystem::absolute(entera, error);
     const auto p = std::find_if(Impresora.documentos.begin(), Impresora.documentos.end(),
-                                [&](const DocumentoDeCorrida &d) { return d.ruta == ruta; });
+                                [&](const DocumentoDeCorrida &d) { return d.entera == entera; });
     if (p != Impresora.documentos.end()) {
         Impresora.enUso = &*p;
     } else {
-        Impresora.enUso = &Impresora.documentos.emplace_back(DocumentoDeCorrida{ruta, {}, {}});
+        Impresora.enUso = &Impresora.documentos.emplace_back(DocumentoDeCorrida{ruta, entera, {}, {}});
     }
 }
 

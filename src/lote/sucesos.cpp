@@ -55,10 +55,9 @@ bool EsFilaDeCoeficientes(const SalidaResultado &salida, int linea) {
 // One line between the side rules of the block, cut as the window cuts it. The rows of the coefficient table get
 // their vertical rules where the fields leave a blank.
 void EscribirEnBloque(std::string_view linea, bool coeficientes) {
-    static constexpr std::size_t Columnas[] = {15, 30, 45, 54};
     std::string texto(linea.substr(0, AnchoBloqueSalida));
     texto.resize(AnchoBloqueSalida, ' ');
-    for (const std::size_t c : Columnas)
+    for (const std::size_t c : BlancosEntreColumnas)
         if (coeficientes && texto[c] == ' ') texto[c] = '|';
     EscribirLinea("| " + Utf8De1252(texto) + " |");
 }

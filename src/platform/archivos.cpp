@@ -1,6 +1,7 @@
 // Reading and writing whole files.
 #include "platform/archivos.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -33,6 +34,24 @@ bool LeerEntradaEstandar(std::string &contenido) {
     return LeerTodo(stdin, contenido);
 }
 
+namespace {
+
+// A new file beside `destino`, under a short name that nobody has: one made from its own might be too long for the
+// folder. Null when none can be made there.
+std::FILE *AbrirJunto(const std::filesystem::path &destino, std::string &nombre) {
+    constexpr int Intentos = 100;
+    std::FILE *f = nullptr;
+    for (int i = 0; i < Intentos && f == nullptr; ++i) {
+        nombre = destino.parent_path() /
+                 (".tabira" + std::to_string(getpid()) + "." + std::to_string(i) + ".nuevo");
+        f = std::fopen(nombre.c_str(), "wbx");
+        if (f == nullptr && errno != EEXIST) break;
+    }
+    return f;
+}
+
+} // namespace
+
 bool EscribirArchivo(const std::string &ruta, std::string_view contenido) {
     std::error_code error;
     // What stands under the name keeps its name: a link is followed, and a device or a pipe is written in place.
@@ -40,9 +59,8 @@ bool EscribirArchivo(const std::string &ruta, std::string_view contenido) {
     if (error) destino = ruta;
     const bool especial =
         std::filesystem::exists(destino, error) && !std::filesystem::is_regular_file(destino, error);
-    const std::string nuevo =
-        especial ? destino.string() : destino.string() + ".nuevo" + std::to_string(getpid());
-    std::FILE *f = std::fopen(nuevo.c_str(), "wb");
+    std::string nuevo;
+    std::FILE *f = especial ? std::fopen(destino.c_str(), "wb") : AbrirJunto(destino, nuevo);
     if (f == nullptr) return false;
     bool bien = std::fwrite(contenido.data(), 1, contenido.size(), f) == contenido.size();
     if (!especial) bien = std::fflush(f) == 0 && fsync(fileno(f)) == 0 && bien;

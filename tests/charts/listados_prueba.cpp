@@ -39,8 +39,12 @@ Lineas Pagina(std::size_t p, std::size_t trabajo = 0) {
     return Prueba.trabajos.at(trabajo).paginas.at(p);
 }
 
-std::string CabeceraPagina(const char *titulo, int pagina) {
-    return Formatear("        %s                Página.: %3d", titulo, pagina);
+// The head of matrices begins two columns further to the left.
+std::string CabeceraSeries(int pagina) {
+    return Formatear("        Listado de Series                Página.: %3d", pagina);
+}
+std::string CabeceraMatrices(int pagina) {
+    return Formatear("      Listado de Matrices                Página.: %3d", pagina);
 }
 
 // ---------------------------------------------------------------------------------------------------------------
@@ -53,7 +57,7 @@ TEST(ListadoSeries, UnBloque) {
     EXPECT_EQ(Imprimir(ImprimirSeries, {"CONSUMO", "X"}), 0);
     EXPECT_EQ(Prueba.trabajos.at(0).paginas.size(), 1u);
     EXPECT_EQ(Pagina(0), (Lineas{
-                             CabeceraPagina("Listado de Series", 1),
+                             CabeceraSeries(1),
                              "  Período             CONSUMO               X",
                              "     1990              1000.12            1.00",
                              "     1991      " + std::string(12, ' ') +
@@ -86,7 +90,7 @@ TEST(ListadoSeries, CuatroSeriesSonDosBloques) {
     for (const char *c : {"A", "B", "C", "D"}) PonerSerie(c, {1, 2});
     EXPECT_EQ(Imprimir(ImprimirSeries, {"A", "B", "C", "D"}), 0);
     EXPECT_EQ(Pagina(0), (Lineas{
-                             CabeceraPagina("Listado de Series", 1),
+                             CabeceraSeries(1),
                              "  Observac.                 A               B               C",
                              "       1                  1.00            1.00            1.00",
                              "       2                  2.00            2.00            2.00",
@@ -117,7 +121,7 @@ TEST(ListadoSeries, ConEtiquetasDosPorBloque) {
     for (const char *c : {"A", "B", "C"}) PonerSerie(c, {1});
     EXPECT_EQ(Imprimir(ImprimirSeries, {"A", "B", "C"}), 0);
     EXPECT_EQ(Pagina(0), (Lineas{
-                             CabeceraPagina("Listado de Series", 1),
+                             CabeceraSeries(1),
                              "  Observac.     Etiquetas                 A               B",
                              // The label has its 12 places, at the right of 15.
                              "       1       "
@@ -161,7 +165,7 @@ TEST(ListadoSeries, CambiosDePagina) {
     const std::size_t porPagina = static_cast<std::size_t>(LineasPagina - 13 + 1);
     ASSERT_EQ(paginas.size(), 3u);
     for (std::size_t p = 0; p < 3; ++p) {
-        EXPECT_EQ(paginas[p].at(0), CabeceraPagina("Listado de Series", static_cast<int>(p) + 1));
+        EXPECT_EQ(paginas[p].at(0), CabeceraSeries(static_cast<int>(p) + 1));
         EXPECT_EQ(paginas[p].at(1), "  Observac.                 A");
         EXPECT_EQ(paginas[p].size(), 2 + std::min(porPagina, n - p * porPagina));
         const auto reglas = Trazos(Prueba.trabajos[0].dibujo[p].ordenes, true, 3);
@@ -280,7 +284,7 @@ TEST(ListadoMatrices, CuatroElementosPorRenglon) {
     PonerMatriz("M", {1.125, -2}, 1, 2);
     EXPECT_EQ(Imprimir(ImprimirMatrices, {"ANCHA", "M"}), 0);
     EXPECT_EQ(Pagina(0), (Lineas{
-                             CabeceraPagina("Listado de Matrices", 1),
+                             CabeceraMatrices(1),
                              "  Nombre Matriz..: ANCHA            Nº Filas:   2 Nº Col.:   5",
                              "{           1.00            2.00            3.00            4.00",
                              "            5.00 }",
@@ -312,7 +316,7 @@ TEST(ListadoMatrices, CambiosDePagina) {
     const std::size_t porPagina = static_cast<std::size_t>(LineasPagina - 16 + 1);
     ASSERT_EQ(paginas.size(), 3u);
     for (std::size_t p = 0; p < 3; ++p) {
-        EXPECT_EQ(paginas[p].at(0), CabeceraPagina("Listado de Matrices", static_cast<int>(p) + 1));
+        EXPECT_EQ(paginas[p].at(0), CabeceraMatrices(static_cast<int>(p) + 1));
         EXPECT_EQ(paginas[p].at(1), "  Nombre Matriz..: M                Nº Filas: 100 Nº Col.:   1");
         EXPECT_EQ(paginas[p].size(), 2 + std::min(porPagina, 100 - p * porPagina));
     }
@@ -326,9 +330,9 @@ TEST(ListadoMatrices, LaCabeceraPasaALaPaginaSiguiente) {
     PonerMatriz("N", {1}, 1, 1);
     EXPECT_EQ(Imprimir(ImprimirMatrices, {"M", "N"}), 0);
     ASSERT_EQ(Prueba.trabajos.at(0).paginas.size(), 2u);
-    EXPECT_EQ(Pagina(1), (Lineas{CabeceraPagina("Listado de Matrices", 2),
-                                 "  Nombre Matriz..: N                Nº Filas:   1 Nº Col.:   1",
-                                 "{           1.00 }"}));
+    EXPECT_EQ(Pagina(1),
+              (Lineas{CabeceraMatrices(2), "  Nombre Matriz..: N                Nº Filas:   1 Nº Col.:   1",
+                      "{           1.00 }"}));
 }
 
 // Unlike the listing of series, this one doesn't look at the end of a page.

@@ -1,9 +1,11 @@
 // The result window of a regression, and the ways to get the result out of it: printer, clipboard, files.
 #include "apoyo_escritorio.h"
+#include "apoyo_pdf.h"
 
 #include "apoyo/datos_csv.h"
 #include "charts/ventanas/guardar_resultado.h"
 #include "platform/qt/plataforma_qt.h"
+#include "platform/qt/superficie_qt.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 
@@ -17,10 +19,9 @@
 #include <QLocale>
 #include <QMenu>
 #include <QMenuBar>
-#include <QProcess>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QScrollBar>
-#include <QStandardPaths>
 #include <QTimer>
 
 #include <clocale>
@@ -83,50 +84,6 @@ std::string Portapapeles() {
     return QApplication::clipboard()->text().toStdString();
 }
 
-// A line with each stretch of blanks made one.
-QString Apretada(const QString &linea) {
-    return linea.simplified();
-}
-
-QStringList TextoDePdf(const QString &ruta) {
-    QProcess p;
-    p.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), QStringLiteral("-enc"),
-                                          QStringLiteral("UTF-8"), ruta, QStringLiteral("-")});
-    if (!p.waitForStarted() || !p.waitForFinished()) return {};
-    return QString::fromUtf8(p.readAllStandardOutput()).split(u'\n');
-}
-
-bool HayPdftotext() {
-    return !QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty();
-}
-
-// The home of this run.
-QString Casa() {
-    return qEnvironmentVariable("HOME");
-}
-
-QDir Documentos() {
-    return {QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)};
-}
-
-// The lines of the text are in the document, with their columns: fields of a line stand as far apart as they did.
-void EstaEnElPdf(const QString &texto, const QString &ruta) {
-    if (!HayPdftotext()) return;
-    const QStringList paginas = TextoDePdf(ruta);
-    QStringList apretadas;
-    for (const QString &l : paginas) apretadas << Apretada(l);
-    static const QRegularExpression Palabra(QStringLiteral("[0-9A-Za-z]"));
-    for (const QString &linea : texto.split(u'\n')) {
-        if (!linea.contains(Palabra)) continue;
-        EXPECT_TRUE(apretadas.contains(Apretada(linea.left(70)))) << linea.toStdString();
-    }
-}
-
-QByteArray Leer(const QString &ruta) {
-    QFile f(ruta);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
 // A result of the program, as the window gets it.
 struct ResultadoGuardado {
     TextoSalida lineas;
@@ -176,13 +133,50 @@ TEST_F(Resultado, LaVentana) {
         // Looked at under the arrow, though the batch goes on behind it.
         ASSERT_NE(QApplication::overrideCursor(), nullptr);
         EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ArrowCursor);
-        // Something black on white paper.
+        // Black on white paper: the frame, and nothing near the foot.
         const QImage imagen = area.viewport()->grab().toImage();
+        EXPECT_EQ(imagen.pixelColor(imagen.width() / 2, 0), QColor(Qt::black));
         EXPECT_EQ(imagen.pixelColor(imagen.width() / 2, imagen.height() - 8), QColor(Qt::white));
         menu[1]->trigger();
         EXPECT_FALSE(d.isVisible());
     });
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+// As many columns and lines as it opens with, where the screen has them; on a smaller one it stays inside.
+TEST_F(Resultado, CabeEnLaPantalla) {
+    EnKlein(*ventana, [](QDialog &d, QAbstractScrollArea &area) {
+        const QSize pantalla = d.screen()->availableSize();
+        EXPECT_LE(d.width(), pantalla.width());
+        EXPECT_LT(d.height(), pantalla.height()) << "there is room for the title bar";
+        const QFontMetrics letra(FuenteFijaDePantalla());
+        const QSize suyo(77 * letra.horizontalAdvance(u'0'), 30 * letra.lineSpacing());
+        if (suyo.width() + 40 > pantalla.width() || suyo.height() + 120 > pantalla.height()) return;
+        EXPECT_EQ(area.viewport()->size(), suyo);
+    });
+}
+
+TEST_F(Resultado, SinRaton) {
+    for (const QString &f : Documentos().entryList({QStringLiteral("*.pdf")}))
+        QFile::remove(Documentos().filePath(f));
+    testing::internal::CaptureStderr();
+    EnKlein(*ventana, [](QDialog &d, QAbstractScrollArea &area) {
+        Activar(d);
+        EXPECT_EQ(QApplication::focusWidget(), &area);
+        QTest::keyClick(&area, Qt::Key_Return); // no button: nothing happens
+        EXPECT_TRUE(d.isVisible());
+        QTest::keyClick(&area, Qt::Key_I, Qt::AltModifier);
+        EXPECT_EQ(Documentos().entryList({QStringLiteral("*.pdf")}).size(), 1);
+        EXPECT_TRUE(d.isVisible());
+        QTest::keyClick(&area, Qt::Key_S, Qt::AltModifier);
+        EXPECT_FALSE(d.isVisible());
+    });
+    testing::internal::GetCapturedStderr();
+    EnKlein(*ventana, [](QDialog &d, QAbstractScrollArea &area) {
+        Activar(d);
+        QTest::keyClick(&area, Qt::Key_Escape);
+        EXPECT_FALSE(d.isVisible());
+    });
 }
 
 TEST_F(Resultado, Desplazarse) {
@@ -372,38 +366,6 @@ TEST_F(Resultado, ImprimirSinImpresora) {
         EXPECT_TRUE(nota.contains(documentos.filePath(f))) << nota.toStdString();
         EstaEnElPdf(texto, documentos.filePath(f));
     }
-}
-
-// The text of the edit screen: what is selected, or all of it.
-TEST_F(Resultado, ImprimirSeleccion) {
-    const QDir documentos = Documentos();
-    static constexpr struct {
-        int desde, hasta;
-        const char *esta, *noEsta;
-    } Casos[] = {{0, 0, "ESC B = 2", "nada"}, {3, 4, "ESC B = 2", "nada"}, {0, 9, "ESC A = 1", "ESC B"}};
-    for (const auto &c : Casos) {
-        for (const QString &f : documentos.entryList({QStringLiteral("*.pdf")}))
-            QFile::remove(documentos.filePath(f));
-        ventana->PantallaEdicion->setPlainText(QStringLiteral("ESC A = 1\nESC B = 2\n; Peñón"));
-        QTextCursor cursor = ventana->PantallaEdicion->textCursor();
-        cursor.setPosition(c.desde);
-        cursor.setPosition(c.hasta, QTextCursor::KeepAnchor);
-        ventana->PantallaEdicion->setTextCursor(cursor);
-        testing::internal::CaptureStderr();
-        ConGuion({}, [&] { Ordenar(2088); });
-        EXPECT_NE(testing::internal::GetCapturedStderr(), "");
-        const QStringList escritos = documentos.entryList({QStringLiteral("*.pdf")});
-        ASSERT_EQ(escritos.size(), 1);
-        if (!HayPdftotext()) continue;
-        const QString texto = TextoDePdf(documentos.filePath(escritos[0])).join(u'\n');
-        EXPECT_TRUE(texto.contains(QStringLiteral("LISTADO PANTALLA PRINCIPAL"))) << texto.toStdString();
-        EXPECT_TRUE(texto.contains(QString::fromUtf8(c.esta))) << texto.toStdString();
-        EXPECT_FALSE(texto.contains(QString::fromUtf8(c.noEsta))) << texto.toStdString();
-    }
-}
-
-TEST_F(Resultado, ImprimirNada) {
-    ConGuion({Caja("Proceso cancelado", "No hay datos a procesar. Punto 3.")}, [&] { Ordenar(2088); });
 }
 
 // Where the desktop speaks Spanish its own texts have a comma; those of the program don't.

@@ -355,3 +355,35 @@ TEST(Informe, LosContrastesNoSeMuestranTrasPonderar) {
         EXPECT_TRUE(Prueba.resultados.empty());
     }
 }
+
+// A report of a test: shown without a question, whatever VSR says, under the title of its code.
+TEST(Informe, SalidaDeUnContraste) {
+    static constexpr struct {
+        int clase;
+        bool seProduce;
+        const char *titulo; // of the window, null when none opens
+    } Casos[] = {
+        {101, true, "Contrastes de autocorrelación: Wallis"},
+        {104, true, "Contrastes de heteroscedasticidad: Rangos"},
+        {9, true, "Contrastes de significatividad: Modelo restringido"},
+        {105, false, nullptr},
+    };
+    for (const auto &c : Casos) {
+        SCOPED_TRACE(c.clase);
+        EmpezarRegresion();
+        Lote.VerRegresion = 0;
+        static bool seProduce = false;
+        seProduce = c.seProduce;
+        MostrarSalida(nullptr, c.clase, [](InformeProducido &informe, Ventana *, int clase) {
+            AnadirLinea(informe.lineas, 3, "clase " + std::to_string(clase));
+            return seProduce ? 1 : 0;
+        });
+        EXPECT_TRUE(Prueba.cajas.empty());
+        ASSERT_EQ(Prueba.resultados.size(), c.titulo != nullptr ? 1u : 0u);
+        if (c.titulo == nullptr) continue;
+        EXPECT_EQ(Prueba.resultados[0].titulo, c.titulo);
+        EXPECT_EQ(Prueba.resultados[0].clase, c.clase);
+        EXPECT_EQ(Prueba.resultados[0].contenido, 0);
+        EXPECT_EQ(Prueba.resultados[0].lineas, (Lineas{{3, "clase " + std::to_string(c.clase)}}));
+    }
+}

@@ -103,10 +103,13 @@ TEST(ImpresionLote, ElInformeEsTambienUnPdf) {
 }
 
 TEST(ImpresionLote, SinDocumentoQuedanLosSucesos) {
-    const auto r =
-        Correr({"--json", "--tipo", "sin", "--sentencia", "MAT M = {1 2 ; 3 4}", "--listado", "matrices:M"});
-    const auto impresiones = SucesosDe(r, "impresion");
-    ASSERT_EQ(impresiones.size(), SucesosDe(r, "caja").empty() ? 1u : 0u) << r.salida;
+    const std::string carpeta = CarpetaNueva("sin documento");
+    const auto r = Correr(
+        {"--json", "--tipo", "anual:1990:1991", "--sentencia", "SER X = TEND", "--listado", "series:X"},
+        {.carpeta = carpeta, .entrada = {}, .variables = {}});
+    EXPECT_EQ(r.estado, 0) << r.errores;
+    ASSERT_EQ(SucesosDe(r, "impresion").size(), 1u) << r.salida;
+    EXPECT_TRUE(std::filesystem::is_empty(carpeta));
 }
 
 TEST(ImpresionLote, ListadoDeSeries) {
@@ -134,7 +137,7 @@ TEST(ImpresionLote, ListadoDeMatricesYTexto) {
     EXPECT_EQ(r.estado, 0) << r.salida << r.errores;
     const auto impresiones = SucesosDe(r, "impresion");
     ASSERT_EQ(impresiones.size(), 1u);
-    const Lineas lineas = {"        Listado de Matrices                Página.:   1",
+    const Lineas lineas = {"      Listado de Matrices                Página.:   1",
                            "  Nombre Matriz..: M                Nº Filas:   2 Nº Col.:   5",
                            "{           1.00            1.00            1.00            1.00",
                            "            1.00 }",
@@ -152,11 +155,11 @@ TEST(ImpresionLote, VariosTrabajosYDocumentos) {
     const auto r = Correr(Mas(Mas({"--json", "--imprimir", carpeta + "/a.pdf", "--imprimir-salidas"}, Klein),
                               {"--listado", "series:CONSUMO", "--imprimir", carpeta + "/b.pdf", "--listado",
                                "matrices:_BETA", "--imprimir", carpeta + "/c.pdf", "--imprimir",
-                               carpeta + "/a.pdf", "--listado", "matrices:_COV"}));
+                               carpeta + "/./a.pdf", "--listado", "matrices:_COV"}));
     EXPECT_EQ(r.estado, 0) << r.salida << r.errores;
     EXPECT_EQ(SucesosDe(r, "impresion").size(), 4u);
     const auto a = PaginasDePdf(carpeta + "/a.pdf"), b = PaginasDePdf(carpeta + "/b.pdf");
-    ASSERT_EQ(a.size(), 3u) << "the jobs one behind the other";
+    ASSERT_EQ(a.size(), 3u) << "the jobs one behind the other, however the path is spelled";
     EXPECT_NE(a[0][0].find("Mínimos cuadrados ordinarios"), std::string::npos);
     EXPECT_NE(a[1][0].find("Listado de Series"), std::string::npos);
     EXPECT_NE(a[2][0].find("Listado de Matrices"), std::string::npos);

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <filesystem>
 #include <string>
 #include <unistd.h>
@@ -50,6 +51,28 @@ TEST_F(Archivos, LoQueNoSePuedeEscribirDejaLoQueHabia) {
     EXPECT_FALSE(EscribirArchivo(carpeta.string(), "a")); // a folder stands under the name
     EXPECT_EQ(Ficheros(), 0);
     EXPECT_FALSE(EscribirArchivo("", "a"));
+}
+
+// As long as a name can be: nothing is put behind it on the way.
+TEST_F(Archivos, NombreMuyLargo) {
+    for (const std::size_t largo : {245u, 255u}) {
+        const std::string nombre(largo, 'x');
+        EXPECT_TRUE(EscribirArchivo(Ruta(nombre.c_str()), "a")) << largo;
+        EXPECT_TRUE(ExisteArchivo(Ruta(nombre.c_str())));
+    }
+    EXPECT_FALSE(EscribirArchivo(Ruta(std::string(256, 'x').c_str()), "a"));
+    EXPECT_EQ(Ficheros(), 2);
+}
+
+// What a run that died left behind is neither used nor in the way.
+TEST_F(Archivos, RestosDeOtraVez) {
+    const std::string resto = Ruta((".tabira" + std::to_string(getpid()) + ".0.nuevo").c_str());
+    std::FILE *f = std::fopen(resto.c_str(), "wb");
+    ASSERT_NE(f, nullptr);
+    std::fclose(f);
+    EXPECT_TRUE(EscribirArchivo(Ruta("a"), "1"));
+    EXPECT_TRUE(ExisteArchivo(resto));
+    EXPECT_EQ(Ficheros(), 2);
 }
 
 TEST_F(Archivos, SeConservanPermisosYEnlaces) {

@@ -48,7 +48,8 @@ bool GuardarImagen(const SalidaResultado &salida, const QString &ruta) {
     constexpr int AlturaMaxima = 32767; // what a painter reaches
     const QFont fuente = FuenteFija(AnchoCaracter);
     const int alto = QFontMetrics(fuente).lineSpacing();
-    const auto filas = static_cast<int>(salida.lineas->size()) * 2 + 8; // every line may bring a rule
+    const std::size_t fijas = salida.fijas != nullptr ? salida.fijas->size() : 0;
+    const auto filas = static_cast<int>(salida.lineas->size() + fijas) * 2 + 8; // every line may bring a rule
     constexpr int Ancho = AnchoCaracter * ColumnasVentanaResultado;
     EstadoVentanaResultado estado{};
     estado.Clase = salida.Clase;

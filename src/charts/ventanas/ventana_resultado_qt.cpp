@@ -14,16 +14,17 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QDialog>
-#include <QFileDialog>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace {
 
 constexpr int FilasDeLaVentana = 30; // lines that the window shows when it opens, where the screen has them
+constexpr int AltoDelMarco = 40;     // what the title bar takes of the screen, at most
 
 class AreaResultado : public QAbstractScrollArea {
 public:
@@ -132,15 +133,13 @@ void MostrarResultadoQt(Ventana *ventana, const SalidaResultado &salida) {
     imprimir->setObjectName(QStringLiteral("comando2006"));
     QAction *salir = barra->addAction(QStringLiteral("&Salir"));
     salir->setObjectName(QStringLiteral("comando2021"));
-    QObject::connect(imprimir, &QAction::triggered, &dialogo, [&] {
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-        ImprimirResultado(AVentana(&dialogo), salida.Contenido, salida);
-        QApplication::restoreOverrideCursor();
-    });
+    QObject::connect(imprimir, &QAction::triggered, &dialogo,
+                     [&] { ImprimirResultado(AVentana(&dialogo), salida.Contenido, salida); });
     QObject::connect(salir, &QAction::triggered, &dialogo, &QDialog::accept);
     disposicion->setMenuBar(barra);
     disposicion->addWidget(area);
-    dialogo.resize(area->TamanoInicial());
+    const QSize pantalla = dialogo.screen()->availableSize() - QSize(0, AltoDelMarco);
+    dialogo.resize((area->TamanoInicial() + QSize(0, barra->sizeHint().height())).boundedTo(pantalla));
     area->setFocus();
     // A statement runs under the wait cursor; its result is looked at under the arrow.
     QApplication::setOverrideCursor(Qt::ArrowCursor);

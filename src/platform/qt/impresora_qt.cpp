@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QMainWindow>
 #include <QPrinter>
@@ -21,17 +22,25 @@ namespace {
 
 std::string DocumentoElegido;  // where the present job goes, empty for the printer
 bool DocumentoEscrito = false; // and whether it got there
-std::string UltimoDocumento;
+
+// Takes a name for a document of ours, as an empty file under it. False when something stands there, a link to nowhere
+// included. Where no file can be made the name is as good as any other: writing the document will fail.
+bool Reservar(const QString &ruta) {
+    QFile f(ruta);
+    if (f.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return true;
+    const QFileInfo hay(ruta);
+    return !hay.exists() && !hay.isSymLink();
+}
 
 // "Imprime1: Imprimiendo" becomes "Imprime1 Imprimiendo 2026-11-21 10.15.30.pdf", with a number behind where that
-// name is taken: nothing of the user's is overwritten.
+// name is taken: nothing of the user's is overwritten, nor the document of another Tabira.
 QString DocumentoNuevo(const std::string &documento) {
     const QDir carpeta(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     carpeta.mkpath(QStringLiteral("."));
     const QString nombre = QDe1252(documento).remove(u':') +
                            QDateTime::currentDateTime().toString(QStringLiteral(" yyyy-MM-dd HH.mm.ss"));
     QString ruta = carpeta.filePath(nombre + QStringLiteral(".pdf"));
-    for (int n = 2; QFileInfo::exists(ruta); ++n)
+    for (int n = 2; !Reservar(ruta); ++n)
         ruta = carpeta.filePath(nombre + QStringLiteral(" (%1).pdf").arg(n));
     return ruta;
 }
@@ -60,13 +69,14 @@ void TerminarTrabajoQt() {
     if (!impresora.isNull()) {
         QPrinter papel(impresora, QPrinter::HighResolution);
         papel.setDocName(QDe1252(trabajo.documento));
+        papel.setPageOrientation(QPageLayout::Portrait);
         if (PintarPaginas(papel, trabajo.paginas)) return;
     }
     const QString ruta = DocumentoNuevo(trabajo.documento);
     if (EscribirPdf(ruta.toStdString(), trabajo.titulo, trabajo.paginas)) {
-        UltimoDocumento = ruta.toStdString();
         Avisar(QStringLiteral("Sin impresora: impreso en %1").arg(QDir::toNativeSeparators(ruta)));
     } else {
+        QFile::remove(ruta); // the empty file that took the name
         Avisar(QStringLiteral("No se ha podido imprimir en %1").arg(QDir::toNativeSeparators(ruta)));
     }
 }
@@ -77,8 +87,4 @@ bool ImprimirEnDocumento(const std::string &ruta, const std::function<bool()> &i
     const bool bien = imprimir();
     DocumentoElegido.clear();
     return bien && DocumentoEscrito;
-}
-
-const std::string &UltimoDocumentoImpreso() {
-    return UltimoDocumento;
 }

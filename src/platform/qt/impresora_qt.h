@@ -13,6 +13,3 @@ void TerminarTrabajoQt();
 // Runs `imprimir`, and what it prints goes to the PDF document `ruta` instead. False when it prints nothing or the
 // document can't be written.
 bool ImprimirEnDocumento(const std::string &ruta, const std::function<bool()> &imprimir);
-
-// Path of the document that the last job without a printer went to; empty when there was none.
-const std::string &UltimoDocumentoImpreso();

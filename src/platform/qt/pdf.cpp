@@ -56,7 +56,11 @@ QByteArray Componer(std::string_view titulo, const std::deque<PaginaImpresa> &pa
 bool PintarPaginas(QPagedPaintDevice &papel, const std::deque<PaginaImpresa> &paginas) {
     QPainter pintor;
     if (!pintor.begin(&papel)) return false;
-    // The recorded page is laid over the paper, whatever its resolution and the margins that it can't print on.
+    // The recorded page is laid over the paper, whatever its resolution and the margins that it can't print on. Paper of
+    // another shape than A4 shows it as large as it can without stretching the letters.
+    const QSize papelUtil = pintor.viewport().size();
+    const QSize hoja = QSize(AnchoPagina, AltoPagina).scaled(papelUtil, Qt::KeepAspectRatio);
+    pintor.setViewport((papelUtil.width() - hoja.width()) / 2, 0, hoja.width(), hoja.height());
     pintor.setWindow(0, 0, AnchoPagina, AltoPagina);
     const QFont fuente = FuenteFija(AnchoCaracterPagina);
     for (const PaginaImpresa &p : paginas) {
