@@ -67,7 +67,7 @@ const LineaAyuda TextoEscalares[] = {
     {E, "     ESC IVA = IVA + 0.02"_w},
     {T, ""_w},
     {T, "Un escalar puede usarse en cualquier fórmula, de regresor, entre corchetes"_w},
-    {T, "como periodo y como retardo; el retardo toma entonces el signo del escalar:"_w},
+    {T, "como período y como retardo; el retardo toma entonces el signo del escalar:"_w},
     {E, "     SER PRECIVA = PRECIO * (1 + IVA)"_w},
     {E, "     ESC RET = -2"_w},
     {E, "     SER RENTA2 = RENTA(RET)"_w},
