@@ -8,6 +8,7 @@
 #include "shell/ventanas/dialogos.h"
 #include "store/archivo.h"
 
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
@@ -99,6 +100,20 @@ TEST_F(Dialogos, MuestraActual) {
                    EXPECT_EQ(TextoDe(d, "linea1"), "Período final: 1996");
                    EXPECT_EQ(TextoDe(d, "linea2"), "Muestra máxima: 1990#1999");
                    EXPECT_EQ(TextoDe(d, "linea3"), "Número máximo datos: 10");
+                   Pulsar(d, "OK");
+               }}},
+             [&] { Ordenar(2085); });
+}
+
+// A period of a panel is what the user typed, from its number on.
+TEST_F(Dialogos, PeriodosConMarcas) {
+    PonerDatos(TipoAnual, "1990#1999");
+    PonerTextoPeriodo(0, "1990<b>-1");
+    ConGuion({{"Muestra actual",
+               [](QDialog &d) {
+                   auto *linea = Hijo<QLabel>(d, "linea0");
+                   EXPECT_EQ(linea->text().toStdString(), "Período inicial: 1990<b>-1");
+                   EXPECT_EQ(linea->textFormat(), Qt::PlainText);
                    Pulsar(d, "OK");
                }}},
              [&] { Ordenar(2085); });

@@ -43,9 +43,6 @@ void DialogoLista(Ventana *ventana, ListasDeElementos lista) {
     DialogoConFormulario<Ui::ListadoElementos> d(ventana);
     d.dialogo.setWindowTitle(QDe1252(TituloLista(lista)));
     d.ui.lista->setFont(FuenteFijaDePantalla());
-    // Without this the list would take its first line for the current one, though nothing is chosen, and the first key
-    // Down would leave that line behind.
-    d.ui.lista->setCurrentIndex({});
     for (const std::string &linea : LineasLista(lista)) d.ui.lista->addItem(QDe1252(linea));
     QObject::connect(d.ui.Borrar, &QPushButton::clicked, &d.dialogo, [&] {
         const int elegida = FilaElegida(*d.ui.lista);
