@@ -50,9 +50,6 @@ constexpr PaginaManual Paginas[] = {
     {PaginaPanel, "Datos Panel", 0, 0, TextoPanel},
 };
 
-// Commands that have no routine.
-constexpr int ComandosSinEnsamblar[] = {2001, 2002, 2003, 2010};
-
 struct EnlaceAyuda {
     int origen, pagina;
 };
@@ -62,23 +59,6 @@ constexpr EnlaceAyuda ComandosEditor[] = {{2046, PaginaEdicion}, {2074, PaginaNo
 constexpr EnlaceAyuda BotonesSiguiente[] = {
     {5015, 1130}, {5018, 1129}, {5033, 1131}, {5034, 1132}, {5035, 1128}, {5058, 1127}, {5065, 1133},
     {5068, 1134}, {5070, 1135}, {5071, 1136}, {5072, 1137}, {5073, 1217}, {5074, 1138}, {5075, 1218},
-};
-
-constexpr EntradaMenuAyuda Menu[] = {
-    {2067, "&Reglas generales..."},
-    {2101, "Acotación de la muestra..."_w},
-    {2051, "&Transformación de series..."_w},
-    {2068, "&Escalares..."},
-    {2053, "&Calculadora..."},
-    {2069, "Cálculo &matricial..."_w},
-    {2084, "Mét&odos y contrastes..."_w},
-    {2089, "Co&ntrol de flujo y otros..."},
-    {2096, "Operadores lógicos..."_w},
-    {2097, "Series ficticias..."},
-    {2098, "Probabilidades..."},
-    {2102, "Funciones desde Pantalla Edición"_w},
-    {2100, "Ejemplos de ayuda..."},
-    {2046, "&Acerca de Tabira..."},
 };
 
 constexpr const char *Nombres[] = {"Los autores de Tabira", "Los autores de Tabira",
@@ -102,10 +82,6 @@ std::span<const PaginaManual> PaginasManual() {
     return Paginas;
 }
 
-std::span<const EntradaMenuAyuda> MenuAyuda() {
-    return Menu;
-}
-
 std::span<const char *const> NombresAcercaDe() {
     return Nombres;
 }
@@ -117,8 +93,6 @@ const PaginaManual *BuscarPagina(int id) {
 }
 
 int PaginaDeComando(int comando) {
-    for (const int c : ComandosSinEnsamblar)
-        if (c == comando) return PaginaNoEnsamblada;
     for (const PaginaManual &p : Paginas)
         if (p.comando != 0 && p.comando == comando) return p.id;
     return 0;
@@ -147,12 +121,13 @@ BotonesPagina BotonesDePagina(const PaginaManual &pagina) {
 
 void PaginaAyuda(Ventana *ventana, int id, AbrirPagina abrir) {
     const PaginaManual *pagina = BuscarPagina(id);
-    while (pagina != nullptr) {
-        const int boton = abrir(ventana, *pagina);
-        if (boton == BotonAyudaCancelar) CerrarAyuda = 1;
-        if (boton == 0 || boton != pagina->botonSiguiente) return;
-        CerrarAyuda = 0;
-        PaginaAyuda(ventana, PaginaDeBoton(boton), abrir);
-        if (CerrarAyuda != 0) return;
-    }
+    if (pagina != nullptr) abrir(ventana, *pagina);
+}
+
+int PulsarBotonAyuda(Ventana *ventana, const PaginaManual &pagina, int boton, AbrirPagina abrir) {
+    if (boton == BotonAyudaCancelar) CerrarAyuda = 1;
+    if (boton == 0 || boton != pagina.botonSiguiente) return 1;
+    CerrarAyuda = 0;
+    PaginaAyuda(ventana, PaginaDeBoton(boton), abrir);
+    return CerrarAyuda;
 }

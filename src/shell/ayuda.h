@@ -37,8 +37,7 @@ std::span<const PaginaManual> PaginasManual();
 // The page with this id, null when there is none.
 const PaginaManual *BuscarPagina(int id);
 
-// Id of the page that a command of the main window opens, 0 when it opens none. The commands that aren't built yet
-// and have no routine at all (2001 to 2003, 2010) open the page "No ensamblada".
+// Id of the page that a command of the main window opens, 0 when it opens none.
 int PaginaDeComando(int comando);
 
 // The same for the commands of the editor window, where "Ayuda" bears the id that "Acerca de" has elsewhere.
@@ -46,13 +45,6 @@ int PaginaDeComandoEditor(int comando);
 
 // Id of the page that a "Siguiente" button opens, 0 for any other id. Button 5072 leads to a page that doesn't exist.
 int PaginaDeBoton(int boton);
-
-// The entries of the menu "Ayuda", in their order.
-struct EntradaMenuAyuda {
-    int comando;
-    const char *texto; // with its mnemonic
-};
-std::span<const EntradaMenuAyuda> MenuAyuda();
 
 // What stands in the name fields of the page "Acerca de..", the first beside "Diseño :" and the others beside
 // "Programación informática:".
@@ -78,9 +70,14 @@ BotonesPagina BotonesDePagina(const PaginaManual &pagina);
 // 1 once "Cancelar" was pressed, so that every page below closes too.
 extern int CerrarAyuda;
 
-// Shows one page, modal, and returns the id of the button that closed it; BotonAyudaCancelar when it was closed otherwise.
-using AbrirPagina = int (*)(Ventana *ventana, const PaginaManual &pagina);
+// Shows one page, modal, above `ventana`, until it is closed. Every button that is pressed goes to PulsarBotonAyuda, and
+// so does BotonAyudaCancelar when the page is closed in another way.
+using AbrirPagina = void (*)(Ventana *ventana, const PaginaManual &pagina);
 
-// Shows a page, and those to which its buttons lead, until they are closed: "Siguiente" opens the next page above this
-// one, "Anterior" and "OK" go back to the page below, "Cancelar" closes all. An id without a page shows nothing.
+// Shows a page, and above it those to which its buttons lead. An id without a page shows nothing.
 void PaginaAyuda(Ventana *ventana, int id, AbrirPagina abrir);
+
+// A button of a page that is open in `ventana`: "Siguiente" opens the next page above this one, and comes back when that
+// one is closed; "Anterior" and "OK" go back to the page below; "Cancelar" closes all. 1 when the page has to close, 0
+// when it stays.
+int PulsarBotonAyuda(Ventana *ventana, const PaginaManual &pagina, int boton, AbrirPagina abrir);

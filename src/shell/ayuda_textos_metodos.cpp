@@ -8,7 +8,7 @@ const LineaAyuda TextoMetodos1[] = {
     {T, "MC estima una ecuación por mínimos cuadrados en la muestra. Sintaxis:"_w},
     {T, "     MC [(CN) | (CH) | (CA n)] dependiente regresor regresor ..."_w},
     {T, "Los regresores se separan con blancos. Pueden ser series, escalares, números,"_w},
-    {T, "series retardadas y datos de un periodo, como X[1990], que son una constante."_w},
+    {T, "series retardadas y datos de un período, como X[1990], que son una constante."_w},
     {T, "El término independiente es el número 1; si no se escribe, no lo hay."_w},
     {T, "Antes, acote la muestra: si no, la acortan las series que deja la regresión."_w},
     {E, "     MUEST 1980 1999"_w},

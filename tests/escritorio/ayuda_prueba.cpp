@@ -6,6 +6,8 @@
 #include "shell/ayuda.h"
 #include "shell/ventanas/dialogos.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QLabel>
 
 using Manual = Escritorio;
@@ -19,6 +21,12 @@ Paso Pagina(const char *titulo, int numero, const char *boton) {
                 EXPECT_FALSE(TextoDe(d, "texto").empty());
                 Pulsar(d, boton);
             }};
+}
+
+QWidget *PaginaAbierta(const char *nombre) {
+    for (QWidget *w : QApplication::topLevelWidgets())
+        if (w->objectName() == QLatin1String(nombre)) return w;
+    return nullptr;
 }
 
 struct Cadena {
@@ -116,6 +124,61 @@ TEST_F(Manual, PaginasSolas) {
                    }}},
                  [&] { Ordenar(p.comando); });
     }
+}
+
+// Enter goes on through the chain, and on its last page closes it.
+TEST_F(Manual, EnterRecorreLaCadena) {
+    for (const Cadena &c : Cadenas) {
+        SCOPED_TRACE(c.titulo);
+        Guion guion;
+        for (const int p : c.paginas)
+            guion.push_back({c.titulo, [p](QDialog &d) {
+                                 EXPECT_EQ(d.objectName().toStdString(), "P" + std::to_string(p));
+                                 Activar(d);
+                                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+                             }});
+        ConGuion(guion, [&] { Ordenar(c.comando); });
+    }
+}
+
+// A page stays open below the next, which belongs to it.
+TEST_F(Manual, LasPaginasSeApilan) {
+    const Cadena &c = Cadenas[0];
+    ConGuion({Pagina(c.titulo, 1194, "Siguiente"),
+              Pagina(c.titulo, 1138, "Siguiente"),
+              {c.titulo,
+               [](QDialog &d) {
+                   for (const char *debajo : {"P1138", "P1194"}) {
+                       auto *w = PaginaAbierta(debajo);
+                       ASSERT_NE(w, nullptr) << debajo;
+                       EXPECT_TRUE(w->isVisible());
+                   }
+                   EXPECT_EQ(d.parentWidget()->objectName(), QStringLiteral("P1138"));
+                   Pulsar(d, "Anterior");
+               }},
+              {c.titulo,
+               [](QDialog &d) {
+                   EXPECT_EQ(d.objectName(), QStringLiteral("P1138"));
+                   EXPECT_EQ(PaginaAbierta("P1128"), nullptr);
+                   Pulsar(d, "Cancelar");
+               }}},
+             [&] { Ordenar(c.comando); });
+}
+
+// An example can be copied with the keyboard alone.
+TEST_F(Manual, CopiarConElTeclado) {
+    ConGuion({{"Calculadora",
+               [](QDialog &d) {
+                   Activar(d);
+                   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+                   auto *texto = Hijo<QLabel>(d, "texto");
+                   EXPECT_EQ(QApplication::focusWidget(), texto);
+                   QTest::keyClick(texto, Qt::Key_A, Qt::ControlModifier);
+                   QTest::keyClick(texto, Qt::Key_C, Qt::ControlModifier);
+                   EXPECT_EQ(QApplication::clipboard()->text(), texto->text());
+                   Pulsar(d, "OK");
+               }}},
+             [&] { Ordenar(2053); });
 }
 
 // Every page shows all its lines, examples indented, in a fixed pitch.

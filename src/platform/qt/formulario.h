@@ -4,14 +4,15 @@
 #include "platform/qt/ventana_qt.h"
 
 #include <QDialog>
+#include <QLabel>
 #include <QLayout>
 #include <QListWidget>
 #include <QPushButton>
 
 #include <algorithm>
 
-// The line of a list that the user has chosen, -1 for none. A list that gets the keyboard has a current line, too, which
-// nobody chose.
+// The line of a list that the user has chosen, -1 for none. The current line may be another one, which
+// nobody chose: after a deletion, say.
 inline int FilaElegida(const QListWidget &lista) {
     const QList<QListWidgetItem *> elegidas = lista.selectedItems();
     return elegidas.isEmpty() ? -1 : lista.row(elegidas.constFirst());
@@ -30,6 +31,11 @@ template <class Formulario> struct DialogoConFormulario {
         holgura = dialogo.minimumSize();
         dialogo.setMinimumSize(0, 0);
         dialogo.setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+        // What the user gave as a period or a code is shown as it is, whatever marks it holds.
+        for (auto *texto : dialogo.findChildren<QLabel *>()) texto->setTextFormat(Qt::PlainText);
+        // Without this a list would take its first line for the current one, though nobody chose it, and the first key
+        // Down would leave that line behind.
+        for (auto *lista : dialogo.findChildren<QListWidget *>()) lista->setCurrentIndex({});
         if (auto *cancela = dialogo.template findChild<QPushButton *>(QStringLiteral("Cancela")))
             QObject::connect(cancela, &QPushButton::clicked, &dialogo, &QDialog::reject);
     }

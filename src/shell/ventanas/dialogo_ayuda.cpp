@@ -12,7 +12,7 @@
 
 namespace {
 
-int MostrarAcerca(Ventana *ventana, const PaginaManual &) {
+void MostrarAcerca(Ventana *ventana) {
     DialogoConFormulario<Ui::AcercaDe> d(ventana);
     QFont grande = d.ui.nombre->font();
     grande.setPointSizeF(grande.pointSizeF() * 1.8);
@@ -26,27 +26,30 @@ int MostrarAcerca(Ventana *ventana, const PaginaManual &) {
         autores[i]->setText(QDe1252(nombres[i]));
     d.AlAceptar();
     d.Ejecutar();
-    return BotonAyudaOK;
 }
 
-// Examples stand out from the text by their indentation alone in the data; here they keep it in a fixed pitch, since
-// the pages are set out in columns.
-int MostrarUnaPagina(Ventana *ventana, const PaginaManual &pagina) {
-    if (pagina.id == PaginaAcerca) return MostrarAcerca(ventana, pagina);
+// Examples are indented further than the text, syntaxes included, and so stand out; the pitch is fixed, since the pages
+// are set out in columns.
+QString TextoDePagina(const PaginaManual &pagina) {
+    QString texto;
+    for (const LineaAyuda *l = pagina.lineas; l->texto != nullptr; ++l)
+        texto += (l->tipo == LineaDeEjemplo ? QStringLiteral("    ") : QString()) + QDe1252(l->texto) + u'\n';
+    texto.chop(1);
+    return texto;
+}
+
+void MostrarUnaPagina(Ventana *ventana, const PaginaManual &pagina) {
+    if (pagina.id == PaginaAcerca) return MostrarAcerca(ventana);
+    if (pagina.id == PaginaNoEnsamblada) return DialogoNoEnsamblada(ventana);
     DialogoConFormulario<Ui::DialogoDePagina> d(ventana);
     d.dialogo.setWindowTitle(QDe1252(pagina.titulo));
     d.dialogo.setObjectName(QStringLiteral("P%1").arg(pagina.id));
-    QString texto;
-    for (const LineaAyuda *l = pagina.lineas; l->texto != nullptr; ++l) {
-        texto += (l->tipo == LineaDeEjemplo ? QStringLiteral("    ") : QString()) + QDe1252(l->texto) + u'\n';
-    }
-    texto.chop(1);
     d.ui.texto->setFont(FuenteFijaDePantalla());
-    d.ui.texto->setText(texto);
-    int pulsado = BotonAyudaCancelar;
-    QPushButton *const botones[] = {d.ui.OK, d.ui.Anterior, d.ui.Siguiente, d.ui.Cancelar};
-    for (QPushButton *b : botones) b->hide();
+    d.ui.texto->setText(TextoDePagina(pagina));
+    d.ui.texto->setFocusPolicy(Qt::StrongFocus); // the keyboard copies examples too
+    for (QPushButton *b : {d.ui.OK, d.ui.Anterior, d.ui.Siguiente, d.ui.Cancelar}) b->hide();
     const BotonesPagina puestos = BotonesDePagina(pagina);
+    QPushButton *conEnter = nullptr;
     for (int i = 0; i < puestos.numero; ++i) {
         const int id = puestos.boton[i].id;
         QPushButton *b = id == BotonAyudaOK         ? d.ui.OK
@@ -54,22 +57,26 @@ int MostrarUnaPagina(Ventana *ventana, const PaginaManual &pagina) {
                          : id == BotonAyudaCancelar ? d.ui.Cancelar
                                                     : d.ui.Siguiente;
         b->show();
-        QObject::connect(b, &QPushButton::clicked, &d.dialogo, [&d, &pulsado, id] {
-            pulsado = id;
-            d.dialogo.accept();
+        QObject::connect(b, &QPushButton::clicked, &d.dialogo, [&d, &pagina, id] {
+            if (PulsarBotonAyuda(d.ventana(), pagina, id, MostrarUnaPagina) != 0) d.dialogo.accept();
         });
         // Enter goes on through the chain; where it ends, it closes.
-        if (i == 0 || b == d.ui.Siguiente) {
-            b->setDefault(true);
-            b->setFocus();
-        }
+        if (conEnter != d.ui.Siguiente) conEnter = b;
+    }
+    QObject::connect(&d.dialogo, &QDialog::rejected, &d.dialogo, [&d, &pagina] {
+        PulsarBotonAyuda(d.ventana(), pagina, BotonAyudaCancelar, MostrarUnaPagina);
+    });
+    if (conEnter != nullptr) {
+        conEnter->setDefault(true);
+        conEnter->setFocus();
     }
     d.Ejecutar();
-    return pulsado;
 }
 
 } // namespace
 
 void DialogoAyuda(Ventana *ventana, int pagina) {
     PaginaAyuda(ventana, pagina, MostrarUnaPagina);
+    // When several pages close at once, a window manager may hand the keyboard to one that is just going.
+    if (QWidget *duena = DeVentana(ventana); duena != nullptr) duena->activateWindow();
 }

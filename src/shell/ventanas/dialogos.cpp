@@ -19,12 +19,10 @@
 
 namespace {
 
-// As they stand: a period of a panel is what the user typed, and nothing in it is a mark.
 void PonerLineas(std::initializer_list<QLabel *> etiquetas, const std::vector<std::string> &textos) {
     auto texto = textos.begin();
     for (QLabel *etiqueta : etiquetas) {
         if (texto == textos.end()) return;
-        etiqueta->setTextFormat(Qt::PlainText);
         etiqueta->setText(QDe1252(*texto++));
     }
 }
