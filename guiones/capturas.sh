@@ -43,7 +43,7 @@ trabajo() { # a data type, statements, a report
     teclas alt+d t Tab space Return; captura aviso_de_perdida; teclas Return Escape Escape
 }
 ayuda() {
-    teclas alt+y r; captura ayuda_reglas; teclas Return; captura ayuda_reglas_2; teclas Escape Escape
+    teclas alt+y r; captura ayuda_reglas; teclas Return; captura ayuda_reglas_2; teclas Escape
     teclas alt+y t; captura ayuda_series; teclas Escape
     teclas alt+y n; captura ayuda_control; teclas Escape
     teclas alt+y a; captura acerca_de; teclas Escape

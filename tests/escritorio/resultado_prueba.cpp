@@ -22,6 +22,7 @@
 #include <QRegularExpression>
 #include <QScreen>
 #include <QScrollBar>
+#include <QStatusBar>
 #include <QTimer>
 
 #include <clocale>
@@ -353,8 +354,14 @@ TEST_F(Resultado, ImprimirSinImpresora) {
         QTest::keyClick(&area, Qt::Key_C, Qt::ControlModifier);
         texto = QApplication::clipboard()->text();
         auto *imprimir = Hijo<QAction>(d, "comando2006");
+        auto *alPie = d.findChild<QStatusBar *>();
+        ASSERT_NE(alPie, nullptr);
+        EXPECT_FALSE(alPie->isVisible());
         for (int i = 0; i < 3; ++i) imprimir->trigger();
         EXPECT_TRUE(d.isVisible());
+        EXPECT_TRUE(alPie->isVisible()); // the main window's line may be covered
+        EXPECT_TRUE(alPie->currentMessage().contains(documentos.path()))
+            << alPie->currentMessage().toStdString();
     });
     const QString nota = QString::fromStdString(testing::internal::GetCapturedStderr());
     const QStringList escritos = documentos.entryList({QStringLiteral("*.pdf")});

@@ -3,6 +3,7 @@
 
 #include "language/lote_sentencias.h"
 #include "platform/qt/formulario.h"
+#include "platform/qt/impresora_qt.h"
 #include "platform/qt/texto_qt.h"
 #include "shell/ventanas/dialogos.h"
 
@@ -48,5 +49,6 @@ void DialogoSeleccion(Ventana *ventana, ModosSeleccion modo) {
         ImprimirElegidas(estado, d.ventana());
         return false; // more can be printed
     });
+    PonerNotaDeImpresion(d.dialogo);
     d.Ejecutar();
 }

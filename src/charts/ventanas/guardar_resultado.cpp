@@ -15,6 +15,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QImage>
+#include <QStandardPaths>
 
 namespace {
 
@@ -130,7 +131,9 @@ bool GuardarResultado(const SalidaResultado &salida, const QString &ruta) {
 void DialogoGuardarResultado(QWidget *padre, const SalidaResultado &salida) {
     QStringList filtros;
     for (const FormatoDeArchivo &f : Formatos) filtros << QDe1252(f.filtro);
-    QFileDialog dialogo(padre, QStringLiteral("Guardar como"), QString(), filtros.join(QStringLiteral(";;")));
+    QFileDialog dialogo(padre, QStringLiteral("Guardar como"),
+                        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+                        filtros.join(QStringLiteral(";;")));
     dialogo.setAcceptMode(QFileDialog::AcceptSave);
     const auto ponerFinal = [&] {
         const auto elegido = filtros.indexOf(dialogo.selectedNameFilter());

@@ -5,6 +5,7 @@
 #include "charts/impresion.h"
 #include "charts/ventana_resultado.h"
 #include "charts/ventanas/guardar_resultado.h"
+#include "platform/qt/impresora_qt.h"
 #include "platform/qt/superficie_qt.h"
 #include "platform/qt/texto_qt.h"
 #include "platform/qt/ventana_qt.h"
@@ -138,6 +139,7 @@ void MostrarResultadoQt(Ventana *ventana, const SalidaResultado &salida) {
     QObject::connect(salir, &QAction::triggered, &dialogo, &QDialog::accept);
     disposicion->setMenuBar(barra);
     disposicion->addWidget(area);
+    PonerNotaDeImpresion(dialogo);
     const QSize pantalla = dialogo.screen()->availableSize() - QSize(0, AltoDelMarco);
     dialogo.resize((area->TamanoInicial() + QSize(0, barra->sizeHint().height())).boundedTo(pantalla));
     area->setFocus();

@@ -7,9 +7,11 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLayout>
 #include <QMainWindow>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -45,14 +47,26 @@ QString DocumentoNuevo(const std::string &documento) {
     return ruta;
 }
 
-// A line in the status of the main window, and a note for whoever started the program from a terminal.
+// A line in the status of the main window and of the dialog that may stand before it, and a note for whoever started the
+// program from a terminal.
 void Avisar(const QString &texto) {
     std::fprintf(stderr, "tabira: %s\n", texto.toUtf8().constData());
-    for (QWidget *w : QApplication::topLevelWidgets())
-        if (auto *principal = qobject_cast<QMainWindow *>(w)) principal->statusBar()->showMessage(texto);
+    for (QWidget *w : QApplication::topLevelWidgets()) {
+        auto *principal = qobject_cast<QMainWindow *>(w);
+        auto *estado = principal != nullptr ? principal->statusBar() : w->findChild<QStatusBar *>();
+        if (estado == nullptr) continue;
+        estado->show();
+        estado->showMessage(texto);
+    }
 }
 
 } // namespace
+
+void PonerNotaDeImpresion(QDialog &dialogo) {
+    auto *nota = new QStatusBar(&dialogo);
+    nota->hide();
+    dialogo.layout()->addWidget(nota);
+}
 
 void EmpezarTrabajoQt(std::string_view titulo) {
     EmpezarTrabajoGrabado(titulo);

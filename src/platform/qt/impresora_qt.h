@@ -6,6 +6,11 @@
 #include <string>
 #include <string_view>
 
+class QDialog;
+
+// Gives a window that prints a line at its foot, which tells where a document went; until then it takes no room.
+void PonerNotaDeImpresion(QDialog &dialogo);
+
 // Operations of the platform around a job.
 void EmpezarTrabajoQt(std::string_view titulo);
 void TerminarTrabajoQt();
