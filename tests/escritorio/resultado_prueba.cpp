@@ -62,8 +62,8 @@ void EnKlein(VentanaPrincipal &v, const std::function<void(QDialog &, QAbstractS
     ConGuion(guion, [&] { v.findChild<QAction *>(QStringLiteral("comando2006"))->trigger(); });
 }
 
-// Chooses an entry of the context menu.
-void DelMenu(QAbstractScrollArea &area, const char *entrada) {
+// Chooses an entry of the context menu, once it is open.
+void ElegirDelMenu(QAbstractScrollArea &area, const char *entrada) {
     QTimer::singleShot(20, &area, [=] {
         auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
         ASSERT_NE(menu, nullptr);
@@ -76,6 +76,10 @@ void DelMenu(QAbstractScrollArea &area, const char *entrada) {
         ADD_FAILURE() << "no entry " << entrada;
         menu->close();
     });
+}
+
+void DelMenu(QAbstractScrollArea &area, const char *entrada) {
+    ElegirDelMenu(area, entrada);
     QContextMenuEvent suceso(QContextMenuEvent::Keyboard, {20, 20},
                              area.viewport()->mapToGlobal(QPoint(20, 20)));
     QApplication::sendEvent(area.viewport(), &suceso);
@@ -241,6 +245,10 @@ TEST_F(Resultado, Copiar) {
         EXPECT_NE(texto.find("Típic"), std::string::npos);
         QApplication::clipboard()->clear();
         QTest::keyClick(&area, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(Portapapeles(), texto);
+        QApplication::clipboard()->clear();
+        ElegirDelMenu(area, "Copiar");
+        QTest::keyClick(&area, Qt::Key_F10, Qt::ShiftModifier);
         EXPECT_EQ(Portapapeles(), texto);
     });
 }

@@ -82,6 +82,13 @@ protected:
             QApplication::clipboard()->setText(QDe1252(TextoDeResultado(salida)));
             return;
         }
+        // The toolkit knows the key of the context menu, which many keyboards lack, but not its usual stand-in.
+        if (suceso->key() == Qt::Key_F10 && suceso->modifiers() == Qt::ShiftModifier) {
+            const QPoint centro = rect().center();
+            QContextMenuEvent menu(QContextMenuEvent::Keyboard, centro, mapToGlobal(centro));
+            contextMenuEvent(&menu);
+            return;
+        }
         QAbstractScrollArea::keyPressEvent(suceso);
     }
 
