@@ -54,6 +54,31 @@ TEST_F(Edicion, DeshacerCortarCopiarYPegar) {
     EXPECT_EQ(p.toPlainText(), QStringLiteral("ESC A = 1"));
 }
 
+// Alt is for the menus: a letter that none of them bears leaves the selection as it is. With Control it is the third
+// level of some keyboards, which writes brackets and braces.
+TEST_F(Edicion, AltNoEscribe) {
+    constexpr struct {
+        const char *teclas;
+        Qt::KeyboardModifiers con;
+        const char *queda;
+    } Casos[] = {
+        {"i", Qt::AltModifier, "SER X = 1"},
+        {"I", Qt::AltModifier | Qt::ShiftModifier, "SER X = 1"},
+        {"7", Qt::AltModifier, "SER X = 1"},
+        {"i", Qt::NoModifier, "i"},
+        {"{", Qt::AltModifier | Qt::ControlModifier, "{"},
+        {"[", Qt::GroupSwitchModifier, "["},
+    };
+    QPlainTextEdit &p = *ventana->PantallaEdicion;
+    for (const auto &c : Casos) {
+        SCOPED_TRACE(c.teclas);
+        p.setPlainText(QStringLiteral("SER X = 1"));
+        p.selectAll();
+        QTest::keyClicks(&p, QString::fromLatin1(c.teclas), c.con);
+        EXPECT_EQ(p.toPlainText(), QString::fromLatin1(c.queda));
+    }
+}
+
 // With nothing selected nothing is cut or copied; with nothing to undo nothing happens.
 TEST_F(Edicion, SinNadaQueHacer) {
     QPlainTextEdit &p = *ventana->PantallaEdicion;

@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
 #include <QTimer>
@@ -62,6 +63,7 @@ VentanaPrincipal::VentanaPrincipal()
     PantallaEdicion->setFrameShape(QFrame::NoFrame);
     // Tab goes on to the next control in dialogs; here it writes, as in any editor of statements.
     PantallaEdicion->setTabChangesFocus(false);
+    PantallaEdicion->installEventFilter(this);
     setCentralWidget(PantallaEdicion);
     resize(640, 400);
     CrearMenus();
@@ -86,6 +88,18 @@ void VentanaPrincipal::closeEvent(QCloseEvent *suceso) {
     } else {
         suceso->ignore();
     }
+}
+
+// Alt with a letter is for the menus. One that no menu bears would be written by the text control, and would put that
+// letter in the place of the selected statements.
+bool VentanaPrincipal::eventFilter(QObject *objeto, QEvent *suceso) {
+    if (objeto == PantallaEdicion && suceso->type() == QEvent::KeyPress) {
+        const auto *tecla = static_cast<QKeyEvent *>(suceso);
+        const Qt::KeyboardModifiers alt = tecla->modifiers() & (Qt::AltModifier | Qt::ControlModifier);
+        const QString texto = tecla->text();
+        if (alt == Qt::AltModifier && !texto.isEmpty() && texto.front().isPrint()) return true;
+    }
+    return QMainWindow::eventFilter(objeto, suceso);
 }
 
 // Every painting, first or not, shows the window maximised again: after a change of its size it grows back.
