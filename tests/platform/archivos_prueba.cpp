@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <string>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -63,6 +64,36 @@ TEST_F(Archivos, SeConservanPermisosYEnlaces) {
     EXPECT_EQ(leido, "2");
     EXPECT_EQ(fs::status(Ruta("a")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
     EXPECT_EQ(Ficheros(), 2);
+}
+
+// Without write permission, which the superuser always has: a child without privileges tries.
+TEST_F(Archivos, UnArchivoProtegidoSeQuedaComoEsta) {
+    ASSERT_TRUE(EscribirArchivo(Ruta("a"), "1"));
+    fs::permissions(Ruta("a"), fs::perms::owner_read | fs::perms::others_read);
+    fs::permissions(carpeta, fs::perms::all);
+    const pid_t hijo = fork();
+    if (hijo == 0) {
+        if (geteuid() == 0 && setuid(65534) != 0) _exit(2);
+        _exit(EscribirArchivo(Ruta("a"), "2") ? 1 : 0);
+    }
+    int estado = -1;
+    waitpid(hijo, &estado, 0);
+    EXPECT_EQ(estado, 0);
+    std::string leido;
+    ASSERT_TRUE(LeerArchivo(Ruta("a"), leido));
+    EXPECT_EQ(leido, "1");
+    EXPECT_EQ(Ficheros(), 1);
+}
+
+TEST_F(Archivos, UnDiscoLleno) {
+    EXPECT_FALSE(EscribirArchivo("/dev/full", "a"));
+    EXPECT_TRUE(fs::is_character_file("/dev/full"));
+}
+
+TEST_F(Archivos, UnDispositivoSinFin) {
+    std::string leido;
+    EXPECT_FALSE(LeerArchivo("/dev/zero", leido));
+    EXPECT_LE(leido.size(), MaxBytesArchivo);
 }
 
 TEST_F(Archivos, UnDispositivoSeEscribeEnSuSitio) {
