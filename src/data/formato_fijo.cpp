@@ -99,6 +99,14 @@ void PonerPosicion(char (&destino)[AnchoPosicion], std::string_view texto) {
     destino[n] = '\0';
 }
 
+// The position of an edit field, as it was typed. Of what is more than digits the number alone is kept: a hyphen would
+// be counted with those of the list.
+void PonerPosicionEscrita(char (&destino)[AnchoPosicion], std::string_view texto) {
+    const std::string_view leido = texto.substr(0, AnchoPosicion - 1);
+    const bool limpio = leido.find_first_not_of("0123456789 ") == std::string_view::npos;
+    PonerPosicion(destino, limpio ? std::string(leido) : Formatear("%d", LeerEntero(leido)));
+}
+
 void AnadirFila(const CampoFijo &campo) {
     TablaCampos.campo[TablaCampos.numero++] = campo;
 }
@@ -161,8 +169,8 @@ bool AnadirCampo(Ventana *ventana, bool importando, EdicionCampo &edicion) {
     const int serie = importando ? -1 : BuscarSerie(campo.Codigo);
     campo.IndiceSerie = std::max(serie, 0);
     campo.Tipo = TipoDeEdicion(edicion.tipo);
-    PonerPosicion(campo.Inicio, edicion.inicio);
-    PonerPosicion(campo.Longitud, edicion.longitud);
+    PonerPosicionEscrita(campo.Inicio, edicion.inicio);
+    PonerPosicionEscrita(campo.Longitud, edicion.longitud);
 
     const char *rechazo = RechazoPorCodigo(importando, campo, serie);
     if (rechazo == nullptr) rechazo = RechazoPorTipo(importando, campo.Tipo);

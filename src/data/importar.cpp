@@ -32,19 +32,19 @@ enum Seguimiento { SigueCampo, AcabaRegistro, AcabaTransferencia };
 // Lines
 
 struct LineaLeida {
-    std::string_view texto; // without its end
+    std::string_view texto; // without its end, at most AnchoRegistroAscii characters
     bool conFin;            // a line end stood behind it
 };
 
-// Reads a line of at most 3,071 characters; what is longer goes on as the next line. False at the end of the text.
+// Reads a line; of a longer one, its first 3,071 characters. The rest is passed over: taken for the next record it would
+// be an observation that the file doesn't have, and move all behind it. False at the end of the text.
 bool LeerLinea(std::string_view texto, std::size_t &posicion, LineaLeida &linea) {
     if (posicion >= texto.size()) return false;
-    // Never looks further than a line goes: a file without line ends would be searched to its end for each piece.
-    const std::string_view vista = texto.substr(posicion, AnchoRegistroAscii + 1);
-    const std::size_t fin = vista.find_first_of("\r\n");
+    const std::size_t fin = texto.find_first_of("\r\n", posicion);
     linea.conFin = fin != std::string_view::npos;
-    linea.texto = vista.substr(0, linea.conFin ? fin : static_cast<std::size_t>(AnchoRegistroAscii));
-    posicion += linea.texto.size();
+    const std::size_t largo = std::min(fin, texto.size()) - posicion;
+    linea.texto = texto.substr(posicion, std::min(largo, static_cast<std::size_t>(AnchoRegistroAscii)));
+    posicion += largo;
     if (linea.conFin) posicion += texto.substr(posicion, 2) == "\r\n" ? 2 : 1;
     return true;
 }

@@ -137,7 +137,7 @@ FilasDeMuestra FilasDelArchivo(int inicio, int fin);
 std::string TextoDeExportacion(const OpcionesIntercambio &opciones, int inicio, int fin, int decimales);
 
 // Reads the records of `texto` (Windows-1252; lines end with LF, CR LF or CR) into rows `inicio` to `fin`, and
-// recomputes NumSeries, PrimeraObs and UltimaObs. Any bytes are safe.
+// recomputes NumSeries, PrimeraObs and UltimaObs. Of a line the first 3,071 characters count. Any bytes are safe.
 void ImportarTexto(const OpcionesIntercambio &opciones, std::string_view texto, int inicio, int fin);
 
 // PrimeraObs and UltimaObs of every series from PresenciaObs; 0 and 0 for a series without values.

@@ -71,10 +71,11 @@ bool SonIguales(int a, int b) {
     return true;
 }
 
-// A name that begins with "_" was generated, and its series goes too. Later ones may change their slots.
-void QuitarColumna(Estimacion &e, std::size_t j) {
-    if (e.columnas[j][0] == '_') {
-        BorrarSerie(BuscarSerie(e.columnas[j]));
+// Column j, whose series stands in the slot `serie`. A name that begins with "_" was generated, and its series goes too.
+// Later ones may change their slots.
+void QuitarColumna(Estimacion &e, std::size_t j, int serie) {
+    if (e.columnas[j].starts_with('_')) {
+        BorrarSerie(serie);
         CompactarSeries();
         RefrescarEditor();
     }
@@ -88,7 +89,7 @@ void QuitarRepetidas(Estimacion &e) {
             const int a = BuscarSerie(e.columnas[i]), b = BuscarSerie(e.columnas[j]);
             if (a < 0) break;
             if (b >= 0 && SonIguales(a, b))
-                QuitarColumna(e, j);
+                QuitarColumna(e, j, b);
             else
                 ++j;
         }

@@ -41,11 +41,14 @@ int LeerMatrizDeLlaves(const std::string &texto, int posicion, Ventana *ventana)
 
 // The rows are those of the regression's sample, not of the batch: this form brings results of a regression back to
 // series.
-void LlenarDesdeMatriz(int serie, const RegistroMatriz &matriz) {
+void LlenarDesdeMatriz(int serie, int m) {
+    const RegistroMatriz &matriz = TablaMatrices.registro[m];
     const int inicio = Muestra.InicioRegresion;
     const int fin = std::min(Muestra.FinRegresion, MaxObservaciones - 1);
-    for (int i = std::max(0, -inicio); i < matriz.Filas && inicio + i <= fin; ++i) {
-        ArchivoTrabajo.ValoresObs[inicio + i][serie] = matriz.Datos[i * matriz.Columnas];
+    // One column, and never more rows than the block has, whatever a damaged record says.
+    const int filas = matriz.Columnas == 1 ? std::min<int>(matriz.Filas, TablaMatrices.capacidad[m]) : 0;
+    for (int i = std::max(0, -inicio); i < filas && inicio + i <= fin; ++i) {
+        ArchivoTrabajo.ValoresObs[inicio + i][serie] = matriz.Datos[i];
         ArchivoTrabajo.PresenciaObs[inicio + i][serie] = 1;
     }
 }
@@ -68,7 +71,7 @@ int SerieDesdeMatriz(std::string_view serie, const std::string &texto, int posic
         ArchivoTrabajo.NumSeries = antes;
         return MensajePunto(ventana, "Falta memoria", 1);
     }
-    LlenarDesdeMatriz(s, TablaMatrices.registro[m]);
+    LlenarDesdeMatriz(s, m);
     PonerCodigoSerie(s, serie);
     RefrescarEditor();
     SoltarTodasMatrices();

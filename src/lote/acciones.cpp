@@ -42,10 +42,6 @@ struct Accion {
     bool pendiente;       // announced in this form and not available yet
 };
 
-void Quejarse(const std::string &utf8) {
-    std::fprintf(stderr, "tabira-lote: %s\n", utf8.c_str());
-}
-
 // What a menu command refuses while no data type was chosen; the text is the command's.
 bool HayTipoDeDatos(const char *mensaje) {
     if (ArchivoTrabajo.TipoDatos < SinTipoDatos) return true;

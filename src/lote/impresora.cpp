@@ -71,7 +71,7 @@ bool EscribirDocumentos() {
     bool bien = true;
     for (const DocumentoDeCorrida &d : Impresora.documentos) {
         if (d.paginas.empty() || EscribirPdfConModulo(d.ruta, d.titulo, d.paginas)) continue;
-        std::fprintf(stderr, "tabira-lote: no se puede escribir '%s'\n", d.ruta.c_str());
+        Quejarse("no se puede escribir '" + d.ruta + "'");
         bien = false;
     }
     return bien;

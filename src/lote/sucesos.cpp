@@ -198,6 +198,14 @@ void SucesoImpresion(const TrabajoImpreso &trabajo) {
     EscribirLinea(json + "]}");
 }
 
+void Quejarse(std::string_view texto) {
+    // A value of the command line may hold a line break; what a script reads is one line a complaint.
+    std::string linea(texto);
+    std::replace_if(
+        linea.begin(), linea.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+    std::fprintf(stderr, "tabira-lote: %s\n", linea.c_str());
+}
+
 void SucesoFin(int estado) {
     if (!Corrida.json) return;
     std::string json = AbrirSuceso("fin");

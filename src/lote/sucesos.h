@@ -25,6 +25,9 @@ void SucesoImpresion(const TrabajoImpreso &trabajo);
 // The content of the store.
 void SucesoVolcado();
 
+// A complaint on standard error, in UTF-8: one line, whatever the text holds.
+void Quejarse(std::string_view texto);
+
 // The end of the run.
 void SucesoFin(int estado);
 

@@ -19,7 +19,10 @@ bool LeerTodo(std::FILE *f, std::string &contenido) {
     contenido.clear();
     char trozo[65536];
     std::size_t n = 0;
-    while ((n = std::fread(trozo, 1, sizeof trozo, f)) > 0) contenido.append(trozo, n);
+    while ((n = std::fread(trozo, 1, sizeof trozo, f)) > 0) {
+        if (contenido.size() + n > MaxBytesArchivo) return false;
+        contenido.append(trozo, n);
+    }
     return std::ferror(f) == 0;
 }
 
@@ -59,6 +62,8 @@ bool EscribirArchivo(const std::string &ruta, std::string_view contenido) {
     if (error) destino = ruta;
     const bool especial =
         std::filesystem::exists(destino, error) && !std::filesystem::is_regular_file(destino, error);
+    // A rename would replace a file that is protected against writing, too.
+    if (std::filesystem::exists(destino, error) && access(destino.c_str(), W_OK) != 0) return false;
     std::string nuevo;
     std::FILE *f = especial ? std::fopen(destino.c_str(), "wb") : AbrirJunto(destino, nuevo);
     if (f == nullptr) return false;

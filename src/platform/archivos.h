@@ -1,17 +1,22 @@
 // Files. A path is text of the outside: bytes as the user or the desktop gave them, never converted.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
-// Reads a whole file ("-" is no special name here). False when it can't be opened or read.
+// What is longer is not read: ten times what the widest file of data takes, and the end of a device that has none.
+inline constexpr std::size_t MaxBytesArchivo = std::size_t{128} << 20;
+
+// Reads a whole file ("-" is no special name here). False when it can't be opened or read, or is longer than
+// MaxBytesArchivo.
 bool LeerArchivo(const std::string &ruta, std::string &contenido);
 
-// Reads standard input to its end.
+// Reads standard input to its end, in the same way.
 bool LeerEntradaEstandar(std::string &contenido);
 
 // Writes a file beside the old one and renames it over it, so that a failure leaves the old one whole. False when
-// it can't be written.
+// it can't be written, or is protected against it.
 bool EscribirArchivo(const std::string &ruta, std::string_view contenido);
 
 bool ExisteArchivo(const std::string &ruta);

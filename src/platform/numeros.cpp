@@ -41,7 +41,7 @@ double LeerDecimal(std::string_view texto) {
     if (i < texto.size() && (texto[i] == '-' || texto[i] == '+')) negativo = texto[i++] == '-';
     const std::size_t inicio = i;
     if (i < texto.size() && texto[i] == '.') ++i;
-    if (i >= texto.size() || !EsCifra(texto[i])) return negativo ? -0.0 : 0.0;
+    if (i >= texto.size() || !EsCifra(texto[i])) return 0.0;
     double valor = 0.0;
     const auto r = std::from_chars(texto.data() + inicio, texto.data() + texto.size(), valor);
     if (r.ec == std::errc::result_out_of_range) {

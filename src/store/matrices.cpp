@@ -29,8 +29,10 @@ void LiberarBloque(int matriz) {
     TablaMatrices.EstadoBloque[matriz] = SinBloque;
 }
 
+// Elements of the matrix; never more than its block holds, whatever a damaged record says.
 int Elementos(int matriz) {
-    return TablaMatrices.registro[matriz].Filas * TablaMatrices.registro[matriz].Columnas;
+    const RegistroMatriz &r = TablaMatrices.registro[matriz];
+    return std::clamp(r.Filas * r.Columnas, 0, std::min(TablaMatrices.capacidad[matriz], ElementosBloque));
 }
 
 // The matrix as BufferMatriz carries it: elements, flags of presence, code and size.

@@ -148,6 +148,28 @@ TEST(FormatoFijo, FilaAnadida) {
     EXPECT_EQ(edicion.longitud, "");
 }
 
+// What goes into the list comes out of it again, whatever was typed.
+TEST(FormatoFijo, PosicionesComoSeEscriben) {
+    static const struct {
+        const char *inicio, *longitud, *linea;
+    } Casos[] = {
+        {"1", "18", "N---1---18---X       \n"},    {"007", " 5", "N---007--- 5---X       \n"},
+        {"1-5", "5", "N---1---5---X       \n"},    {"5-", "3--", "N---5---3---X       \n"},
+        {"+5", "2.5", "N---5---2---X       \n"},   {"1234", "9999", "N---123---999---X       \n"},
+        {"12-4", "1x", "N---12---1---X       \n"},
+    };
+    for (const auto &caso : Casos) {
+        SCOPED_TRACE(caso.inicio);
+        Preparar(Serie);
+        EdicionCampo edicion = {"X", "N", caso.inicio, caso.longitud};
+        ASSERT_TRUE(AnadirCampo(nullptr, true, edicion));
+        EXPECT_EQ(LineasDeTabla(), caso.linea);
+        OpcionesIntercambio o;
+        ASSERT_TRUE(AceptarFormatoFijo(nullptr, false, o));
+        EXPECT_EQ(LineasDeTabla(), caso.linea);
+    }
+}
+
 TEST(FormatoFijo, DemasiadasSeries) {
     Preparar(Serie);
     for (int i = 0; i < 103; ++i) {

@@ -263,21 +263,24 @@ TEST(ImportarVariable, Tope) {
     EXPECT_EQ(ArchivoTrabajo.ValoresObs[0][98], 99.0);
 }
 
-// 3,071 characters are read at once; what is left of the line is the next record.
+// 3,071 characters of a line are read; what is left of it is no record of its own.
 TEST(ImportarVariable, LineasLargas) {
     struct {
         std::string texto;
         const char *series;
     } static const Largas[] = {
         {std::string(3070, '0') + "7\n5\n", "VAR01: 7 5 . ."},
-        {std::string(3071, '0') + "7\n5\n", "VAR01: 0 7 5 ."},
+        {std::string(3071, '0') + "7\n5\n", "VAR01: 0 5 . ."},
+        {std::string(3071, '0') + "7\r\n5\r\n", "VAR01: 0 5 . ."},
+        {"1,2" + std::string(3068, ' ') + ",9\n3,4\n", "VAR01: 1 3 . . / VAR02: 2 4 . ."},
         {std::string(3071, '0') + "\n5\n", "VAR01: 0 5 . ."},
         {std::string(3071, '0') + "\r\n5\n", "VAR01: 0 5 . ."},
         {std::string(3070, '0') + "\r\n5\n", "VAR01: 0 5 . ."},
-        {std::string(100000, '1'), nullptr},
+        {"4," + std::string(1000000, '1') + "\n5\n", "VAR01: 4 5 . . / VAR02: inf . . ."},
         {std::string(100000, ','), nullptr},
         {std::string(100000, '\r'), ""},
-        {std::string(100000, ' ') + "3\n", "VAR01: 3 . . ."},
+        // Blank as far as it is read.
+        {std::string(100000, ' ') + "3\n4\n", "VAR01: 4 . . ."},
     };
     for (const auto &caso : Largas) {
         SCOPED_TRACE(caso.texto.size());

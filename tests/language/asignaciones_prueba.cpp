@@ -281,6 +281,18 @@ TEST(Asignaciones, DesdeMatrizAlFinalDeLaTabla) {
     EXPECT_EQ(ArchivoTrabajo.ValoresObs[3999][z], 8.0);
 }
 
+// The rows that the block of the matrix holds, whatever its record claims.
+TEST(Asignaciones, DesdeMatrizDanada) {
+    EmpezarAsignaciones();
+    ASSERT_EQ(BuscarMatriz("V"), 0);
+    TablaMatrices.capacidad[0] = 2;
+    TablaMatrices.registro[0].Filas = 30000;
+    Muestra.InicioRegresion = 0;
+    Muestra.FinRegresion = 100000;
+    EXPECT_TRUE(Procesar("SER Z = {V}"));
+    EsperarValores(ValoresDe("Z", 6), {7, 8, N, N, N, N});
+}
+
 // ----- OBS
 
 struct CasoObservacion {

@@ -56,12 +56,28 @@ std::vector<nlohmann::json> SucesosDe(const ResultadoCorrida &corrida, const std
     return r;
 }
 
+namespace {
+
+// The folders of a run, which go with it.
+struct Carpetas {
+    std::vector<std::filesystem::path> rutas;
+    ~Carpetas() {
+        std::error_code error;
+        for (const auto &r : rutas) std::filesystem::remove_all(r, error);
+    }
+};
+
+} // namespace
+
 std::string CarpetaNueva(const std::string &nombre) {
     static int cuenta = 0;
+    static Carpetas carpetas;
     std::filesystem::path temporales = std::filesystem::temp_directory_path();
     if (temporales.string().find('-') != std::string::npos) temporales = "/tmp";
-    const auto ruta =
-        temporales / ("tabira_" + std::to_string(getpid()) + "_" + std::to_string(++cuenta)) / nombre;
+    const auto propia = temporales / ("tabira_" + std::to_string(getpid()) + "_" + std::to_string(++cuenta));
+    std::filesystem::remove_all(propia); // of an earlier run that was cut off
+    carpetas.rutas.push_back(propia);
+    const auto ruta = propia / nombre;
     std::filesystem::create_directories(ruta);
     return ruta.string();
 }

@@ -27,7 +27,8 @@ std::vector<nlohmann::json> Sucesos(const ResultadoCorrida &corrida);
 // The events of one kind.
 std::vector<nlohmann::json> SucesosDe(const ResultadoCorrida &corrida, const std::string &suceso);
 
-// A new folder for the files of a test, without hyphens in its path, which the ASCII exchange refuses.
+// A new folder for the files of a test, without hyphens in its path, which the ASCII exchange refuses. It is removed when
+// the tests end.
 std::string CarpetaNueva(const std::string &nombre);
 
 void EscribirBytes(const std::string &ruta, const std::string &bytes);

@@ -116,6 +116,8 @@ TEST(Lote, LineasQueNoSePuedenLeer) {
         {{"--listado", "series"}, "valor incorrecto de --listado"},
         {{"--listado", "escalares:A"}, "valor incorrecto de --listado"},
         {{"--imprimir", ""}, "valor incorrecto de --imprimir"},
+        {{"dos\nlíneas\r\t\x01"}, "acción desconocida: 'dos líneas   '"},
+        {{"--tipo", "sin\nmás"}, "valor incorrecto de --tipo: 'sin más'"},
     };
     for (const CasoLinea &caso : Casos) {
         SCOPED_TRACE(caso.queja);
@@ -196,6 +198,14 @@ TEST(Lote, ArchivosQueFaltanDicenUnaLinea) {
     const auto r = Correr({"--tipo", "sin", "--procesar", "no_existe.txt"});
     EXPECT_EQ(r.estado, 1);
     EXPECT_EQ(r.errores, "tabira-lote: no se puede leer 'no_existe.txt'\n");
+    EXPECT_EQ(Correr({"--tipo", "sin", "--procesar", "no\nexiste\n"}).errores,
+              "tabira-lote: no se puede leer 'no existe '\n");
+    EXPECT_EQ(Correr({"--tipo", "sin", "--procesar", "/dev/zero"}).errores,
+              "tabira-lote: no se puede leer '/dev/zero'\n");
+    EXPECT_EQ(Correr({"--tipo", "sin", "--sentencia", "SER X = 1", "--imprimir", "no/hay\n/x.pdf",
+                      "--listado", "series:X"})
+                  .errores,
+              "tabira-lote: no se puede escribir 'no/hay /x.pdf'\n");
 }
 
 TEST(Lote, RespuestaNoOcultaElInforme) {

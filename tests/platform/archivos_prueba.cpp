@@ -3,9 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <cstdio>
 #include <filesystem>
 #include <string>
+#include <sys/resource.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -86,6 +89,59 @@ TEST_F(Archivos, SeConservanPermisosYEnlaces) {
     EXPECT_EQ(leido, "2");
     EXPECT_EQ(fs::status(Ruta("a")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
     EXPECT_EQ(Ficheros(), 2);
+}
+
+// Obstacles that only a process of its own can meet; each true when the process has met it.
+bool SinPrivilegios() { // write permissions mean nothing to the superuser
+    return geteuid() != 0 || setuid(65534) == 0;
+}
+bool SinSitio() { // a disk that fills up while the file is written
+    const rlimit tope = {100, 100};
+    return std::signal(SIGXFSZ, SIG_IGN) != SIG_ERR && setrlimit(RLIMIT_FSIZE, &tope) == 0;
+}
+
+struct CasoObstaculo {
+    const char *nombre;
+    bool (*poner)();
+    fs::perms permisos; // of the file that stands there
+};
+
+constexpr CasoObstaculo Obstaculos[] = {
+    {"protected", SinPrivilegios, fs::perms::owner_read | fs::perms::others_read},
+    {"disk full", SinSitio, fs::perms::owner_read | fs::perms::owner_write},
+};
+
+TEST_F(Archivos, LoQueHabiaSeQuedaTrasUnFallo) {
+    for (const CasoObstaculo &caso : Obstaculos) {
+        SCOPED_TRACE(caso.nombre);
+        ASSERT_TRUE(EscribirArchivo(Ruta("a"), "1"));
+        fs::permissions(Ruta("a"), caso.permisos);
+        fs::permissions(carpeta, fs::perms::all);
+        const pid_t hijo = fork();
+        if (hijo == 0) {
+            if (!caso.poner()) _exit(2);
+            _exit(EscribirArchivo(Ruta("a"), std::string(200000, '2')) ? 1 : 0);
+        }
+        int estado = -1;
+        waitpid(hijo, &estado, 0);
+        EXPECT_EQ(estado, 0);
+        std::string leido;
+        ASSERT_TRUE(LeerArchivo(Ruta("a"), leido));
+        EXPECT_EQ(leido, "1");
+        EXPECT_EQ(Ficheros(), 1) << "nothing is left beside it";
+        fs::remove(Ruta("a"));
+    }
+}
+
+TEST_F(Archivos, UnDispositivoLleno) {
+    EXPECT_FALSE(EscribirArchivo("/dev/full", "a"));
+    EXPECT_TRUE(fs::is_character_file("/dev/full"));
+}
+
+TEST_F(Archivos, UnDispositivoSinFin) {
+    std::string leido;
+    EXPECT_FALSE(LeerArchivo("/dev/zero", leido));
+    EXPECT_LE(leido.size(), MaxBytesArchivo);
 }
 
 TEST_F(Archivos, UnDispositivoSeEscribeEnSuSitio) {

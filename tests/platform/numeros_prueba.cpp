@@ -45,6 +45,7 @@ TEST(Numeros, LeerDecimal) {
     EXPECT_EQ(LeerDecimal("1e-99999999999999999999"), 0.0);
     EXPECT_EQ(LeerDecimal("1e99999999999999999999"), Infinito);
     EXPECT_TRUE(std::signbit(LeerDecimal("-0")));
+    for (const char *t : {"-", "-x", "- 5", "--"}) EXPECT_FALSE(std::signbit(LeerDecimal(t))) << t;
 }
 
 struct CasoEntero {

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <numeric>
 
 namespace {
@@ -142,6 +143,27 @@ TEST(Matrices, BorrarSeDetieneEnUnaTablaDanada) {
         EXPECT_EQ(TablaMatrices.numero, 3); // as far as it got: B has moved
         EXPECT_EQ(BuscarMatriz("B"), 0);
         TablaMatrices.EstadoBloque[2] = SinBloque;
+    }
+}
+
+// A record that claims more than its block holds, or less than nothing, moves with what there is.
+TEST(Matrices, UnRegistroDanadoNoDesborda) {
+    static const struct {
+        std::int16_t filas, columnas;
+        int elementos;
+    } Casos[] = {{30000, 1, 2}, {32767, 32767, 2}, {-5, 1, 0}, {0, 7, 0}, {1, 1, 1}};
+    for (const auto &c : Casos) {
+        SCOPED_TRACE(c.filas);
+        EmpezarConDatos(TipoSinPeriodicidad, "");
+        for (const char *m : {"A", "B", "C"}) PonerMatriz(m, {5, 6}, 2, 1);
+        ASSERT_EQ(BorrarMatriz(nullptr, 0), 1); // the blocks of the others hold two elements now
+        ASSERT_EQ(TablaMatrices.capacidad[1], 2);
+        TablaMatrices.registro[1].Filas = c.filas;
+        TablaMatrices.registro[1].Columnas = c.columnas;
+        EXPECT_EQ(BorrarMatriz(nullptr, 0), 1);
+        EXPECT_EQ(BufferMatriz.enUso, c.elementos);
+        EXPECT_EQ(TablaMatrices.capacidad[0], std::max(c.elementos, 1));
+        EXPECT_EQ(BuscarMatriz("C"), 0);
     }
 }
 
