@@ -4,11 +4,12 @@
 #include "estimation/regresion.h"
 #include "platform/literal.h"
 #include "platform/strstr.h"
-#include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 #include "store/temporales.h"
 
+#include <charconv>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -30,8 +31,11 @@ constexpr std::pair<const char *, Familias> Estadisticos[] = {
     {"Est. Autocorrelación"_w, FamEA1},
 };
 
+// The shortest text that is read back as the same number.
 std::string Numero(double valor) {
-    return Formatear("%.17g", valor);
+    char texto[32];
+    const auto fin = std::to_chars(std::begin(texto), std::end(texto), valor).ptr;
+    return {texto, fin};
 }
 
 // Element i of a matrix of the results, empty when there is none.
@@ -57,7 +61,10 @@ std::string TablaRegresion(int codigo) {
     const RegistroRegresion &u = UltimaRegresion;
     std::string t = "Variable Dep.\t" + std::string(Recortado(u.CodigoDependiente)) + "\n";
     t += "Muestra\t" + std::string(TextoPeriodo(Muestra.InicioRegresion)) + "\t" +
-         std::string(TextoPeriodo(Muestra.FinRegresion)) + "\n\n";
+         std::string(TextoPeriodo(Muestra.FinRegresion)) + "\n";
+    if (const int y = BuscarMatriz("_YDEP"); y >= 0)
+        t += "Nº Observaciones\t"_w + std::to_string(TablaMatrices.registro[y].Filas) + "\n";
+    t += "\n";
     t += "Regresores\tCoeficiente\tDesv. Típica\tEstadís. t\tProb>|t|\n"_w;
     for (std::size_t n = 0; n < u.CodigosRegresores.size(); ++n) {
         const int i = static_cast<int>(n);

@@ -42,14 +42,14 @@ const LineaAyuda TextoReglas2[] = {
     {E, "     CAL 10 + 2 * (-3)           ; 4"_w},
     {E, "     CAL 1 + ((2 + (3 * 4)) * 5) ; 71"_w},
     {T, ""_w},
-    {T, "El separador decimal es el punto: 0.25. Los decimales con que se muestran los"_w},
-    {T, "datos, dos al empezar, se cambian en \"Decimales\", en los editores y gráficos."_w},
+    {T, "El separador decimal es el punto: 3.5; 3,5 se lee como 3. Los decimales con"_w},
+    {T, "que se muestran los datos, dos al empezar, se cambian en \"Decimales\", en los"_w},
+    {T, "editores y gráficos."_w},
     {T, ""_w},
     {T, "Códigos de las series, matrices y escalares:"_w},
     {T, "No deben tener más de ocho caracteres. El primero ha de ser una letra y los"_w},
     {T, "demás, letras o cifras, sin acentos ni eñes. No pueden ser el nombre de una"_w},
-    {T, "función (LN, SUMSER, DET...). Cada código nombra una sola cosa: o una serie, o"_w},
-    {T, "una matriz, o un escalar."_w},
+    {T, "función (LN, DET...). Cada código nombra una serie, una matriz o un escalar."_w},
     {T, nullptr},
 };
 

@@ -453,3 +453,26 @@ TEST_F(Dialogos, TextosDeLasCajas) {
                             Texto1252DeUtf8("¿Año?"), i.icono, BotonesSiNoCancelar);
                  });
 }
+
+// The title of a short message is read whole; a long word is broken, and the number of its message is there.
+TEST_F(Dialogos, CajasAnchasYLargas) {
+    const std::string larga(30000, 'A');
+    ConGuion({{"Proceso cancelado",
+               [](QDialog &d) {
+                   EXPECT_GE(d.width(), AnchoConTitulo(d));
+                   Pulsar(d, "Aceptar");
+               }},
+              {"Proceso cancelado",
+               [](QDialog &d) {
+                   const QString texto = qobject_cast<QMessageBox *>(&d)->text();
+                   EXPECT_TRUE(texto.startsWith(QStringLiteral("[AAAA")));
+                   EXPECT_TRUE(texto.endsWith(QStringLiteral("]. Pto 199"))) << texto.right(20).toStdString();
+                   EXPECT_LE(d.width(), 960);
+                   EXPECT_LE(d.height(), 700);
+                   Pulsar(d, "Aceptar");
+               }}},
+             [&] {
+                 MostrarMensaje(AVentana(ventana.get()), "No");
+                 MostrarMensaje(AVentana(ventana.get()), "[" + larga + "]. Pto 199");
+             });
+}

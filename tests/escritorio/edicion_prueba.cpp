@@ -7,6 +7,7 @@
 #include <QClipboard>
 #include <QFontInfo>
 #include <QMimeData>
+#include <QLineEdit>
 
 #include <cmath>
 
@@ -77,6 +78,22 @@ TEST_F(Edicion, AltNoEscribe) {
         QTest::keyClicks(&p, QString::fromLatin1(c.teclas), c.con);
         EXPECT_EQ(p.toPlainText(), QString::fromLatin1(c.queda));
     }
+}
+
+// Nor in the field of a dialog.
+TEST_F(Edicion, AltNoEscribeEnUnCampo) {
+    ConGuion({{"Tipos de datos",
+               [](QDialog &d) {
+                   auto *nombre = Hijo<QLineEdit>(d, "NombreProyecto");
+                   const QString antes = nombre->text();
+                   nombre->selectAll();
+                   QTest::keyClicks(nombre, QStringLiteral("x"), Qt::AltModifier);
+                   EXPECT_EQ(nombre->text(), antes);
+                   QTest::keyClicks(nombre, QStringLiteral("x"));
+                   EXPECT_EQ(nombre->text(), QStringLiteral("x"));
+                   Pulsar(d, "Cancela");
+               }}},
+             [&] { Ordenar(2020); });
 }
 
 // With nothing selected nothing is cut or copied; with nothing to undo nothing happens.

@@ -10,6 +10,7 @@
 #include <QPdfWriter>
 #include <QRegularExpression>
 #include <QStatusBar>
+#include <QStatusTipEvent>
 
 #include <algorithm>
 #include <array>
@@ -207,4 +208,13 @@ TEST_F(Impresion, PapelDeOtraForma) {
         EXPECT_GE(menor[1], c.margen - 1);
         EXPECT_LE(mayor[3], lado.height() - c.margen + 1);
     }
+}
+
+// Opening a menu clears the tips of a status line; the note stays.
+TEST_F(Impresion, LaNotaQueda) {
+    const QString nota = Imprimir(*ventana);
+    ASSERT_FALSE(nota.isEmpty());
+    QStatusTipEvent vacio{QString()};
+    QApplication::sendEvent(ventana.get(), &vacio);
+    EXPECT_EQ(ventana->statusBar()->currentMessage(), nota);
 }

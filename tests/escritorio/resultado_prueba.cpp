@@ -259,6 +259,7 @@ TEST_F(Resultado, CopiarComoTabla) {
         QApplication::clipboard()->clear();
         DelMenu(area, "Copiar como tabla");
         const QStringList lineas = QApplication::clipboard()->text().split(u'\n');
+        EXPECT_TRUE(lineas.contains(QStringLiteral("Nº Observaciones\t21")));
         static constexpr const char *Nombres[] = {"1", "BENEF", "BENEF(-1)", "SALARIOS"};
         for (std::size_t i = 0; i < std::size(Nombres); ++i) {
             const QStringList filas = lineas.filter(QRegularExpression(
@@ -279,12 +280,14 @@ TEST_F(Resultado, GuardarComo) {
     const auto guardar = [](QDialog &, QAbstractScrollArea &area) { DelMenu(area, "Guardar como..."); };
     EnKlein(*ventana, guardar, {ConEscape("Guardar como")});
     EXPECT_FALSE(QFile::exists(ruta));
-    EnKlein(*ventana, guardar, {{"Guardar como", [&](QDialog &d) {
-                                     auto *nombre = d.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-                                     ASSERT_NE(nombre, nullptr);
-                                     nombre->setText(Casa() + QStringLiteral("/elegido")); // gets its ending
-                                     QTest::keyClick(nombre, Qt::Key_Return);
-                                 }}});
+    EnKlein(*ventana, guardar,
+            {{"Guardar como", [&](QDialog &d) {
+                  auto *nombre = d.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+                  ASSERT_NE(nombre, nullptr);
+                  EXPECT_TRUE(nombre->text().startsWith(QStringLiteral("Mínimos cuadrados ordinarios")));
+                  nombre->setText(Casa() + QStringLiteral("/elegido")); // gets its ending
+                  QTest::keyClick(nombre, Qt::Key_Return);
+              }}});
     EXPECT_TRUE(QFile::exists(ruta));
     EXPECT_TRUE(Leer(ruta).contains("16.236600"));
 }

@@ -3,6 +3,7 @@
 
 #include "apoyo/plataforma_prueba.h"
 #include "language/lote_sentencias.h"
+#include "platform/numeros.h"
 #include "platform/texto.h"
 #include "shell/ayuda.h"
 #include "store/archivo.h"
@@ -393,6 +394,14 @@ TEST(EjemplosAyuda, DeciQuitaLosDecimales) {
     EXPECT_EQ(Lote.DecimalesSalida, 0);
 }
 
+// What stands behind a decimal comma isn't read.
+TEST(EjemplosAyuda, ComaDecimal) {
+    EmpezarConDatos(TipoAnual, "1980#1999");
+    EXPECT_TRUE(Procesar("CAL 3,5"));
+    ASSERT_EQ(Prueba.cajas.size(), 1u);
+    EXPECT_EQ(LeerDecimal(Prueba.cajas[0].texto), 3.0);
+}
+
 // What the pages say doesn't work, or works in another way than one would think: page, text, the first box.
 struct Advertencia {
     int pagina;
@@ -411,6 +420,7 @@ constexpr Advertencia Advertencias[] = {
     {1197, "SER A = 2", ""},
     {1127, "SER Z = RND(1)", "SER Z = RND(1). Pto 131"},
     {1127, "SER Z = PRECIO[1990 + 1]", "SER Z = PRECIO[1990 + 1]. Pto 88"},
+    {1127, "SER Z = PRECIO[1990-1]", "SER Z = PRECIO[1990-1]. Pto 88"},
     {1217, "SER Z = EDAD<=30", "Función desconocida [EDAD@]"},
     {1131, "OBS NOHAY[1990] = 3", ""},
     {1192, "MAT Z = A + 3", "Secuencia no correcta: [+],1. Pto 21"},

@@ -15,6 +15,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QImage>
+#include <QRegularExpression>
 #include <QStandardPaths>
 
 namespace {
@@ -140,6 +141,10 @@ void DialogoGuardarResultado(QWidget *padre, const SalidaResultado &salida) {
         dialogo.setDefaultSuffix(QLatin1String(Formatos[elegido < 0 ? 0 : elegido].terminacion));
     };
     ponerFinal();
+    static const QRegularExpression NoEnNombres(QStringLiteral("[^\\w ().-]+"),
+                                                QRegularExpression::UseUnicodePropertiesOption);
+    dialogo.selectFile(QDe1252(salida.titulo).remove(NoEnNombres));
+    dialogo.resize(DentroDeLaPantalla(dialogo, dialogo.sizeHint()));
     QObject::connect(&dialogo, &QFileDialog::filterSelected, &dialogo, ponerFinal);
     if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return;
     if (!GuardarResultado(salida, dialogo.selectedFiles().constFirst()))

@@ -18,14 +18,12 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
-#include <QScreen>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace {
 
 constexpr int FilasDeLaVentana = 30; // lines that the window shows when it opens, where the screen has them
-constexpr int AltoDelMarco = 40;     // what the title bar takes of the screen, at most
 
 class AreaResultado : public QAbstractScrollArea {
 public:
@@ -147,8 +145,7 @@ void MostrarResultadoQt(Ventana *ventana, const SalidaResultado &salida) {
     disposicion->setMenuBar(barra);
     disposicion->addWidget(area);
     PonerNotaDeImpresion(dialogo);
-    const QSize pantalla = dialogo.screen()->availableSize() - QSize(0, AltoDelMarco);
-    dialogo.resize((area->TamanoInicial() + QSize(0, barra->sizeHint().height())).boundedTo(pantalla));
+    dialogo.resize(DentroDeLaPantalla(dialogo, area->TamanoInicial() + QSize(0, barra->sizeHint().height())));
     area->setFocus();
     // A statement runs under the wait cursor; its result is looked at under the arrow.
     QApplication::setOverrideCursor(Qt::ArrowCursor);

@@ -5,6 +5,7 @@
 #include "platform/qt/ventana_qt.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -29,6 +30,26 @@ constexpr BotonDeCaja No = {RespuestaNo, "&No", "No", QMessageBox::NoRole};
 const std::vector<BotonDeCaja> BotonesDeCaja[] = {
     {Aceptar}, {Aceptar, Cancelar}, {Si, No}, {Si, No, Cancelar}};
 
+// A box must stay on the screen, and what stands at the end of a message is its number. So a formula of 100,000 characters
+// loses its middle, and a word that is longer than a line may break where no blank is.
+QString TextoQueCabe(std::string_view texto) {
+    constexpr std::size_t Principio = 1600, Final = 400;
+    constexpr int LetrasDeUnaLinea = 60;
+    constexpr QChar Rotura(0x200B); // a blank of no width
+    const QString entero = texto.size() <= Principio + Final
+                               ? QDe1252(texto)
+                               : QDe1252(texto.substr(0, Principio)) + QStringLiteral("...") +
+                                     QDe1252(texto.substr(texto.size() - Final));
+    QString roto;
+    int seguidas = 0;
+    for (const QChar letra : entero) {
+        seguidas = letra.isSpace() ? 0 : seguidas + 1;
+        roto += letra;
+        if (seguidas % LetrasDeUnaLinea == 0 && seguidas > 0) roto += Rotura;
+    }
+    return roto;
+}
+
 } // namespace
 
 Respuesta CajaQt(Ventana *ventana, std::string_view texto, std::string_view titulo, Icono icono,
@@ -37,16 +58,17 @@ Respuesta CajaQt(Ventana *ventana, std::string_view texto, std::string_view titu
     caja.setObjectName(QStringLiteral("caja"));
     caja.setWindowTitle(QDe1252(titulo));
     caja.setTextFormat(Qt::PlainText);
-    // A formula of 100,000 characters is told in full elsewhere; a box must stay on the screen.
-    constexpr std::size_t MasLargo = 2000;
-    caja.setText(QDe1252(texto.substr(0, MasLargo)) +
-                 (texto.size() > MasLargo ? QStringLiteral("...") : QString()));
+    caja.setText(TextoQueCabe(texto));
     caja.setIcon(Iconos[icono]);
     std::vector<QPushButton *> puestos;
     for (const BotonDeCaja &b : BotonesDeCaja[botones]) {
         puestos.push_back(caja.addButton(QDe1252(b.texto), b.papel));
         puestos.back()->setObjectName(QString::fromLatin1(b.nombre));
     }
+    // The box asks its grid for its width, and never looks at its own title.
+    auto *rejilla = qobject_cast<QGridLayout *>(caja.layout());
+    rejilla->addItem(new QSpacerItem(AnchoConTitulo(caja), 0), rejilla->rowCount(), 0, 1,
+                     rejilla->columnCount());
     caja.setDefaultButton(puestos.front());
     caja.setEscapeButton(puestos.back());
     // The wait cursor of a batch must not stand over a question.

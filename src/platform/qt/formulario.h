@@ -56,7 +56,7 @@ template <class Formulario> struct DialogoConFormulario {
 
     // The texts are in their places by now, and the dialog takes the room that they ask for.
     bool Ejecutar() {
-        QSize lado = dialogo.sizeHint().expandedTo(holgura);
+        QSize lado = dialogo.sizeHint().expandedTo(holgura).expandedTo({AnchoConTitulo(dialogo), 0});
         const QLayout &l = *dialogo.layout();
         if (l.hasHeightForWidth())
             lado.setHeight(std::max(lado.height(), l.totalHeightForWidth(lado.width())));

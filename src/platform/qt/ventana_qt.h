@@ -3,7 +3,9 @@
 
 #include "platform/plataforma.h"
 
+#include <QFontMetrics>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QWidget>
 
 inline Ventana *AVentana(QWidget *w) {
@@ -17,4 +19,18 @@ inline ControlTexto *AControl(QPlainTextEdit *e) {
 }
 inline QPlainTextEdit *DeControl(ControlTexto *c) {
     return reinterpret_cast<QPlainTextEdit *>(c);
+}
+
+// Room in which the title of a window is read whole, beside the icon and the buttons that the desktop puts there.
+inline int AnchoConTitulo(const QWidget &w) {
+    QFont fuente = w.font();
+    fuente.setBold(true);
+    const QFontMetrics m(fuente);
+    return m.horizontalAdvance(w.windowTitle()) + 8 * m.height();
+}
+
+// A size for a window, with its title bar inside the screen.
+inline QSize DentroDeLaPantalla(const QWidget &w, QSize lado) {
+    constexpr int AltoDelTitulo = 40;
+    return lado.boundedTo(w.screen()->availableSize() - QSize(0, AltoDelTitulo));
 }

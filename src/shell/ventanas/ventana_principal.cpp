@@ -12,6 +12,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QTimer>
 
@@ -63,7 +64,7 @@ VentanaPrincipal::VentanaPrincipal()
     PantallaEdicion->setFrameShape(QFrame::NoFrame);
     // Tab goes on to the next control in dialogs; here it writes, as in any editor of statements.
     PantallaEdicion->setTabChangesFocus(false);
-    PantallaEdicion->installEventFilter(this);
+    qApp->installEventFilter(this);
     setCentralWidget(PantallaEdicion);
     resize(640, 400);
     CrearMenus();
@@ -90,16 +91,23 @@ void VentanaPrincipal::closeEvent(QCloseEvent *suceso) {
     }
 }
 
-// Alt with a letter is for the menus. One that no menu bears would be written by the text control, and would put that
-// letter in the place of the selected statements.
+// Alt with a letter is for menus and labels. One that none bears would be written by the text control, and would put that
+// letter in the place of the selected statements; the fields of dialogs do the same.
 bool VentanaPrincipal::eventFilter(QObject *objeto, QEvent *suceso) {
-    if (objeto == PantallaEdicion && suceso->type() == QEvent::KeyPress) {
+    if (suceso->type() == QEvent::KeyPress &&
+        (objeto == PantallaEdicion || qobject_cast<QLineEdit *>(objeto) != nullptr)) {
         const auto *tecla = static_cast<QKeyEvent *>(suceso);
         const Qt::KeyboardModifiers alt = tecla->modifiers() & (Qt::AltModifier | Qt::ControlModifier);
         const QString texto = tecla->text();
         if (alt == Qt::AltModifier && !texto.isEmpty() && texto.front().isPrint()) return true;
     }
     return QMainWindow::eventFilter(objeto, suceso);
+}
+
+// No entry of the menu has a tip for the status line, and the toolkit would wipe out with it what stands there: where
+// the last document was printed to.
+bool VentanaPrincipal::event(QEvent *suceso) {
+    return suceso->type() == QEvent::StatusTip || QMainWindow::event(suceso);
 }
 
 // Every painting, first or not, shows the window maximised again: after a change of its size it grows back.

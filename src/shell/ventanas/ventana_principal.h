@@ -17,6 +17,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent *suceso) override;
+    bool event(QEvent *suceso) override;
     bool eventFilter(QObject *objeto, QEvent *suceso) override;
     void paintEvent(QPaintEvent *suceso) override;
 
