@@ -6,8 +6,9 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFontInfo>
-#include <QMimeData>
+#include <QImage>
 #include <QLineEdit>
+#include <QMimeData>
 
 #include <cmath>
 
@@ -261,4 +262,23 @@ TEST_F(Edicion, CursorDeEspera) {
     EXPECT_EQ(forma(), Qt::WaitCursor);
     PonerCursor(CursorFlecha);
     EXPECT_EQ(forma(), Qt::BlankCursor);
+}
+
+// Nothing was copied since the desktop began: there is nothing to paste, in no format.
+TEST_F(Edicion, PegarDeUnPortapapelesVacio) {
+    QPlainTextEdit &p = *ventana->PantallaEdicion;
+    p.setPlainText(QStringLiteral("SER X = 1"));
+    QApplication::clipboard()->setMimeData(new QMimeData);
+    Ordenar(2050);
+    p.paste();
+    QTest::keyClick(&p, Qt::Key_Insert, Qt::ShiftModifier);
+    EXPECT_EQ(p.toPlainText(), QStringLiteral("SER X = 1"));
+    auto *imagen = new QMimeData;
+    imagen->setImageData(QImage(2, 2, QImage::Format_RGB32));
+    QApplication::clipboard()->setMimeData(imagen);
+    Ordenar(2050);
+    EXPECT_EQ(p.toPlainText(), QStringLiteral("SER X = 1"));
+    QApplication::clipboard()->setText(QStringLiteral("+"));
+    Ordenar(2050);
+    EXPECT_EQ(p.toPlainText().size(), 10);
 }

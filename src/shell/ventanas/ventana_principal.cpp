@@ -14,9 +14,22 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QTimer>
 
 namespace {
+
+// The toolkit's control looks at the first format of what is pasted, and version 6.4 ends the program when the clipboard
+// has none: on a desktop where nothing was copied yet, or whose owner has gone.
+class ControlDeSentencias : public QPlainTextEdit {
+public:
+    using QPlainTextEdit::QPlainTextEdit;
+
+protected:
+    void insertFromMimeData(const QMimeData *datos) override {
+        if (datos != nullptr && datos->hasText()) QPlainTextEdit::insertFromMimeData(datos);
+    }
+};
 
 VentanaPrincipal *Principal(Ventana *ventana) {
     return qobject_cast<VentanaPrincipal *>(DeVentana(ventana));
@@ -48,7 +61,7 @@ void EsperarDeLaPortada() {
 } // namespace
 
 VentanaPrincipal::VentanaPrincipal()
-    : EditorDatos(new QWidget(this, Qt::Window)), PantallaEdicion(new QPlainTextEdit(this)) {
+    : EditorDatos(new QWidget(this, Qt::Window)), PantallaEdicion(new ControlDeSentencias(this)) {
     setObjectName(QStringLiteral("MiClaseVentana"));
     setWindowTitle(QStringLiteral("Tabira"));
     EditorDatos->setObjectName(QStringLiteral("EditorDatos"));
