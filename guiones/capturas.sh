@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Takes the pictures of docs/capturas/: the program as a user sees it, in a display of its own, at 100 % and 200 %. Dialogs
-# that no command opens yet are pictured by the tests of the windows (build/desarrollo), where they have been built.
+# Takes the pictures of docs/capturas/: the program as a user sees it, in a display of its own, at 100 % and 200 %. It takes
+# the program of ./ejecutar.sh and the tests of ./probar.sh, which picture the dialogs that no command opens yet.
 #   guiones/capturas.sh [PROGRAM]      default: build/entrega/src/shell/tabira
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
@@ -9,7 +9,14 @@ source guiones/pantalla.sh
 destino=$PWD/docs/capturas
 mkdir -p "$destino"
 preparar_pantalla "${1:-}"
-captura() { sleep 0.5; import -window root "$destino/$1$sufijo.png"; }
+pruebas=build/desarrollo/tests/escritorio/pruebas_escritorio
+[ -x "$pruebas" ] || rendirse "falta $pruebas: ejecute antes ./probar.sh"
+hechas=0
+captura() {
+    sleep 0.5
+    import -window root "$destino/$1$sufijo.png"
+    hechas=$((hechas + 1))
+}
 
 tipos_de_datos() { # every kind and its dialogs
     teclas alt+d t alt+s Return; captura observaciones; teclas Escape
@@ -64,11 +71,9 @@ for escala in 1 2; do
     ayuda
     teclas alt+F4; captura cierre
     cerrar_pantalla
-    if [ -x build/desarrollo/tests/escritorio/pruebas_escritorio ]; then
-        TABIRA_CAPTURAS=$temporal QT_SCALE_FACTOR=$escala \
-            build/desarrollo/tests/escritorio/pruebas_escritorio --gtest_filter=Ajuste.ConLasLetrasDelUsuario >/dev/null
-        mv "$temporal/FormatoDecimal.png" "$destino/decimales$sufijo.png"
-        mv "$temporal/Seleccion.png" "$destino/seleccion$sufijo.png"
-    fi
+    TABIRA_CAPTURAS=$temporal QT_SCALE_FACTOR=$escala "$pruebas" --gtest_filter=Ajuste.ConLasLetrasDelUsuario >/dev/null
+    mv "$temporal/FormatoDecimal.png" "$destino/decimales$sufijo.png"
+    mv "$temporal/Seleccion.png" "$destino/seleccion$sufijo.png"
+    hechas=$((hechas + 2))
 done
-decir "Hechas: $(find "$destino" -name '*.png' | wc -l) en docs/capturas/"
+decir "Hechas: $hechas en docs/capturas/"

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Measures what a person waits for in the windows: start to usable window, opening of a report, memory.
+# Measures what a person waits for in the windows: start to usable window (300 ms, and 100 for the wait of its first picture),
+# opening of a report, memory. Fails above the limits.
 #   guiones/medir_ventanas.sh [PROGRAM [TIMES]]      default: build/entrega/src/shell/tabira 5
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
@@ -37,6 +38,15 @@ for ((i = 0; i < ${2:-5}; ++i)); do
     awk '/VmRSS/ { print int($2 / 1024) }' "/proc/$proceso/status" >>"$temporal/memoria"
     kill "$proceso"; wait "$proceso" 2>/dev/null || true
 done
-decir "Inicio hasta la ventana utilizable, con su espera: $(mediana <"$temporal/inicio") ms"
-decir "Informe, de la respuesta a la ventana en reposo: $(mediana <"$temporal/informe") ms"
-decir "Memoria con el informe abierto: $(mediana <"$temporal/memoria") MB"
+# MEASURE WORDS UNIT LIMIT: tells the median; above the limit the script fails.
+estado=0
+contar() {
+    local v
+    v=$(mediana <"$temporal/$1")
+    decir "$2: $v $3 (como mucho $4)"
+    [ "$v" -le "$4" ] || estado=1
+}
+contar inicio "Inicio hasta la ventana utilizable, con su espera" ms 400
+contar informe "Informe, de la respuesta a la ventana en reposo" ms 50
+contar memoria "Memoria con el informe abierto" MB 150
+exit "$estado"

@@ -3,6 +3,7 @@
 
 #include "charts/ventana_resultado.h"
 #include "estimation/regresion.h"
+#include "language/lote_sentencias.h"
 
 #include <algorithm>
 #include <iterator>
@@ -17,8 +18,8 @@ struct TituloDeClase {
 };
 
 constexpr TituloDeClase TitulosImpresos[] = {
-    {8, "Método: Mínimos cuadrados ordinarios"_w},
-    {13, "Método: Mínimos cuadrados ponderados"_w},
+    {OrdenMC, "Método: Mínimos cuadrados ordinarios"_w},
+    {OrdenMCP, "Método: Mínimos cuadrados ponderados"_w},
 };
 
 void PonerCentrado(Superficie &s, int fila, std::string_view texto) {
@@ -33,7 +34,7 @@ int PonerTitulo(Superficie &s, const SalidaResultado &salida) {
     int fila = 2;
     PonerCentrado(s, fila++, propio != std::end(TitulosImpresos) ? propio->titulo : salida.titulo);
     // Of the two consistent covariances only this one is named on paper; the window names both in its title.
-    if (salida.Clase == 8 && UltimaRegresion.TipoCovarianza == CovarianzaHeterocedasticidad)
+    if (salida.Clase == OrdenMC && UltimaRegresion.TipoCovarianza == CovarianzaHeterocedasticidad)
         PonerCentrado(s, fila++, "Matriz de covarianzas consistente bajo heterocedasticidad");
     return fila;
 }

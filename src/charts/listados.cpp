@@ -29,10 +29,9 @@ constexpr int ElementosPorRenglon = 4;
 
 constexpr int AnchoPantalla = 70;
 constexpr int AnchoCabeceraPantalla = 79;
-constexpr int ContadorPantalla = 12;    // after the head of the main screen's listing
-constexpr int ContadorInicial = 1000;   // above the lines of any page, so that the first line opens a head
-constexpr int FinalPantalla = 32000;    // where the selection of the whole text ends
-constexpr int MascaraPosicion = 0xFFFF; // positions of the control have 16 bits
+constexpr int ContadorPantalla = 12;  // after the head of the main screen's listing
+constexpr int ContadorInicial = 1000; // above the lines of any page, so that the first line opens a head
+constexpr int FinalPantalla = 32000;  // where the selection of the whole text ends
 
 // ---------------------------------------------------------------------------------------------------------------
 // The paper
@@ -319,8 +318,6 @@ int ImprimirSeleccion(Ventana *ventana, ControlTexto *control) {
     int desde = 0, hasta = 0;
     const auto leer = [&] {
         SeleccionDeControl(control, desde, hasta);
-        desde &= MascaraPosicion;
-        hasta &= MascaraPosicion;
         return hasta - desde > 1; // one character counts as nothing selected
     };
     if (!leer()) {

@@ -44,7 +44,7 @@ struct SalidaResultado {
     std::string_view titulo;
     int Clase;     // code of the statement, for SalidaRegresion
     int Contenido; // 0 the report, 1 covariance matrix, 2 values and residuals, 3 analysis of variance
-    const TextoSalida *lineas;
+    const TextoSalida *lineas;                    // never null
     const TextoSalida *fijas;                     // lines that don't scroll, or null
     const std::vector<TablaCoeficientes> *tablas; // where thin vertical rules stand, or null
     std::string_view tabla = {}; // the result for a spreadsheet: tabulators, all digits; may be empty

@@ -1,6 +1,8 @@
 // Painting and scrolling of the result window.
 #include "charts/ventana_resultado.h"
 
+#include "language/lote_sentencias.h"
+
 #include <algorithm>
 
 namespace {
@@ -20,12 +22,12 @@ constexpr int AnchoFuenteBase = 8, AltoFuenteBase = 16, BordeConFuenteBase = 32;
 constexpr std::array ReglasConFuenteBase = {160, 290, 410, 510};
 
 int NumeroDeLineas(const SalidaResultado &salida) {
-    return salida.lineas != nullptr ? static_cast<int>(salida.lineas->size()) : 0;
+    return static_cast<int>(salida.lineas->size());
 }
 
 bool EsBloqueDeRegresion(const SalidaResultado &salida) {
     return salida.tipo == SalidaRegresion && salida.Contenido == 0 &&
-           (salida.Clase == 8 || salida.Clase == 11 || salida.Clase == 13);
+           (salida.Clase == OrdenMC || salida.Clase == OrdenMGD || salida.Clase == OrdenMCP);
 }
 
 // A line of text and the half row above and below it: rules stand in the middle of a row of their own.

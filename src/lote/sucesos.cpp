@@ -220,7 +220,6 @@ const OperacionesPlataforma PlataformaLote = {
     .seleccionDeControl = SeleccionDelControl,
     .seleccionarEnControl = [](ControlTexto *, int, int) {},
     .mostrarResultado = MostrarResultado,
-    .mostrarGrafico = [](Ventana *, const Grafico &) {},
     .refrescarEditor = [] {},
     .empezarTrabajo = EmpezarTrabajoGrabado,
     .terminarTrabajo = TerminarTrabajoDeCorrida,

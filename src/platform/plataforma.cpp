@@ -63,10 +63,6 @@ void MostrarVentanaResultado(Ventana *ventana, const SalidaResultado &salida) {
     Instalada->mostrarResultado(ventana, salida);
 }
 
-void MostrarVentanaGrafico(Ventana *ventana, const Grafico &grafico) {
-    Instalada->mostrarGrafico(ventana, grafico);
-}
-
 void RefrescarEditor() {
     Instalada->refrescarEditor();
 }

@@ -14,7 +14,6 @@
 struct Ventana;         // a window of the outside; the core only hands it on
 struct ControlTexto;    // a text control of the outside
 struct SalidaResultado; // a result window (charts/resultado.h)
-struct Grafico;         // a chart window
 
 enum Icono { IconoInformacion, IconoPregunta, IconoExclamacion, IconoAlto };
 enum Botones { BotonesAceptar, BotonesAceptarCancelar, BotonesSiNo, BotonesSiNoCancelar };
@@ -34,8 +33,6 @@ struct OperacionesPlataforma {
     void (*seleccionarEnControl)(ControlTexto *control, int desde, int hasta);
     // Shows a result window and returns when it is closed.
     void (*mostrarResultado)(Ventana *ventana, const SalidaResultado &salida);
-    // Shows a chart window and returns when it is closed.
-    void (*mostrarGrafico)(Ventana *ventana, const Grafico &grafico);
     // The grid of the editor shows the tables anew, if it is open.
     void (*refrescarEditor)();
     // Around every print job, whatever documents it opens: what the user is told about it and where its pages go is
@@ -77,12 +74,13 @@ int MensajePunto(Ventana *ventana, std::string_view texto, int punto);
 // "No hay suficiente memoria. Ptos: a b", title "Proceso cancelado"; the two numbers name the site.
 void MensajeSinMemoria(int a, int b, Ventana *ventana);
 
+// The operations of the same names. A character of the control is a byte of its text; desde <= hasta; positions outside
+// the text mean its ends.
 void PonerCursor(Cursor cursor);
 std::string TextoDeControl(ControlTexto *control);
 void SeleccionDeControl(ControlTexto *control, int &desde, int &hasta);
 void SeleccionarEnControl(ControlTexto *control, int desde, int hasta);
 void MostrarVentanaResultado(Ventana *ventana, const SalidaResultado &salida);
-void MostrarVentanaGrafico(Ventana *ventana, const Grafico &grafico);
 void RefrescarEditor();
 const OperacionesPlataforma &Plataforma(); // for the print jobs, which use their operations one by one
 std::int32_t SegundosDeCalendario();

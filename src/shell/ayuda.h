@@ -18,7 +18,7 @@ inline constexpr int AnchoLineaAyuda = 78;
 // The pages that something else than the menu "Ayuda" opens too, by their id.
 inline constexpr int PaginaMuestra = 1114; // sample dialog, data type dialog
 inline constexpr int PaginaNoEnsamblada = 1125;
-inline constexpr int PaginaEdicion = 1126;
+inline constexpr int PaginaEdicion = 1126; // this and the next two by windows that are not built yet
 inline constexpr int PaginaAscii = 1141;
 inline constexpr int PaginaPanel = 1144;
 inline constexpr int PaginaAcerca = 1198;

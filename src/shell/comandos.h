@@ -48,8 +48,9 @@ extern const int NumComandos;
 // Carries out a command: guard, refresh of the sample, routine. An unknown id does nothing.
 void EjecutarComando(Ventana *ventana, int id);
 
-// The sequence of closing: asks "¿Desea guardar su trabajo?" when there is a series or a matrix, frees the blocks and
-// destroys the window. False when the program stays.
+// The sequence of closing: asks "¿Desea guardar su trabajo?" when there is a series or a matrix, frees the blocks of
+// the matrices and destroys the window. False when the program stays: after "Cancelar", and after "Sí" while saving isn't
+// built.
 bool CerrarPrograma(Ventana *ventana);
 
 // Start of the work file and of the estimation state, after the windows exist.

@@ -26,6 +26,9 @@ template <std::size_t N> void PonerTexto(char (&campo)[N], std::string_view text
     texto.copy(campo, texto.size());
 }
 
+double Numero(const char *periodo) {
+    return LeerDecimal(periodo);
+}
 double Numero(const EntradaPeriodoPanel &e) {
     return LeerDecimal(e.periodo);
 }
@@ -143,10 +146,16 @@ void QuitarPeriodoPanel(int entrada) {
 int AnadirIndividuoPanel(Ventana *ventana, std::string_view orden) {
     DescripcionDePanel &p = EdicionPanel.panel;
     const int numero = LeerEntero(orden);
-    if (numero < 1) return MensajeAviso(ventana, "Individuos ha de ser mayor de cero") - 1;
+    if (numero < 1) {
+        MensajeAviso(ventana, "Individuos ha de ser mayor de cero");
+        return -1;
+    }
     for (int e = 0; e < p.NumEntradas; ++e)
         if (p.individuos[e].orden == numero) return e;
-    if (p.NumEntradas >= MaxIndividuosEtiqueta) return RechazarPorLleno(ventana) - 1;
+    if (p.NumEntradas >= MaxIndividuosEtiqueta) {
+        RechazarPorLleno(ventana);
+        return -1;
+    }
     p.individuos[p.NumEntradas++].orden = numero;
     EdicionPanel.cambiada = true;
     return Colocar(p.individuos, p.NumEntradas);
@@ -164,10 +173,7 @@ int AnadirPeriodoIndividuo(Ventana *ventana, int entrada, std::string_view perio
         return MensajeAviso(ventana, "Período ha de ser mayor de 1000"_w);
     if (individuo.numPeriodos >= MaxPeriodosIndividuo) return RechazarPorLleno(ventana);
     PonerTexto(individuo.periodos[individuo.numPeriodos++], periodo);
-    for (int i = individuo.numPeriodos - 1; i > 0; --i) {
-        if (LeerDecimal(individuo.periodos[i - 1]) <= LeerDecimal(individuo.periodos[i])) break;
-        std::swap(individuo.periodos[i - 1], individuo.periodos[i]);
-    }
+    Colocar(individuo.periodos, individuo.numPeriodos);
     EdicionPanel.cambiada = true;
     return 1;
 }

@@ -24,11 +24,13 @@ void LimpiarEdicionPanel();
 // from it. One that agrees is taken anew from it, unless changes wait in it from a dialog that was cancelled.
 void AbrirEdicionPanel();
 
-// The radio buttons. The three kinds of list share their place, so going from one to another empties it.
+// The radio buttons. The three kinds of list share their place, so going from one to another empties it;
+// the form that it has already changes nothing.
 void ElegirFormaPanel(FormasPanel forma, ConceptosPanel primerConcepto);
 
 // OK of the dialog of the constant panel, with the number of individuals, the periodicity (TipoAnual, TipoTrimestral or
-// TipoMensual) and the fields of the first and last period, checked by ComprobarPeriodos.
+// TipoMensual) and the fields of the first and last period, checked by ComprobarPeriodos: 1, or
+// 0 after its message. The number of individuals is taken as it is: below 1 it counts as no data at the OK of the panel.
 int AceptarPanelConstante(Ventana *ventana, std::string_view individuos, int tipoPeriodo,
                           std::string_view inicio, std::string_view fin);
 
@@ -36,6 +38,7 @@ int AceptarPanelConstante(Ventana *ventana, std::string_view individuos, int tip
 // the period begins with. 0 after "Individuos ha de ser mayor de cero", "Período ha de ser mayor de mil" or, with 3,999
 // entries, "No se pueden introducir más periodos".
 int AnadirPeriodoPanel(Ventana *ventana, std::string_view periodo, std::string_view individuos);
+// Takes an entry of the list out, from 0; any other number is passed over, here and below.
 void QuitarPeriodoPanel(int entrada);
 
 // Variable panel, individual first: the place of the individual with this order number in the sorted list, where it is

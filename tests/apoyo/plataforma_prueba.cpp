@@ -81,7 +81,6 @@ const OperacionesPlataforma Operaciones = {
             Prueba.hasta = std::min(hasta, n);
         },
     .mostrarResultado = Resultado,
-    .mostrarGrafico = [](Ventana *, const Grafico &) {},
     .refrescarEditor = [] { ++Prueba.refrescos; },
     .empezarTrabajo = EmpezarTrabajo,
     .terminarTrabajo = TerminarTrabajo,

@@ -374,8 +374,7 @@ TEST(ListadoPantalla, Seleccion) {
         {"uno\ndos\rtres", 0, 12, {"uno", "dos", "tres"}},
         {"uno\r\n\r\ndos", 0, 10, {"uno", "", "dos"}},
         {"uno", 0, 3, {"uno"}},
-        {"uno", 0, 65536 + 2, {"uno"}}, // a position has 16 bits
-        {"uno", 65536, 65536 + 3, {"uno"}},
+        {std::string(65536, ' ') + "\ntres\nno", 65537, 65541, {"tres"}}, // positions don't end at 65,535
         {"uno", 3, 0, {"uno"}},
         {"ab", 0, 2, {"ab"}},
         {"", 0, 0, {}},

@@ -1,6 +1,8 @@
 // Reading back PDF documents.
 #include "apoyo_pdf.h"
 
+#include "platform/impresora_grabadora.h"
+
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
@@ -28,23 +30,20 @@ QString SalidaDe(const char *programa, const QStringList &argumentos) {
     return QString::fromUtf8(p.readAllStandardOutput());
 }
 
-bool HayPdftotext() {
-    return !QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty();
-}
-
 QStringList TextoDePdf(const QString &ruta) {
-    return SalidaDe("pdftotext", {QStringLiteral("-layout"), QStringLiteral("-enc"), QStringLiteral("UTF-8"),
-                                  ruta, QStringLiteral("-")})
+    EXPECT_FALSE(QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty());
+    const double anchoCaracter = AnchoCaracterPagina * 72.0 / PuntosPorPulgada;
+    return SalidaDe("pdftotext", {QStringLiteral("-fixed"), QString::number(anchoCaracter),
+                                  QStringLiteral("-enc"), QStringLiteral("UTF-8"), ruta, QStringLiteral("-")})
         .split(u'\n');
 }
 
 void EstaEnElPdf(const QString &texto, const QString &ruta) {
-    if (!HayPdftotext()) return;
-    QStringList apretadas; // each stretch of blanks made one
-    for (const QString &l : TextoDePdf(ruta)) apretadas << l.simplified();
+    const QString pdf = TextoDePdf(ruta).join(u'\n');
     static const QRegularExpression Palabra(QStringLiteral("[0-9A-Za-z]"));
     for (const QString &linea : texto.split(u'\n')) {
         if (!linea.contains(Palabra)) continue;
-        EXPECT_TRUE(apretadas.contains(linea.left(70).simplified())) << linea.toStdString();
+        EXPECT_TRUE(pdf.contains(linea.left(70).trimmed())) << linea.toStdString() << "\n"
+                                                            << pdf.toStdString();
     }
 }

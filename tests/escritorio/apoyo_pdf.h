@@ -16,11 +16,8 @@ QByteArray Leer(const QString &ruta);
 // What a program writes to its standard output; empty when it can't be run.
 QString SalidaDe(const char *programa, const QStringList &argumentos);
 
-// Without pdftotext the content of documents isn't looked at.
-bool HayPdftotext();
-
-// The lines of a document, as they are laid out.
+// The lines of a document, each character in its column of the page. Without pdftotext a failure.
 QStringList TextoDePdf(const QString &ruta);
 
-// The lines of the text are in the document, with their columns: fields of a line stand as far apart as they did.
+// The lines of the text, up to 70 characters each, are in the document with the blanks between their fields.
 void EstaEnElPdf(const QString &texto, const QString &ruta);

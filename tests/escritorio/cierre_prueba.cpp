@@ -16,7 +16,7 @@ using Cierre = Escritorio;
 namespace {
 
 // The ways to ask for the end.
-enum Formas { PorMenu, PorVentana, PorTecla };
+enum Formas { PorMenu, PorVentana, PorOrden2 };
 
 // Runs the program's loop, closes in it, and returns whether the program ended.
 bool Cerrar(VentanaPrincipal &v, Formas forma, const Guion &guion) {
@@ -26,7 +26,7 @@ bool Cerrar(VentanaPrincipal &v, Formas forma, const Guion &guion) {
             switch (forma) {
             case PorMenu: v.findChild<QAction *>(QStringLiteral("comando2021"))->trigger(); break;
             case PorVentana: v.close(); break;
-            case PorTecla: EjecutarComando(AVentana(&v), 2); break;
+            case PorOrden2: EjecutarComando(AVentana(&v), 2); break;
             }
         });
         QTimer::singleShot(0, &v, [] { QApplication::exit(Sigue); });
@@ -81,7 +81,7 @@ protected:
 
 TEST_F(Cierre, ConSuPregunta) {
     for (const CasoCierre &c : Casos) {
-        for (const Formas forma : {PorMenu, PorVentana, PorTecla}) {
+        for (const Formas forma : {PorMenu, PorVentana, PorOrden2}) {
             SCOPED_TRACE(testing::Message() << c.nombre << ", way " << forma);
             SetUp();
             ventana->show();

@@ -1,11 +1,11 @@
 // Runs the tests of the windows: an application without a display, whose user has a home of its own in the build.
+#include "shell/ventanas/aplicacion.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QDir>
 #include <QTemporaryDir>
-
-#include <clocale>
 
 int main(int numArgumentos, char **argumentos) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -23,8 +23,8 @@ int main(int numArgumentos, char **argumentos) {
     // Of windows without a screen the toolkit says nothing of interest.
     qputenv("QT_LOGGING_RULES", "qt.qpa.*=false;default.warning=false");
     qputenv("XDG_RUNTIME_DIR", casa.toUtf8());
-    QApplication aplicacion(numArgumentos, argumentos);
-    std::setlocale(LC_NUMERIC, "C"); // as the program's start does
+    const QApplication aplicacion(numArgumentos, argumentos);
+    PrepararAplicacion();
     QApplication::setQuitOnLastWindowClosed(false);
     testing::InitGoogleTest(&numArgumentos, argumentos);
     return RUN_ALL_TESTS();

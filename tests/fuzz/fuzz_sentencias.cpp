@@ -40,7 +40,6 @@ const OperacionesPlataforma Muda = [] {
         hasta = static_cast<int>(Pantalla.size());
     };
     o.mostrarResultado = [](Ventana *, const SalidaResultado &) {};
-    o.mostrarGrafico = [](Ventana *, const Grafico &) {};
     o.refrescarEditor = [] {};
     o.segundos = [] { return std::int32_t{1}; };
     return o;

@@ -9,6 +9,8 @@
 
 #include "ui_seleccion.h"
 
+#include <algorithm>
+
 namespace {
 
 void Mostrar(QListWidget &lista, const std::vector<std::string> &codigos) {

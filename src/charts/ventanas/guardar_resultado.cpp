@@ -18,6 +18,8 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 
+#include <algorithm>
+
 namespace {
 
 void PonerLineas(std::string &texto, const TextoSalida *lineas) {
@@ -94,6 +96,14 @@ constexpr FormatoDeArchivo Formatos[] = {
     {"png", "Imagen PNG (*.png)", GuardarImagen},
 };
 
+// A name such as "klein 1.5" has no ending of ours: the format chosen gives it one.
+QString ConTerminacion(const QString &ruta, const FormatoDeArchivo &elegido) {
+    const QString suya = QFileInfo(ruta).suffix().toLower();
+    for (const FormatoDeArchivo &f : Formatos)
+        if (suya == QLatin1String(f.terminacion)) return ruta;
+    return ruta + u'.' + QLatin1String(elegido.terminacion);
+}
+
 } // namespace
 
 std::string TextoDeResultado(const SalidaResultado &salida) {
@@ -123,9 +133,9 @@ std::string TablaDeResultado(const SalidaResultado &salida) {
 }
 
 bool GuardarResultado(const SalidaResultado &salida, const QString &ruta) {
-    const QString final = QFileInfo(ruta).suffix().toLower();
+    const QString terminacion = QFileInfo(ruta).suffix().toLower();
     for (const FormatoDeArchivo &f : Formatos)
-        if (final == QLatin1String(f.terminacion)) return f.guardar(salida, ruta);
+        if (terminacion == QLatin1String(f.terminacion)) return f.guardar(salida, ruta);
     return GuardarTexto(salida, ruta);
 }
 
@@ -136,17 +146,21 @@ void DialogoGuardarResultado(QWidget *padre, const SalidaResultado &salida) {
                         QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
                         filtros.join(QStringLiteral(";;")));
     dialogo.setAcceptMode(QFileDialog::AcceptSave);
-    const auto ponerFinal = [&] {
-        const auto elegido = filtros.indexOf(dialogo.selectedNameFilter());
-        dialogo.setDefaultSuffix(QLatin1String(Formatos[elegido < 0 ? 0 : elegido].terminacion));
-    };
-    ponerFinal();
-    static const QRegularExpression NoEnNombres(QStringLiteral("[^\\w ().-]+"),
+    dialogo.setOption(QFileDialog::DontConfirmOverwrite); // the name isn't whole yet when it would look
+    static const QRegularExpression NoEnNombres(QStringLiteral("[^\\w ()-]+"),
                                                 QRegularExpression::UseUnicodePropertiesOption);
     dialogo.selectFile(QDe1252(salida.titulo).remove(NoEnNombres));
     dialogo.resize(DentroDeLaPantalla(dialogo, dialogo.sizeHint()));
-    QObject::connect(&dialogo, &QFileDialog::filterSelected, &dialogo, ponerFinal);
-    if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return;
-    if (!GuardarResultado(salida, dialogo.selectedFiles().constFirst()))
-        MostrarMensaje(AVentana(padre), "No se ha podido guardar el archivo");
+    while (dialogo.exec() == QDialog::Accepted && !dialogo.selectedFiles().isEmpty()) {
+        const auto elegido = std::max(filtros.indexOf(dialogo.selectedNameFilter()), qsizetype{0});
+        const QString ruta = ConTerminacion(dialogo.selectedFiles().constFirst(), Formatos[elegido]);
+        const std::string yaExiste =
+            De1252Q(QFileInfo(ruta).fileName()) + " ya existe. ¿Desea reemplazarlo?"_w;
+        if (QFileInfo::exists(ruta) && MostrarCaja(AVentana(&dialogo), yaExiste, "Guardar como",
+                                                   IconoPregunta, BotonesSiNo) != RespuestaSi)
+            continue;
+        if (!GuardarResultado(salida, ruta))
+            MostrarMensaje(AVentana(padre), "No se ha podido guardar el archivo");
+        return;
+    }
 }

@@ -18,5 +18,6 @@ std::string TablaDeResultado(const SalidaResultado &salida);
 // be written, or is too long for a picture.
 bool GuardarResultado(const SalidaResultado &salida, const QString &ruta);
 
-// Asks for a name and saves; a failure is told.
+// Asks for a name and saves. A name without an ending of ours gets that of the chosen format; a file that is there already
+// is replaced only after a question; a failure is told.
 void DialogoGuardarResultado(QWidget *padre, const SalidaResultado &salida);

@@ -18,8 +18,11 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPainter>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 namespace {
 
@@ -35,8 +38,6 @@ public:
         setFocusPolicy(Qt::StrongFocus);
         setAccessibleName(QDe1252(salida.titulo));
         setFrameShape(QFrame::NoFrame);
-        viewport()->setBackgroundRole(QPalette::Base);
-        viewport()->setAutoFillBackground(true);
         verticalScrollBar()->setRange(0, TopeBarraResultado);
         verticalScrollBar()->setSingleStep(1);
         verticalScrollBar()->setPageStep(5);

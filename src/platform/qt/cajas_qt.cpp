@@ -9,6 +9,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <vector>
+
 namespace {
 
 constexpr QMessageBox::Icon Iconos[] = {QMessageBox::Information, QMessageBox::Question, QMessageBox::Warning,
@@ -27,8 +29,10 @@ constexpr BotonDeCaja Si = {RespuestaSi, "&Sí"_w, "Si", QMessageBox::YesRole};
 constexpr BotonDeCaja No = {RespuestaNo, "&No", "No", QMessageBox::NoRole};
 
 // By Botones, the default first; the last one answers Escape, where it cancels.
-const std::vector<BotonDeCaja> BotonesDeCaja[] = {
-    {Aceptar}, {Aceptar, Cancelar}, {Si, No}, {Si, No, Cancelar}};
+constexpr struct {
+    int numero;
+    BotonDeCaja boton[3];
+} BotonesDeCaja[] = {{1, {Aceptar}}, {2, {Aceptar, Cancelar}}, {2, {Si, No}}, {3, {Si, No, Cancelar}}};
 
 // A box must stay on the screen, and what stands at the end of a message is its number. So a formula of 100,000 characters
 // loses its middle, and a word that is longer than a line may break where no blank is.
@@ -60,22 +64,24 @@ Respuesta CajaQt(Ventana *ventana, std::string_view texto, std::string_view titu
     caja.setTextFormat(Qt::PlainText);
     caja.setText(TextoQueCabe(texto));
     caja.setIcon(Iconos[icono]);
+    const auto &deCaja = BotonesDeCaja[botones];
     std::vector<QPushButton *> puestos;
-    for (const BotonDeCaja &b : BotonesDeCaja[botones]) {
-        puestos.push_back(caja.addButton(QDe1252(b.texto), b.papel));
-        puestos.back()->setObjectName(QString::fromLatin1(b.nombre));
+    for (int i = 0; i < deCaja.numero; ++i) {
+        puestos.push_back(caja.addButton(QDe1252(deCaja.boton[i].texto), deCaja.boton[i].papel));
+        puestos.back()->setObjectName(QString::fromLatin1(deCaja.boton[i].nombre));
     }
     // The box asks its grid for its width, and never looks at its own title.
-    auto *rejilla = qobject_cast<QGridLayout *>(caja.layout());
-    rejilla->addItem(new QSpacerItem(AnchoConTitulo(caja), 0), rejilla->rowCount(), 0, 1,
-                     rejilla->columnCount());
+    if (auto *rejilla = qobject_cast<QGridLayout *>(caja.layout()))
+        rejilla->addItem(new QSpacerItem(AnchoConTitulo(caja), 0), rejilla->rowCount(), 0, 1,
+                         rejilla->columnCount());
     caja.setDefaultButton(puestos.front());
     caja.setEscapeButton(puestos.back());
     // The wait cursor of a batch must not stand over a question.
     QApplication::setOverrideCursor(Qt::ArrowCursor);
     caja.exec();
     QApplication::restoreOverrideCursor();
-    for (std::size_t i = 0; i < puestos.size(); ++i)
-        if (caja.clickedButton() == puestos[i]) return BotonesDeCaja[botones][i].respuesta;
-    return BotonesDeCaja[botones].back().respuesta;
+    int pulsado = deCaja.numero - 1;
+    for (int i = 0; i < deCaja.numero; ++i)
+        if (caja.clickedButton() == puestos[static_cast<std::size_t>(i)]) pulsado = i;
+    return deCaja.boton[pulsado].respuesta;
 }

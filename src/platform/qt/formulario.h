@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QLayout>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 
@@ -18,8 +19,18 @@ inline int FilaElegida(const QListWidget &lista) {
     return elegidas.isEmpty() ? -1 : lista.row(elegidas.constFirst());
 }
 
-// A dialog with its generated form. The buttons OK and Cancela, where the form has them, accept and reject unless
-// the dialog connects OK itself to a check.
+// Keeps Alt with a letter out of the fields of a dialog.
+class CampoSinAlt : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject *, QEvent *suceso) override {
+        return suceso->type() == QEvent::KeyPress && EsLetraConAlt(*static_cast<QKeyEvent *>(suceso));
+    }
+};
+
+// A dialog with its generated form. The button Cancela, where the form has it, rejects; OK does what AlAceptar says.
 template <class Formulario> struct DialogoConFormulario {
     QDialog dialogo;
     Formulario ui;
@@ -28,7 +39,7 @@ template <class Formulario> struct DialogoConFormulario {
         ui.setupUi(&dialogo);
         // A least size of its own would stand in the place of the one that the texts ask for, and cut large letters:
         // it is only the size to begin with.
-        holgura = dialogo.minimumSize();
+        ladoInicial = dialogo.minimumSize();
         dialogo.setMinimumSize(0, 0);
         dialogo.setWindowFlag(Qt::WindowContextHelpButtonHint, false);
         // What the user gave as a period or a code is shown as it is, whatever marks it holds.
@@ -36,14 +47,15 @@ template <class Formulario> struct DialogoConFormulario {
         // Without this a list would take its first line for the current one, though nobody chose it, and the first key
         // Down would leave that line behind.
         for (auto *lista : dialogo.findChildren<QListWidget *>()) lista->setCurrentIndex({});
+        auto *filtro = new CampoSinAlt(&dialogo);
+        for (auto *campo : dialogo.findChildren<QLineEdit *>()) campo->installEventFilter(filtro);
         if (auto *cancela = dialogo.template findChild<QPushButton *>(QStringLiteral("Cancela")))
             QObject::connect(cancela, &QPushButton::clicked, &dialogo, &QDialog::reject);
     }
 
     // OK accepts when `acepta` says so; a message keeps the dialog open with what was typed.
     template <class Prueba> void AlAceptar(Prueba acepta) {
-        auto *ok = dialogo.template findChild<QPushButton *>(QStringLiteral("OK"));
-        QObject::connect(ok, &QPushButton::clicked, &dialogo, [this, acepta] {
+        QObject::connect(ui.OK, &QPushButton::clicked, &dialogo, [this, acepta] {
             if (acepta()) dialogo.accept();
         });
     }
@@ -56,7 +68,7 @@ template <class Formulario> struct DialogoConFormulario {
 
     // The texts are in their places by now, and the dialog takes the room that they ask for.
     bool Ejecutar() {
-        QSize lado = dialogo.sizeHint().expandedTo(holgura).expandedTo({AnchoConTitulo(dialogo), 0});
+        QSize lado = dialogo.sizeHint().expandedTo(ladoInicial).expandedTo({AnchoConTitulo(dialogo), 0});
         const QLayout &l = *dialogo.layout();
         if (l.hasHeightForWidth())
             lado.setHeight(std::max(lado.height(), l.totalHeightForWidth(lado.width())));
@@ -65,5 +77,5 @@ template <class Formulario> struct DialogoConFormulario {
     }
 
 private:
-    QSize holgura;
+    QSize ladoInicial;
 };

@@ -19,11 +19,16 @@
 #include <QStatusBar>
 
 #include <cstdio>
+#include <vector>
 
 namespace {
 
-std::string DocumentoElegido;  // where the present job goes, empty for the printer
-bool DocumentoEscrito = false; // and whether it got there
+// Where the present job goes.
+struct DestinoDeTrabajo {
+    const std::string *documento; // a PDF document; null for the printer
+    bool escrito;                 // the document, or not
+};
+DestinoDeTrabajo Destino{};
 
 // Takes a name for a document of ours, as an empty file under it. False when something stands there, a link to nowhere
 // included. Where no file can be made the name is as good as any other: writing the document will fail.
@@ -47,16 +52,23 @@ QString DocumentoNuevo(const std::string &documento) {
     return ruta;
 }
 
-// A line in the status of the main window and of the dialog that may stand before it, and a note for whoever started the
-// program from a terminal.
-void Avisar(const QString &texto) {
-    std::fprintf(stderr, "tabira: %s\n", texto.toUtf8().constData());
+// The lines for notes: the status of the main window, and that of the dialog that may stand before it.
+std::vector<QStatusBar *> LineasDeNota() {
+    std::vector<QStatusBar *> lineas;
     for (QWidget *w : QApplication::topLevelWidgets()) {
         auto *principal = qobject_cast<QMainWindow *>(w);
-        auto *estado = principal != nullptr ? principal->statusBar() : w->findChild<QStatusBar *>();
-        if (estado == nullptr) continue;
-        estado->show();
-        estado->showMessage(texto);
+        auto *linea = principal != nullptr ? principal->statusBar() : w->findChild<QStatusBar *>();
+        if (linea != nullptr) lineas.push_back(linea);
+    }
+    return lineas;
+}
+
+// Tells it to the user, and to whoever started the program from a terminal.
+void Avisar(const QString &texto) {
+    std::fprintf(stderr, "tabira: %s\n", texto.toUtf8().constData());
+    for (QStatusBar *linea : LineasDeNota()) {
+        linea->show();
+        linea->showMessage(texto);
     }
 }
 
@@ -68,37 +80,44 @@ void PonerNotaDeImpresion(QDialog &dialogo) {
     dialogo.layout()->addWidget(nota);
 }
 
+bool ImprimirEnPapel(QPrinter &papel, const TrabajoImpreso &trabajo) {
+    papel.setDocName(QDe1252(trabajo.documento));
+    papel.setPageOrientation(QPageLayout::Portrait);
+    return PintarPaginas(papel, trabajo.paginas);
+}
+
 void EmpezarTrabajoQt(std::string_view titulo) {
+    for (QStatusBar *linea : LineasDeNota()) linea->clearMessage(); // what it tells is of the job before
     EmpezarTrabajoGrabado(titulo);
 }
 
 void TerminarTrabajoQt() {
     const TrabajoImpreso trabajo = TerminarTrabajoGrabado();
     if (trabajo.paginas.empty()) return;
-    if (!DocumentoElegido.empty()) {
-        DocumentoEscrito = EscribirPdf(DocumentoElegido, trabajo.titulo, trabajo.paginas);
+    if (Destino.documento != nullptr) {
+        Destino.escrito = EscribirPdf(*Destino.documento, trabajo.titulo, trabajo.paginas);
         return;
     }
     const QPrinterInfo impresora = QPrinterInfo::defaultPrinter();
     if (!impresora.isNull()) {
         QPrinter papel(impresora, QPrinter::HighResolution);
-        papel.setDocName(QDe1252(trabajo.documento));
-        papel.setPageOrientation(QPageLayout::Portrait);
-        if (PintarPaginas(papel, trabajo.paginas)) return;
+        if (ImprimirEnPapel(papel, trabajo)) return;
     }
     const QString ruta = DocumentoNuevo(trabajo.documento);
+    const QString donde = QDir::toNativeSeparators(ruta);
     if (EscribirPdf(ruta.toStdString(), trabajo.titulo, trabajo.paginas)) {
-        Avisar(QStringLiteral("Sin impresora: impreso en %1").arg(QDir::toNativeSeparators(ruta)));
+        const QString porque = impresora.isNull() ? QStringLiteral("Sin impresora")
+                                                  : QStringLiteral("La impresora no ha respondido");
+        Avisar(porque + QStringLiteral(": impreso en ") + donde);
     } else {
         QFile::remove(ruta); // the empty file that took the name
-        Avisar(QStringLiteral("No se ha podido imprimir en %1").arg(QDir::toNativeSeparators(ruta)));
+        Avisar(QStringLiteral("No se ha podido imprimir en ") + donde);
     }
 }
 
 bool ImprimirEnDocumento(const std::string &ruta, const std::function<bool()> &imprimir) {
-    DocumentoElegido = ruta;
-    DocumentoEscrito = false;
-    const bool bien = imprimir();
-    DocumentoElegido.clear();
-    return bien && DocumentoEscrito;
+    Destino = {&ruta, false};
+    const bool bien = imprimir() && Destino.escrito;
+    Destino = {};
+    return bien;
 }

@@ -7,9 +7,14 @@
 #include <string_view>
 
 class QDialog;
+class QPrinter;
+struct TrabajoImpreso;
 
 // Gives a window that prints a line at its foot, which tells where a document went; until then it takes no room.
 void PonerNotaDeImpresion(QDialog &dialogo);
+
+// The pages of a job on a printer, in portrait, under the name of its document. False when the printer refuses.
+bool ImprimirEnPapel(QPrinter &papel, const TrabajoImpreso &trabajo);
 
 // Operations of the platform around a job.
 void EmpezarTrabajoQt(std::string_view titulo);

@@ -51,7 +51,6 @@ void InstalarPlataformaQt() {
         .seleccionDeControl = SeleccionQt,
         .seleccionarEnControl = SeleccionarQt,
         .mostrarResultado = MostrarResultadoQt,
-        .mostrarGrafico = [](Ventana *, const Grafico &) {},
         .refrescarEditor = [] {},
         .empezarTrabajo = EmpezarTrabajoQt,
         .terminarTrabajo = TerminarTrabajoQt,

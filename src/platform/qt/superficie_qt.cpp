@@ -6,6 +6,7 @@
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetrics>
+#include <QGuiApplication>
 #include <QPen>
 
 namespace {
@@ -76,8 +77,13 @@ QFont FuenteFija(int anchoCaracter) {
 }
 
 QFont FuenteFijaDePantalla() {
+    const QFont letras = QGuiApplication::font();
     QFont f = Base();
-    f.setPointSizeF(QFontDatabase::systemFont(QFontDatabase::GeneralFont).pointSizeF());
+    if (letras.pointSizeF() > 0) {
+        f.setPointSizeF(letras.pointSizeF());
+    } else { // a desktop that sets its letters in pixels
+        f.setPixelSize(letras.pixelSize());
+    }
     return f;
 }
 

@@ -4,6 +4,7 @@
 #include "platform/plataforma.h"
 
 #include <QFontMetrics>
+#include <QKeyEvent>
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QWidget>
@@ -19,6 +20,14 @@ inline ControlTexto *AControl(QPlainTextEdit *e) {
 }
 inline QPlainTextEdit *DeControl(ControlTexto *c) {
     return reinterpret_cast<QPlainTextEdit *>(c);
+}
+
+// Alt with a letter is for menus and labels. One that none bears would be written by a text control, and would put that
+// letter in the place of what is selected. Together with Control it is the third level of some keyboards.
+inline bool EsLetraConAlt(const QKeyEvent &tecla) {
+    const QString texto = tecla.text();
+    return (tecla.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) == Qt::AltModifier &&
+           !texto.isEmpty() && texto.front().isPrint();
 }
 
 // Room in which the title of a window is read whole, beside the icon and the buttons that the desktop puts there.

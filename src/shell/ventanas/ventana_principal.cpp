@@ -12,20 +12,25 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPixmap>
 #include <QTimer>
 
 namespace {
 
-// The toolkit's control looks at the first format of what is pasted, and version 6.4 ends the program when the clipboard
-// has none: on a desktop where nothing was copied yet, or whose owner has gone.
+// Two things that the toolkit's control does otherwise. It writes the letter of Alt+letter. And it looks at the first
+// format of what is pasted: version 6.4 ends the program when the clipboard has none, on a desktop where nothing was copied
+// yet, or whose owner has gone.
 class ControlDeSentencias : public QPlainTextEdit {
 public:
     using QPlainTextEdit::QPlainTextEdit;
 
 protected:
+    void keyPressEvent(QKeyEvent *tecla) override {
+        if (!EsLetraConAlt(*tecla)) QPlainTextEdit::keyPressEvent(tecla);
+    }
     void insertFromMimeData(const QMimeData *datos) override {
         if (datos != nullptr && datos->hasText()) QPlainTextEdit::insertFromMimeData(datos);
     }
@@ -77,7 +82,6 @@ VentanaPrincipal::VentanaPrincipal()
     PantallaEdicion->setFrameShape(QFrame::NoFrame);
     // Tab goes on to the next control in dialogs; here it writes, as in any editor of statements.
     PantallaEdicion->setTabChangesFocus(false);
-    qApp->installEventFilter(this);
     setCentralWidget(PantallaEdicion);
     resize(640, 400);
     CrearMenus();
@@ -102,19 +106,6 @@ void VentanaPrincipal::closeEvent(QCloseEvent *suceso) {
     } else {
         suceso->ignore();
     }
-}
-
-// Alt with a letter is for menus and labels. One that none bears would be written by the text control, and would put that
-// letter in the place of the selected statements; the fields of dialogs do the same.
-bool VentanaPrincipal::eventFilter(QObject *objeto, QEvent *suceso) {
-    if (suceso->type() == QEvent::KeyPress &&
-        (objeto == PantallaEdicion || qobject_cast<QLineEdit *>(objeto) != nullptr)) {
-        const auto *tecla = static_cast<QKeyEvent *>(suceso);
-        const Qt::KeyboardModifiers alt = tecla->modifiers() & (Qt::AltModifier | Qt::ControlModifier);
-        const QString texto = tecla->text();
-        if (alt == Qt::AltModifier && !texto.isEmpty() && texto.front().isPrint()) return true;
-    }
-    return QMainWindow::eventFilter(objeto, suceso);
 }
 
 // No entry of the menu has a tip for the status line, and the toolkit would wipe out with it what stands there: where

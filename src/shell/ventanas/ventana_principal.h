@@ -18,7 +18,6 @@ public:
 protected:
     void closeEvent(QCloseEvent *suceso) override;
     bool event(QEvent *suceso) override;
-    bool eventFilter(QObject *objeto, QEvent *suceso) override;
     void paintEvent(QPaintEvent *suceso) override;
 
 private:

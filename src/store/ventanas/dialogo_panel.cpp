@@ -12,6 +12,8 @@
 #include "ui_panel_individuos.h"
 #include "ui_panel_periodos.h"
 
+#include <QLineEdit>
+
 #include <algorithm>
 #include <initializer_list>
 #include <memory>
