@@ -27,6 +27,7 @@ for ((i = 0; i < ${2:-5}; ++i)); do
     "$programa" 2>/dev/null &
     proceso=$!
     hasta_quieto "$t" >>"$temporal/inicio"
+    sleep 1
     activar
     teclas alt+d t alt+a Return; escribir 1990; teclas Tab; escribir 2005; teclas Return
     escribir 'SER T = TEND' 'SER Y = T + RND' 'MC Y 1 T'

@@ -151,7 +151,7 @@ void DialogoGuardarResultado(QWidget *padre, const SalidaResultado &salida) {
                                                 QRegularExpression::UseUnicodePropertiesOption);
     dialogo.selectFile(QDe1252(salida.titulo).remove(NoEnNombres));
     dialogo.resize(DentroDeLaPantalla(dialogo, dialogo.sizeHint()));
-    while (dialogo.exec() == QDialog::Accepted && !dialogo.selectedFiles().isEmpty()) {
+    while (Modal(dialogo) == QDialog::Accepted && !dialogo.selectedFiles().isEmpty()) {
         const auto elegido = std::max(filtros.indexOf(dialogo.selectedNameFilter()), qsizetype{0});
         const QString ruta = ConTerminacion(dialogo.selectedFiles().constFirst(), Formatos[elegido]);
         const std::string yaExiste =

@@ -150,6 +150,6 @@ void MostrarResultadoQt(Ventana *ventana, const SalidaResultado &salida) {
     area->setFocus();
     // A statement runs under the wait cursor; its result is looked at under the arrow.
     QApplication::setOverrideCursor(Qt::ArrowCursor);
-    dialogo.exec();
+    Modal(dialogo);
     QApplication::restoreOverrideCursor();
 }

@@ -78,7 +78,7 @@ Respuesta CajaQt(Ventana *ventana, std::string_view texto, std::string_view titu
     caja.setEscapeButton(puestos.back());
     // The wait cursor of a batch must not stand over a question.
     QApplication::setOverrideCursor(Qt::ArrowCursor);
-    caja.exec();
+    Modal(caja);
     QApplication::restoreOverrideCursor();
     int pulsado = deCaja.numero - 1;
     for (int i = 0; i < deCaja.numero; ++i)

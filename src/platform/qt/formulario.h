@@ -73,7 +73,7 @@ template <class Formulario> struct DialogoConFormulario {
         if (l.hasHeightForWidth())
             lado.setHeight(std::max(lado.height(), l.totalHeightForWidth(lado.width())));
         dialogo.resize(lado);
-        return dialogo.exec() == QDialog::Accepted;
+        return Modal(dialogo) == QDialog::Accepted;
     }
 
 private:

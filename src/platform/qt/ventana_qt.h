@@ -3,6 +3,7 @@
 
 #include "platform/plataforma.h"
 
+#include <QDialog>
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QPlainTextEdit>
@@ -42,4 +43,12 @@ inline int AnchoConTitulo(const QWidget &w) {
 inline QSize DentroDeLaPantalla(const QWidget &w, QSize lado) {
     constexpr int AltoDelTitulo = 40;
     return lado.boundedTo(w.screen()->availableSize() - QSize(0, AltoDelTitulo));
+}
+
+// Runs a modal window; its result. Its owner gets the keyboard back: when a window and the one below it close together,
+// some window managers give it to the second, which is about to go, and then to none.
+inline int Modal(QDialog &d) {
+    const int resultado = d.exec();
+    if (QWidget *duena = d.parentWidget(); duena != nullptr && duena->isVisible()) duena->activateWindow();
+    return resultado;
 }

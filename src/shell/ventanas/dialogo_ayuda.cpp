@@ -77,6 +77,4 @@ void MostrarUnaPagina(Ventana *ventana, const PaginaManual &pagina) {
 
 void DialogoAyuda(Ventana *ventana, int pagina) {
     PaginaAyuda(ventana, pagina, MostrarUnaPagina);
-    // When several pages close at once, a window manager may hand the keyboard to one that is just going.
-    if (QWidget *duena = DeVentana(ventana); duena != nullptr) duena->activateWindow();
 }
