@@ -10,9 +10,10 @@ preparar_compilacion
 instalar debootstrap
 compilar entrega
 raiz=$(mktemp -d)
+chmod 755 "$raiz"
 trap 'umount "$raiz/proc" 2>/dev/null || true; rm -rf "$raiz"' EXIT
 decir "Haciendo el paquete"
-cpack --config build/entrega/CPackConfig.cmake -B "$raiz.deb" >/dev/null
+cpack --config build/entrega/CPackConfig.cmake -B "$raiz.deb" >/dev/null 2>&1 || rendirse "cpack no pudo hacerlo"
 decir "Preparando un Debian limpio (${1:-bookworm})"
 debootstrap --variant=minbase "${1:-bookworm}" "$raiz" >/dev/null 2>&1 || rendirse "debootstrap no pudo prepararlo"
 mount -t proc proc "$raiz/proc"
