@@ -96,12 +96,17 @@ constexpr FormatoDeArchivo Formatos[] = {
     {"png", "Imagen PNG (*.png)", GuardarImagen},
 };
 
+// The format that the ending of a name tells, null for none of ours.
+const FormatoDeArchivo *FormatoDelNombre(const QString &ruta) {
+    const QString terminacion = QFileInfo(ruta).suffix().toLower();
+    for (const FormatoDeArchivo &f : Formatos)
+        if (terminacion == QLatin1String(f.terminacion)) return &f;
+    return nullptr;
+}
+
 // A name such as "klein 1.5" has no ending of ours: the format chosen gives it one.
 QString ConTerminacion(const QString &ruta, const FormatoDeArchivo &elegido) {
-    const QString suya = QFileInfo(ruta).suffix().toLower();
-    for (const FormatoDeArchivo &f : Formatos)
-        if (suya == QLatin1String(f.terminacion)) return ruta;
-    return ruta + u'.' + QLatin1String(elegido.terminacion);
+    return FormatoDelNombre(ruta) != nullptr ? ruta : ruta + u'.' + QLatin1String(elegido.terminacion);
 }
 
 } // namespace
@@ -133,10 +138,8 @@ std::string TablaDeResultado(const SalidaResultado &salida) {
 }
 
 bool GuardarResultado(const SalidaResultado &salida, const QString &ruta) {
-    const QString terminacion = QFileInfo(ruta).suffix().toLower();
-    for (const FormatoDeArchivo &f : Formatos)
-        if (terminacion == QLatin1String(f.terminacion)) return f.guardar(salida, ruta);
-    return GuardarTexto(salida, ruta);
+    const FormatoDeArchivo *formato = FormatoDelNombre(ruta);
+    return formato != nullptr ? formato->guardar(salida, ruta) : GuardarTexto(salida, ruta);
 }
 
 void DialogoGuardarResultado(QWidget *padre, const SalidaResultado &salida) {
