@@ -16,6 +16,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPixmap>
+#include <QStatusBar>
 #include <QTimer>
 
 namespace {
@@ -83,6 +84,7 @@ VentanaPrincipal::VentanaPrincipal()
     // Tab goes on to the next control in dialogs; here it writes, as in any editor of statements.
     PantallaEdicion->setTabChangesFocus(false);
     setCentralWidget(PantallaEdicion);
+    statusBar()->hide(); // it takes room from the first note on
     resize(640, 400);
     CrearMenus();
     PantallaEdicion->setFocus();
