@@ -1,8 +1,8 @@
 // ASCII export: the text of each field, and the records of both formats.
 #include "data/intercambio.h"
 
+#include "platform/campos_texto.h"
 #include "platform/numeros.h"
-#include "platform/strstr.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"

@@ -1,8 +1,8 @@
 // The table of the fixed format: its rows, the checks of the dialog, and the lines of its list.
 #include "data/intercambio.h"
 
+#include "platform/campos_texto.h"
 #include "platform/numeros.h"
-#include "platform/strstr.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"

@@ -1,8 +1,8 @@
 // ASCII import: records and fields of both formats, and where each goes. Everything here is met by any bytes at all.
 #include "data/intercambio.h"
 
+#include "platform/campos_texto.h"
 #include "platform/numeros.h"
-#include "platform/strstr.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"

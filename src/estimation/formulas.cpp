@@ -4,7 +4,7 @@
 #include "language/asignaciones.h"
 #include "language/lote_sentencias.h"
 #include "matrix/formula_matriz.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 

@@ -4,7 +4,7 @@
 #include "estimation/regresion.h"
 #include "estimation/tabla_informe.h"
 #include "language/lote_sentencias.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"

@@ -1,7 +1,7 @@
 // The report of a regression, as lines of text.
 #pragma once
 
-#include "charts/resultado.h"
+#include "charts/resultados/resultado.h"
 
 #include <string>
 #include <vector>

@@ -6,7 +6,7 @@
 // order of the chain, so that the results are the same to the last bit.
 #include "estimation/momentos.h"
 
-#include "platform/analib01.h"
+#include "platform/primitivas_matriz.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 

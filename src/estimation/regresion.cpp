@@ -5,7 +5,7 @@
 #include "estimation/informe.h"
 #include "estimation/pasos.h"
 #include "language/lote_sentencias.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 #include "store/temporales.h"

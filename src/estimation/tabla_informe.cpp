@@ -2,8 +2,8 @@
 #include "estimation/tabla_informe.h"
 
 #include "estimation/regresion.h"
+#include "platform/campos_texto.h"
 #include "platform/literal.h"
-#include "platform/strstr.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 #include "store/temporales.h"

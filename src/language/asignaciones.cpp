@@ -3,7 +3,7 @@
 
 #include "language/lote_sentencias.h"
 #include "matrix/formula_matriz.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 

@@ -2,7 +2,7 @@
 // runs; the two numbers are compared.
 #include "language/llamada_bloque.h"
 #include "language/lote_sentencias.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "store/archivo.h"
 
 #include <algorithm>

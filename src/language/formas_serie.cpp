@@ -1,7 +1,7 @@
 // The special forms of SER: from a matrix, recursive, and the dummy series of FICTIC.
 #include "language/asignaciones.h"
+#include "platform/campos_texto.h"
 #include "platform/numeros.h"
-#include "platform/strstr.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"

@@ -2,7 +2,7 @@
 #include "language/evaluador_interno.h"
 
 #include "matrix/probabilidad.h"
-#include "platform/analib05.h"
+#include "platform/aleatorios.h"
 #include "store/archivo.h"
 
 #include <cmath>

@@ -3,8 +3,8 @@
 #include "language/asignaciones.h"
 #include "language/bloques.h"
 #include "language/lote_sentencias.h"
+#include "platform/campos_texto.h"
 #include "platform/numeros.h"
-#include "platform/strstr.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 

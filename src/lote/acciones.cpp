@@ -1,14 +1,14 @@
 // The actions of tabira-lote. Each one calls the routine that the menu or the statement calls; it computes nothing.
 #include "lote/acciones.h"
 
-#include "charts/seleccion.h"
+#include "charts/resultados/seleccion.h"
 #include "language/lote_sentencias.h"
 #include "lote/corrida.h"
 #include "lote/impresora.h"
 #include "lote/sucesos.h"
 #include "lote/tipo.h"
 #include "platform/archivos.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "shell/listas.h"
 #include "shell/ultima_regresion.h"

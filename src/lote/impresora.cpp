@@ -1,7 +1,7 @@
 // The printer of a run.
 #include "lote/impresora.h"
 
-#include "charts/impresion.h"
+#include "charts/resultados/impresion.h"
 #include "lote/modulo_pdf.h"
 #include "lote/sucesos.h"
 

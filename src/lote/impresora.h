@@ -1,7 +1,7 @@
 // The printer of a run: its jobs become events, and their pages the documents that --imprimir names.
 #pragma once
 
-#include "charts/resultado.h"
+#include "charts/resultados/resultado.h"
 
 #include <string>
 

@@ -1,11 +1,11 @@
 // The events of a run.
 #include "lote/sucesos.h"
 
-#include "charts/ventana_resultado.h"
+#include "charts/resultados/ventana_resultado.h"
 #include "lote/corrida.h"
 #include "lote/impresora.h"
 #include "lote/json.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "platform/texto.h"
 
 #include <algorithm>

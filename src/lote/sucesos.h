@@ -1,7 +1,7 @@
 // The events of a run, printed on standard output: as JSON objects, or as text for people.
 #pragma once
 
-#include "charts/resultado.h"
+#include "charts/resultados/resultado.h"
 #include "platform/impresora_grabadora.h"
 #include "platform/plataforma.h"
 

@@ -3,7 +3,7 @@
 #include "lote/corrida.h"
 #include "lote/json.h"
 #include "lote/sucesos.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"

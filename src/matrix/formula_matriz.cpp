@@ -2,7 +2,7 @@
 #include "matrix/formula_matriz.h"
 
 #include "matrix/evaluador_matriz.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 

@@ -1,7 +1,7 @@
 // The reserved functions of matrices.
 #include "matrix/evaluador_matriz.h"
 
-#include "platform/analib01.h"
+#include "platform/primitivas_matriz.h"
 #include "store/periodos.h"
 
 #include <algorithm>

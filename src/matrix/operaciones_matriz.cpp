@@ -2,7 +2,7 @@
 #include "matrix/operaciones_matriz.h"
 
 #include "matrix/inversa.h"
-#include "platform/analib01.h"
+#include "platform/primitivas_matriz.h"
 #include "platform/texto.h"
 
 #include <algorithm>

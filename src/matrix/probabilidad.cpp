@@ -1,7 +1,7 @@
 // Tail probabilities.
 #include "matrix/probabilidad.h"
 
-#include "platform/analib01.h"
+#include "platform/distribuciones.h"
 
 #include <cmath>
 

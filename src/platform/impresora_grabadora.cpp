@@ -1,7 +1,7 @@
 // The printer that records.
 #include "platform/impresora_grabadora.h"
 
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 
 #include <algorithm>
 

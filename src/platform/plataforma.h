@@ -13,7 +13,7 @@
 
 struct Ventana;         // a window of the outside; the core only hands it on
 struct ControlTexto;    // a text control of the outside
-struct SalidaResultado; // a result window (charts/resultado.h)
+struct SalidaResultado; // a result window (charts/resultados/resultado.h)
 
 enum Icono { IconoInformacion, IconoPregunta, IconoExclamacion, IconoAlto };
 enum Botones { BotonesAceptar, BotonesAceptarCancelar, BotonesSiNo, BotonesSiNoCancelar };

@@ -1,9 +1,9 @@
 // The commands of the menu.
 #include "shell/comandos.h"
 
-#include "charts/listados.h"
+#include "charts/resultados/listados.h"
 #include "language/lote_sentencias.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "shell/ayuda.h"
 #include "store/archivo.h"
 #include "store/periodos.h"

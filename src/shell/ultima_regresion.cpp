@@ -2,7 +2,7 @@
 #include "shell/ultima_regresion.h"
 
 #include "estimation/regresion.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"

@@ -1,8 +1,8 @@
 // Start and reset of the work file.
 #include "store/archivo.h"
 
+#include "platform/campos_texto.h"
 #include "platform/numeros.h"
-#include "platform/strstr.h"
 #include "store/panel.h"
 #include "store/periodos.h"
 

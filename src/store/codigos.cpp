@@ -1,5 +1,5 @@
 // The names of series, matrices and scalars: which texts can be one, and the reserved words.
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 

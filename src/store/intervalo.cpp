@@ -1,8 +1,8 @@
 // First and last period of the work file, as numbers and as text.
 #include "store/intervalo.h"
 
+#include "platform/campos_texto.h"
 #include "platform/numeros.h"
-#include "platform/strstr.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 

@@ -1,5 +1,5 @@
 // The table of matrices and their blocks.
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "store/archivo.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 // The sample: from the limits that the user wrote, and from the data, to the rows that a command works on.
+#include "platform/campos_texto.h"
 #include "platform/numeros.h"
-#include "platform/strstr.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"

@@ -1,8 +1,8 @@
 // Editing of panel data.
 #include "store/panel.h"
 
+#include "platform/campos_texto.h"
 #include "platform/numeros.h"
-#include "platform/strstr.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 

@@ -1,7 +1,7 @@
 // The texts of the rows: what each observation of the work file is called, by its data type.
 #include "store/periodos.h"
 
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/intervalo.h"

@@ -1,5 +1,5 @@
 // The table of series: lookups, slots, deletion and compaction.
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "store/archivo.h"
 
 #include <cstring>

@@ -1,7 +1,7 @@
 // The choice of the data type: checks of its dialogs, and the reset that an acceptance brings.
 #include "store/tipos_datos.h"
 
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/panel.h"

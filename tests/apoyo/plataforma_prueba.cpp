@@ -2,7 +2,7 @@
 #include "apoyo/plataforma_prueba.h"
 
 #include "language/lote_sentencias.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"

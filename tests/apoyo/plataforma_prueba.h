@@ -2,7 +2,7 @@
 // script. Texts are kept in UTF-8, so that a test writes them as they are read.
 #pragma once
 
-#include "charts/resultado.h"
+#include "charts/resultados/resultado.h"
 #include "platform/impresora_grabadora.h"
 #include "platform/plataforma.h"
 

@@ -1,7 +1,7 @@
 // What the tests of the ASCII exchange share.
 #include "data/ascii_apoyo.h"
 
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"

@@ -1,6 +1,6 @@
 // The table of the fixed format: checks of its dialog, lines of its list; and import of fixed records.
 #include "data/ascii_apoyo.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"

@@ -1,9 +1,9 @@
 // The main window of the tests, and the script of modal windows.
 #include "apoyo_escritorio.h"
 
+#include "platform/campos_texto.h"
 #include "platform/qt/plataforma_qt.h"
 #include "platform/qt/ventana_qt.h"
-#include "platform/strstr.h"
 #include "shell/comandos.h"
 #include "store/archivo.h"
 #include "store/panel.h"

@@ -1,8 +1,8 @@
 // The main window from its first paint to its end.
 #include "apoyo_escritorio.h"
 
+#include "platform/campos_texto.h"
 #include "platform/qt/ventana_qt.h"
-#include "platform/strstr.h"
 #include "shell/comandos.h"
 #include "store/archivo.h"
 

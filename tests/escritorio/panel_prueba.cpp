@@ -1,7 +1,7 @@
 // The dialogs of panel data.
 #include "apoyo_escritorio.h"
 
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 

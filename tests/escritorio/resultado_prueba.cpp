@@ -3,7 +3,7 @@
 #include "apoyo_pdf.h"
 
 #include "apoyo/datos_csv.h"
-#include "charts/ventanas/guardar_resultado.h"
+#include "charts/resultados/ventanas/guardar_resultado.h"
 #include "platform/qt/plataforma_qt.h"
 #include "platform/qt/superficie_qt.h"
 #include "platform/texto.h"

@@ -1,7 +1,7 @@
 // The chooser of listings: two lists, the buttons between them, decimals, and what OK prints.
 #include "apoyo_escritorio.h"
 
-#include "charts/ventanas/dialogo_seleccion.h"
+#include "charts/resultados/ventanas/dialogo_seleccion.h"
 #include "language/lote_sentencias.h"
 #include "platform/qt/plataforma_qt.h"
 #include "platform/qt/ventana_qt.h"

@@ -1,7 +1,7 @@
 // The choice of the data type: the first dialog, the one of each type, their messages in order, and what a Cancel leaves.
 #include "apoyo_escritorio.h"
 
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "store/archivo.h"
 
 #include <QLineEdit>

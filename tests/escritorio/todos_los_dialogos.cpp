@@ -1,7 +1,7 @@
 // Every dialog of the program and how a user gets to it.
 #include "todos_los_dialogos.h"
 
-#include "charts/ventanas/dialogo_seleccion.h"
+#include "charts/resultados/ventanas/dialogo_seleccion.h"
 #include "platform/qt/cajas_qt.h"
 #include "platform/qt/ventana_qt.h"
 #include "platform/texto.h"

@@ -3,7 +3,7 @@
 
 #include "apoyo/datos_csv.h"
 #include "apoyo/datos_regresion.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "store/temporales.h"
 
 #include <Eigen/Dense>

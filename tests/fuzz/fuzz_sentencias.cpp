@@ -1,8 +1,8 @@
 // Any bytes as the text of the edit screen, processed whole over a small work file that starts anew each time.
-#include "charts/resultado.h"
+#include "charts/resultados/resultado.h"
 #include "estimation/regresion.h"
 #include "language/lote_sentencias.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 

@@ -1,7 +1,7 @@
 // The functions of series formulas, and the random numbers of a formula.
 #include "formulas.h"
 
-#include "platform/analib05.h"
+#include "platform/aleatorios.h"
 
 #include <cmath>
 

@@ -2,7 +2,7 @@
 #include "lote/tipo.h"
 
 #include "apoyo/plataforma_prueba.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "store/archivo.h"
 
 #include <gtest/gtest.h>

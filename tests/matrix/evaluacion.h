@@ -5,7 +5,7 @@
 #include "language/evaluador.h"
 #include "matrix/formula_matriz.h"
 #include "matrix/pilas_matriz.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 

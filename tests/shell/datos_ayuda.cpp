@@ -2,7 +2,7 @@
 #include "datos_ayuda.h"
 
 #include "apoyo/plataforma_prueba.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 

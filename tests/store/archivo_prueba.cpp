@@ -1,6 +1,6 @@
 // Start and reset of the work file: what resets what.
 #include "apoyo/plataforma_prueba.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "store/archivo.h"
 #include "store/panel.h"
 #include "store/periodos.h"

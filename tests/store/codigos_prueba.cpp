@@ -1,6 +1,6 @@
 // Which texts can name a series, a matrix or a scalar, and the check of the whole table of codes.
 #include "apoyo/plataforma_prueba.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 

@@ -1,6 +1,6 @@
 // The sample: automatic, from MUEST and from the dialog.
 #include "apoyo/plataforma_prueba.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"

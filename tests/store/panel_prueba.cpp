@@ -1,6 +1,6 @@
 // Editing of panel data: the private copy, its lists with their checks, and the acceptance.
 #include "apoyo/plataforma_prueba.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/panel.h"

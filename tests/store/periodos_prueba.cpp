@@ -1,6 +1,6 @@
 // The texts of the rows by data type, and the fixed columns of TextoIntervalo.
 #include "apoyo/plataforma_prueba.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/intervalo.h"

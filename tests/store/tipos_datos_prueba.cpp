@@ -1,6 +1,6 @@
 // The choice of the data type: every check of its dialogs in their order, and what an acceptance does.
 #include "apoyo/plataforma_prueba.h"
-#include "platform/strstr.h"
+#include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/panel.h"

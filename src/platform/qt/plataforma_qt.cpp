@@ -1,7 +1,7 @@
 // The desktop behind the seam.
 #include "platform/qt/plataforma_qt.h"
 
-#include "charts/ventanas/ventana_resultado_qt.h"
+#include "charts/resultados/ventanas/ventana_resultado_qt.h"
 #include "platform/impresora_grabadora.h"
 #include "platform/plataforma.h"
 #include "platform/qt/cajas_qt.h"

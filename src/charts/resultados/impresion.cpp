@@ -1,0 +1,136 @@
+// Print jobs.
+#include "charts/resultados/impresion.h"
+
+#include "charts/resultados/informe_impreso.h"
+#include "charts/resultados/listados.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+struct DocumentoImpresion {
+    DispositivoImpresion *dispositivo;
+    bool conDocumento, conPagina;
+};
+
+// The two documents that a job may hold open: its own with the first page, and that of the last page change.
+struct EstadoImpresion {
+    DocumentoImpresion propio, siguiente;
+};
+
+EstadoImpresion Impresion;
+
+struct FilaDeImpresion {
+    int clase;
+    RutinaDeImpresion rutina; // null: not built yet
+};
+
+constexpr FilaDeImpresion TablaImpresion[] = {
+    {ImprimirInforme, ImprimirTextoInforme},
+    {ImprimirMatrices, ListarMatrices},
+    {ImprimirSeries, ListarSeries},
+    {ImprimirGraficoAutocorrelacion, nullptr},
+    {ImprimirTablaAutocorrelacion, nullptr},
+    {ImprimirHistograma, nullptr},
+    {ImprimirHipotesis, nullptr},
+    {ImprimirGraficoSeries, nullptr},
+    {ImprimirCovarianza, nullptr},
+    {ImprimirValores, nullptr},
+    {ImprimirGraficoValores, nullptr},
+    {ImprimirGraficoResiduos, nullptr},
+    {ImprimirDescriptivos, nullptr},
+    {ImprimirVarianza, nullptr},
+    {ImprimirPrediccion, nullptr},
+    {ImprimirNormalidad, nullptr},
+    {ImprimirGraficoPrediccion, nullptr},
+    {ImprimirPantalla, ListarPantalla},
+};
+
+RutinaDeImpresion RutinaDe(int clase) {
+    const auto *fila = std::find_if(std::begin(TablaImpresion), std::end(TablaImpresion),
+                                    [clase](const FilaDeImpresion &f) { return f.clase == clase; });
+    return fila != std::end(TablaImpresion) ? fila->rutina : nullptr;
+}
+
+bool IniciarDocumento(DocumentoImpresion &d, const char *nombre) {
+    d.conDocumento = Plataforma().iniciarDocumento(d.dispositivo, nombre);
+    return d.conDocumento;
+}
+
+bool IniciarPagina(DocumentoImpresion &d) {
+    d.conPagina = Plataforma().iniciarPagina(d.dispositivo);
+    return d.conPagina;
+}
+
+// Ends what is open, from the page to the device. False when a step fails; the later ones are taken all the same.
+bool CerrarDocumento(DocumentoImpresion &d) {
+    if (d.dispositivo == nullptr) return true;
+    bool bien = true;
+    if (d.conPagina) bien = Plataforma().terminarPagina(d.dispositivo);
+    if (d.conDocumento) bien = Plataforma().terminarDocumento(d.dispositivo) && bien;
+    Plataforma().cerrarImpresora(d.dispositivo);
+    d = {};
+    return bien;
+}
+
+bool HacerTrabajo(Ventana *ventana, RutinaDeImpresion rutina) {
+    DocumentoImpresion &d = Impresion.propio;
+    d = {.dispositivo = AbrirImpresora(), .conDocumento = false, .conPagina = false};
+    if (d.dispositivo == nullptr) return false;
+    bool bien =
+        IniciarDocumento(d, "Imprime1: Imprimiendo") && IniciarPagina(d) && rutina(d.dispositivo, ventana);
+    bien = CerrarDocumento(d) && bien;
+    // No page change follows that would end the document of the last one.
+    return CerrarDocumento(Impresion.siguiente) && bien;
+}
+
+DispositivoImpresion *ErrorDePagina(Ventana *ventana, const char *texto) {
+    MostrarMensaje(ventana, texto, TituloAviso);
+    CerrarDocumento(Impresion.siguiente);
+    return nullptr;
+}
+
+} // namespace
+
+DispositivoImpresion *AbrirImpresora() {
+    return Plataforma().abrirImpresora();
+}
+
+int ImprimirSalida(Ventana *ventana, std::string_view titulo, int clase) {
+    const RutinaDeImpresion rutina = RutinaDe(clase);
+    if (rutina == nullptr) return 1;
+    PonerCursor(CursorEspera);
+    Plataforma().empezarTrabajo(titulo);
+    const bool bien = HacerTrabajo(ventana, rutina);
+    Plataforma().terminarTrabajo();
+    PonerCursor(CursorFlecha);
+    return bien ? 0 : 1;
+}
+
+int ImprimirResultado(Ventana *ventana, int contenido, const SalidaResultado &salida) {
+    static constexpr int ClaseDeContenido[] = {ImprimirInforme, ImprimirCovarianza, ImprimirValores,
+                                               ImprimirVarianza};
+    const bool propio = contenido >= 0 && contenido < static_cast<int>(std::size(ClaseDeContenido));
+    Informe.salida = &salida;
+    const int r = ImprimirSalida(ventana, salida.titulo, propio ? ClaseDeContenido[contenido] : contenido);
+    Informe.salida = nullptr;
+    return r;
+}
+
+DispositivoImpresion *NuevaPaginaImpresion(Ventana *ventana, int primera) {
+    DocumentoImpresion &d = Impresion.siguiente;
+    if (primera == 0) CerrarDocumento(d);
+    d = {.dispositivo = AbrirImpresora(), .conDocumento = false, .conPagina = false};
+    if (d.dispositivo == nullptr) return ErrorDePagina(ventana, "Error imprimiedo. 1");
+    if (!IniciarDocumento(d, "Imprime: Imprimiendo")) return ErrorDePagina(ventana, "Error imprimiedo. 3");
+    if (!IniciarPagina(d)) return ErrorDePagina(ventana, "Error imprimiedo. 2");
+    return d.dispositivo;
+}
+
+bool TerminarPaginaImpresion(DispositivoImpresion *dispositivo) {
+    DocumentoImpresion &d =
+        dispositivo == Impresion.propio.dispositivo ? Impresion.propio : Impresion.siguiente;
+    d.conPagina = false;
+    return Plataforma().terminarPagina(dispositivo);
+}

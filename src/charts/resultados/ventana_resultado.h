@@ -1,0 +1,61 @@
+// The result window without the window: what stands on its surface, and how it scrolls.
+#pragma once
+
+#include "charts/resultados/resultado.h"
+#include "platform/superficie.h"
+
+#include <array>
+#include <cstddef>
+
+inline constexpr int AnchoBloqueSalida = 70; // characters of a line that are shown
+inline constexpr int ColumnasVentanaResultado =
+    77; // width of the client area when the window opens, in characters
+inline constexpr int TopeBarraResultado = 4000; // the vertical bar runs from 0 to here
+
+// The characters of a row of the coefficient table with which a field begins, and which its numbers leave blank.
+inline constexpr std::array<std::size_t, 4> BlancosEntreColumnas = {15, 30, 45, 54};
+
+// State of an open result window.
+struct EstadoVentanaResultado {
+    int Clase;        // kind of result: code of the statement
+    int Contenido;    // 0 the report, 1 covariance matrix, 2 values and residuals, 3 analysis of variance
+    int LineaInicial; // first line shown, 0 to the last line
+    int Fila;         // rows used in this paint: lines and rules
+    int anchoCaracter, altoLinea; // of the device of the last paint
+};
+
+// True when a rule is drawn behind the line (from 0): the next one is of another kind. Of a regression block (statement
+// codes 8, 11 and 13) the last three lines have none. Behind the last line there is none: there the block closes.
+bool ReglaDetras(const SalidaResultado &salida, int linea);
+
+// Where a block of lines stands on a surface, in device units.
+struct BloqueTexto {
+    int izquierda, derecha; // side rules
+    int superior;           // rule at the top
+    int limite;             // no line begins below this
+};
+
+// The two side rules of a block of 70 characters on a surface of this width.
+BloqueTexto BloqueCentrado(const Superficie &s, int superior, int limite);
+
+// Draws the fixed lines, then the others from `desde` on as far as they fit, with the rules between kinds, those around
+// the block, and the thin vertical rules of the coefficient tables. Lines are cut at 70 characters. `filas` receives
+// the rows used. Returns the number of the line behind the last one drawn.
+int PintarBloque(Superficie &s, const BloqueTexto &bloque, const SalidaResultado &salida, int desde,
+                 int &filas);
+
+// Paints the whole window; `estado` gives the first line and receives Fila and the metrics.
+void PintarResultado(Superficie &s, EstadoVentanaResultado &estado, const SalidaResultado &salida);
+
+// What the bar asks for. Line up and down is one line, page up and down five, DesplazarA goes to `posicion`.
+enum Desplazamientos { LineaArriba, LineaAbajo, PaginaArriba, PaginaAbajo, DesplazarA };
+
+// Moves the first line, held between 0 and the last line of the text, and takes Fila back to 0. The window is then to
+// be painted anew.
+void DesplazarResultado(EstadoVentanaResultado &estado, const SalidaResultado &salida, Desplazamientos que,
+                        int posicion = 0);
+
+// The same from the keyboard and from the wheel: a notch, positive towards the user, is three lines.
+enum TeclasResultado { TeclaArriba, TeclaAbajo, TeclaPaginaArriba, TeclaPaginaAbajo, TeclaInicio, TeclaFin };
+void DesplazarConTecla(EstadoVentanaResultado &estado, const SalidaResultado &salida, TeclasResultado tecla);
+void DesplazarConRueda(EstadoVentanaResultado &estado, const SalidaResultado &salida, int muescas);

@@ -1,0 +1,57 @@
+// The chooser of listings as a dialog: it shows the two lists of charts/resultados/seleccion.h and carries its buttons
+// there.
+#include "charts/resultados/ventanas/dialogo_seleccion.h"
+
+#include "language/lote_sentencias.h"
+#include "platform/qt/formulario.h"
+#include "platform/qt/impresora_qt.h"
+#include "platform/qt/texto_qt.h"
+#include "shell/ventanas/dialogos.h"
+
+#include "ui_seleccion.h"
+
+#include <algorithm>
+
+namespace {
+
+void Mostrar(QListWidget &lista, const std::vector<std::string> &codigos) {
+    lista.clear();
+    for (const std::string &codigo : codigos) lista.addItem(QDe1252(codigo));
+}
+
+} // namespace
+
+void DialogoSeleccion(Ventana *ventana, ModosSeleccion modo) {
+    DialogoConFormulario<Ui::Seleccion> d(ventana);
+    const TextosSeleccion &textos = TextosDe(modo);
+    d.dialogo.setWindowTitle(QDe1252(textos.titulo));
+    d.ui.textoDisponibles->setText(QDe1252(textos.disponibles));
+    d.ui.textoElegidas->setText(QDe1252(textos.elegidas));
+    d.ui.disponibles->setAccessibleName(QDe1252(textos.disponibles));
+    d.ui.elegidas->setAccessibleName(QDe1252(textos.elegidas));
+
+    EstadoSeleccion estado = IniciarSeleccion(modo);
+    Mostrar(*d.ui.disponibles, estado.disponibles);
+    // An entry goes over, and the next one takes its place under the choice: so Enter or clicks in a row move many.
+    const auto mover = [&](QListWidget &de, bool (*rutina)(EstadoSeleccion &, int, Ventana *)) {
+        const int elegida = FilaElegida(de);
+        if (!rutina(estado, elegida, d.ventana())) return;
+        Mostrar(*d.ui.disponibles, estado.disponibles);
+        Mostrar(*d.ui.elegidas, estado.elegidas);
+        de.setCurrentRow(std::min(elegida, de.count() - 1));
+    };
+    const auto anadir = [&] { mover(*d.ui.disponibles, AnadirASeleccion); };
+    const auto eliminar = [&] { mover(*d.ui.elegidas, EliminarDeSeleccion); };
+    QObject::connect(d.ui.Anadir, &QPushButton::clicked, &d.dialogo, anadir);
+    QObject::connect(d.ui.Eliminar, &QPushButton::clicked, &d.dialogo, eliminar);
+    QObject::connect(d.ui.disponibles, &QListWidget::itemDoubleClicked, &d.dialogo, anadir);
+    QObject::connect(d.ui.elegidas, &QListWidget::itemDoubleClicked, &d.dialogo, eliminar);
+    QObject::connect(d.ui.Decimales, &QPushButton::clicked, &d.dialogo,
+                     [&] { DialogoDecimales(Lote.DecimalesSalida, d.ventana()); });
+    d.AlAceptar([&] {
+        ImprimirElegidas(estado, d.ventana());
+        return false; // more can be printed
+    });
+    PonerNotaDeImpresion(d.dialogo);
+    d.Ejecutar();
+}

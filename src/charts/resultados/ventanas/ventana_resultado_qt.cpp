@@ -1,0 +1,155 @@
+// The result window of the desktop: a surface that the core paints, its bar, keys and wheel, and ways to get the result
+// out: printer, clipboard, files.
+#include "charts/resultados/ventanas/ventana_resultado_qt.h"
+
+#include "charts/resultados/impresion.h"
+#include "charts/resultados/ventana_resultado.h"
+#include "charts/resultados/ventanas/guardar_resultado.h"
+#include "platform/qt/impresora_qt.h"
+#include "platform/qt/superficie_qt.h"
+#include "platform/qt/texto_qt.h"
+#include "platform/qt/ventana_qt.h"
+
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDialog>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPainter>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+namespace {
+
+constexpr int FilasDeLaVentana = 30; // lines that the window shows when it opens, where the screen has them
+
+class AreaResultado : public QAbstractScrollArea {
+public:
+    AreaResultado(QWidget *padre, const SalidaResultado &resultado)
+        : QAbstractScrollArea(padre), salida(resultado), fuente(FuenteFijaDePantalla()) {
+        estado.Clase = salida.Clase;
+        estado.Contenido = salida.Contenido;
+        setObjectName(QStringLiteral("areaResultado"));
+        setFocusPolicy(Qt::StrongFocus);
+        setAccessibleName(QDe1252(salida.titulo));
+        setFrameShape(QFrame::NoFrame);
+        verticalScrollBar()->setRange(0, TopeBarraResultado);
+        verticalScrollBar()->setSingleStep(1);
+        verticalScrollBar()->setPageStep(5);
+        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+        connect(verticalScrollBar(), &QScrollBar::valueChanged, this,
+                [this](int valor) { Mover([&] { DesplazarResultado(estado, salida, DesplazarA, valor); }); });
+    }
+
+    QSize TamanoInicial() const {
+        const QFontMetrics m(fuente);
+        return {m.horizontalAdvance(u'0') * ColumnasVentanaResultado +
+                    verticalScrollBar()->sizeHint().width(),
+                m.lineSpacing() * FilasDeLaVentana};
+    }
+
+    EstadoVentanaResultado estado{};
+
+protected:
+    void paintEvent(QPaintEvent *) override {
+        QPainter pintor(viewport());
+        PintorSuperficie propio;
+        Superficie s = SuperficieDePintor(propio, pintor, fuente, viewport()->width(), viewport()->height());
+        // The background of a dark desktop is not the paper's: the result is drawn in black on white.
+        pintor.fillRect(viewport()->rect(), Qt::white);
+        PintarResultado(s, estado, salida);
+    }
+
+    void keyPressEvent(QKeyEvent *suceso) override {
+        static constexpr struct {
+            int tecla;
+            TeclasResultado que;
+        } Teclas[] = {{Qt::Key_Up, TeclaArriba},           {Qt::Key_Down, TeclaAbajo},
+                      {Qt::Key_PageUp, TeclaPaginaArriba}, {Qt::Key_PageDown, TeclaPaginaAbajo},
+                      {Qt::Key_Home, TeclaInicio},         {Qt::Key_End, TeclaFin}};
+        for (const auto &t : Teclas) {
+            if (t.tecla != suceso->key()) continue;
+            Mover([&] { DesplazarConTecla(estado, salida, t.que); });
+            return;
+        }
+        if (suceso->matches(QKeySequence::Copy)) {
+            QApplication::clipboard()->setText(QDe1252(TextoDeResultado(salida)));
+            return;
+        }
+        // The toolkit knows the key of the context menu, which many keyboards lack, but not its usual stand-in.
+        if (suceso->key() == Qt::Key_F10 && suceso->modifiers() == Qt::ShiftModifier) {
+            const QPoint centro = rect().center();
+            QContextMenuEvent menu(QContextMenuEvent::Keyboard, centro, mapToGlobal(centro));
+            contextMenuEvent(&menu);
+            return;
+        }
+        QAbstractScrollArea::keyPressEvent(suceso);
+    }
+
+    void wheelEvent(QWheelEvent *suceso) override {
+        resto += suceso->angleDelta().y();
+        const int muescas = resto / 120;
+        resto -= muescas * 120;
+        if (muescas != 0) Mover([&] { DesplazarConRueda(estado, salida, -muescas); });
+    }
+
+    void contextMenuEvent(QContextMenuEvent *suceso) override {
+        QMenu menu(this);
+        menu.setObjectName(QStringLiteral("menuContexto"));
+        menu.addAction(QStringLiteral("&Copiar"), this,
+                       [this] { QApplication::clipboard()->setText(QDe1252(TextoDeResultado(salida))); });
+        menu.addAction(QStringLiteral("Copiar como &tabla"), this,
+                       [this] { QApplication::clipboard()->setText(QDe1252(TablaDeResultado(salida))); });
+        menu.addAction(QStringLiteral("&Guardar como..."), this,
+                       [this] { DialogoGuardarResultado(this, salida); });
+        menu.exec(suceso->globalPos());
+    }
+
+private:
+    // Moves the first line, and the bar to where it really stands now.
+    template <class Movimiento> void Mover(Movimiento mover) {
+        mover();
+        const QSignalBlocker callada(verticalScrollBar());
+        verticalScrollBar()->setValue(estado.LineaInicial);
+        viewport()->update();
+    }
+
+    const SalidaResultado &salida;
+    QFont fuente;
+    int resto = 0; // of the wheel, below a notch
+};
+
+} // namespace
+
+void MostrarResultadoQt(Ventana *ventana, const SalidaResultado &salida) {
+    QDialog dialogo(DeVentana(ventana));
+    dialogo.setObjectName(QStringLiteral("ventanaResultado"));
+    dialogo.setWindowTitle(QDe1252(salida.titulo));
+    dialogo.setWindowFlag(Qt::WindowMaximizeButtonHint);
+    auto *disposicion = new QVBoxLayout(&dialogo);
+    disposicion->setContentsMargins(0, 0, 0, 0);
+    auto *area = new AreaResultado(&dialogo, salida);
+    auto *barra = new QMenuBar(&dialogo);
+    barra->setObjectName(QStringLiteral("menuResultado"));
+    QAction *imprimir = barra->addAction(QStringLiteral("&Imprimir"));
+    imprimir->setObjectName(QStringLiteral("comando2006"));
+    QAction *salir = barra->addAction(QStringLiteral("&Salir"));
+    salir->setObjectName(QStringLiteral("comando2021"));
+    QObject::connect(imprimir, &QAction::triggered, &dialogo,
+                     [&] { ImprimirResultado(AVentana(&dialogo), salida.Contenido, salida); });
+    QObject::connect(salir, &QAction::triggered, &dialogo, &QDialog::accept);
+    disposicion->setMenuBar(barra);
+    disposicion->addWidget(area);
+    PonerNotaDeImpresion(dialogo);
+    dialogo.resize(DentroDeLaPantalla(dialogo, area->TamanoInicial() + QSize(0, barra->sizeHint().height())));
+    area->setFocus();
+    // A statement runs under the wait cursor; its result is looked at under the arrow.
+    QApplication::setOverrideCursor(Qt::ArrowCursor);
+    Modal(dialogo);
+    QApplication::restoreOverrideCursor();
+}

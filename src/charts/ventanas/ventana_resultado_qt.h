@@ -1,7 +1,0 @@
-// The result window of the desktop.
-#pragma once
-
-#include "charts/resultado.h"
-
-// Opens the window, modal, and returns when it is closed.
-void MostrarResultadoQt(Ventana *ventana, const SalidaResultado &salida);

@@ -1,0 +1,253 @@
+// Print jobs: their steps, what happens when one fails, and the text of a report on paper.
+#include "apoyo/plataforma_prueba.h"
+#include "charts/resultados/dibujo.h"
+#include "charts/resultados/impresion.h"
+#include "charts/resultados/listados.h"
+#include "charts/resultados/ventana_resultado.h"
+#include "estimation/regresion.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Pasos = std::vector<std::string>;
+
+constexpr int C = AnchoCaracterPagina, H = AltoLineaPagina;
+
+// "Texto" on the main screen's listing: the simplest job there is, with one page change at its end.
+int ImprimirUnaLinea() {
+    Listados.texto = "Texto";
+    return ImprimirSalida(nullptr, "Listado Pantalla principal", ImprimirPantalla);
+}
+
+TEST(Impresion, PasosDeUnTrabajo) {
+    EmpezarPrueba();
+    EXPECT_EQ(ImprimirUnaLinea(), 0);
+    EXPECT_EQ(Prueba.pasosImpresora,
+              (Pasos{"abrir", "documento Imprime1: Imprimiendo", "pagina", "abrir",
+                     "documento Imprime: Imprimiendo", "pagina", "fin pagina", "fin documento", "cerrar",
+                     "fin pagina", "fin documento", "cerrar"}));
+    EXPECT_TRUE(Prueba.cajas.empty());
+    EXPECT_EQ(Prueba.cursor, CursorFlecha);
+    ASSERT_EQ(Prueba.trabajos.size(), 1u);
+    EXPECT_EQ(Prueba.trabajos[0].titulo, "Listado Pantalla principal");
+    EXPECT_EQ(Prueba.trabajos[0].documento, "Imprime1: Imprimiendo");
+    EXPECT_EQ(Prueba.trabajos[0].paginas.size(), 1u) << "the page that nothing uses makes no blank sheet";
+}
+
+struct CasoDeFallo {
+    PasosDeImpresora paso;
+    int vez;
+    Pasos cajas; // texts
+    Pasos pasos; // all that was asked of the printer
+    std::size_t paginas;
+};
+
+TEST(Impresion, FallosEnCadaPaso) {
+    const std::string uno = "documento Imprime1: Imprimiendo", otro = "documento Imprime: Imprimiendo";
+    const CasoDeFallo Casos[] = {
+        // The job's own document: nobody is told.
+        {PasoAbrir, 1, {}, {"abrir"}, 0},
+        {PasoDocumento, 1, {}, {"abrir", uno, "cerrar"}, 0},
+        {PasoPagina, 1, {}, {"abrir", uno, "pagina", "fin documento", "cerrar"}, 0},
+        {PasoFinPagina,
+         1,
+         {},
+         {"abrir", uno, "pagina", "abrir", otro, "pagina", "fin pagina", "fin documento", "cerrar",
+          "fin pagina", "fin documento", "cerrar"},
+         1},
+        {PasoFinDocumento,
+         1,
+         {},
+         {"abrir", uno, "pagina", "abrir", otro, "pagina", "fin pagina", "fin documento", "cerrar",
+          "fin pagina", "fin documento", "cerrar"},
+         1},
+        // The page change.
+        {PasoAbrir,
+         2,
+         {"Error imprimiedo. 1"},
+         {"abrir", uno, "pagina", "abrir", "fin pagina", "fin documento", "cerrar"},
+         1},
+        {PasoDocumento,
+         2,
+         {"Error imprimiedo. 3"},
+         {"abrir", uno, "pagina", "abrir", otro, "cerrar", "fin pagina", "fin documento", "cerrar"},
+         1},
+        {PasoPagina,
+         2,
+         {"Error imprimiedo. 2"},
+         {"abrir", uno, "pagina", "abrir", otro, "pagina", "fin documento", "cerrar", "fin pagina",
+          "fin documento", "cerrar"},
+         1},
+    };
+    for (const CasoDeFallo &caso : Casos) {
+        SCOPED_TRACE(std::to_string(caso.paso) + " " + std::to_string(caso.vez));
+        EmpezarPrueba();
+        Prueba.fallaPaso[caso.paso] = caso.vez;
+        EXPECT_EQ(ImprimirUnaLinea(), 1);
+        EXPECT_EQ(TextosDeCajas(), caso.cajas);
+        for (const CajaVista &c : Prueba.cajas) {
+            EXPECT_EQ(c.titulo, "Aviso");
+            EXPECT_EQ(c.icono, IconoInformacion);
+        }
+        EXPECT_EQ(Prueba.pasosImpresora, caso.pasos);
+        EXPECT_EQ(Prueba.cursor, CursorFlecha);
+        ASSERT_EQ(Prueba.trabajos.size(), 1u);
+        EXPECT_EQ(Prueba.trabajos[0].paginas.size(), caso.paginas) << "what was drawn before is kept";
+    }
+}
+
+TEST(Impresion, ClasesSinRutina) {
+    const int Clases[] = {4, 6, 8, 9, 11, 12, 13, 14, 15, 18, 19, 20, 21, 22, 1, 5, 24, -1, 1000};
+    for (const int clase : Clases) {
+        SCOPED_TRACE(clase);
+        EmpezarPrueba();
+        EXPECT_EQ(ImprimirSalida(nullptr, "Nada", clase), 1);
+        EXPECT_TRUE(Prueba.pasosImpresora.empty());
+        EXPECT_TRUE(Prueba.cajas.empty());
+    }
+    // The text of a report is printed from its window only.
+    EmpezarPrueba();
+    EXPECT_EQ(ImprimirSalida(nullptr, "Nada", ImprimirInforme), 1);
+}
+
+struct CasoTitulo {
+    int clase, covarianza;
+    const char *ventana; // title of the window
+    std::vector<std::string> impreso;
+};
+
+TEST(Impresion, TitulosDelInforme) {
+    const char *ordinarios = "Método: Mínimos cuadrados ordinarios";
+    const CasoTitulo Casos[] = {
+        {8, CovarianzaNormal, "Mínimos cuadrados ordinarios", {ordinarios}},
+        {8,
+         CovarianzaHeterocedasticidad,
+         "Mínimos C.: Matriz de covarianzas consistente bajo heterocedasticidad",
+         {ordinarios, "Matriz de covarianzas consistente bajo heterocedasticidad"}},
+        // Only the window's title names this covariance.
+        {8,
+         CovarianzaAutocorrelacion,
+         "Mínimos C.: Matriz de covarianzas consistente bajo autocorrelacion (3 r.)",
+         {ordinarios}},
+        {13, CovarianzaNormal, "Mínimos cuadrados ponderados", {"Método: Mínimos cuadrados ponderados"}},
+        {13,
+         CovarianzaHeterocedasticidad,
+         "Mínimos cuadrados ponderados",
+         {"Método: Mínimos cuadrados ponderados"}},
+        {9,
+         CovarianzaHeterocedasticidad,
+         "Contrastes de significatividad: Modelo restringido",
+         {"Contrastes de significatividad: Modelo restringido"}},
+        {101,
+         CovarianzaNormal,
+         "Contrastes de autocorrelación: Wallis",
+         {"Contrastes de autocorrelación: Wallis"}},
+    };
+    for (const CasoTitulo &caso : Casos) {
+        SCOPED_TRACE(caso.ventana + std::to_string(caso.clase));
+        EmpezarPrueba();
+        UltimaRegresion.TipoCovarianza = caso.covarianza;
+        const TextoSalida lineas = LineasDeGrupos({0});
+        const std::string titulo = Texto1252DeUtf8(caso.ventana);
+        SalidaResultado salida = SalidaDePrueba(caso.clase, lineas);
+        salida.titulo = titulo;
+        EXPECT_EQ(ImprimirResultado(nullptr, 0, salida), 0);
+        ASSERT_EQ(Prueba.trabajos.size(), 1u);
+        EXPECT_EQ(Prueba.trabajos[0].titulo, caso.ventana);
+        EXPECT_EQ(Prueba.trabajos[0].documento, "Imprime1: Imprimiendo");
+        std::vector<std::string> esperadas = caso.impreso;
+        esperadas.emplace_back("linea 0");
+        ASSERT_EQ(Prueba.trabajos[0].paginas, (std::vector<std::vector<std::string>>{esperadas}));
+        for (const Letrero &l : Letreros(Prueba.trabajos[0].dibujo[0].ordenes)) {
+            const int largo = static_cast<int>(Texto1252DeUtf8(l.texto).size());
+            if (l.texto == "linea 0") continue;
+            EXPECT_LE(std::abs(2 * l.x + largo * C - AnchoPagina), 1) << "centred on the page: " << l.texto;
+        }
+    }
+}
+
+// The same rules as in the window, the left-out ones and the thin ones of the table among them.
+TEST(Impresion, ReglasDelInforme) {
+    EmpezarPrueba();
+    const TextoSalida lineas = LineasDeGrupos({0, 2, 1, 1, 0, 1, 0});
+    const std::vector<TablaCoeficientes> tablas = {{1, 2, 3}};
+    EXPECT_EQ(ImprimirResultado(nullptr, 0, SalidaDePrueba(8, lineas, &tablas)), 0);
+    const auto &ordenes = Prueba.trabajos.at(0).dibujo.at(0).ordenes;
+    const auto textos = Letreros(ordenes);
+    ASSERT_EQ(textos.size(), 8u);
+    const int izquierda = (AnchoPagina - 69 * C) / 2, derecha = izquierda + 70 * C;
+    EXPECT_EQ(textos[1].x, izquierda + C);
+    const auto reglas = Trazos(ordenes, true, 3);
+    ASSERT_EQ(reglas.size(), 5u) << "top, behind lines 0, 1 and 3, bottom; none in the last three lines";
+    std::vector<int> filas; // of the rules, in half lines below the first line of the block
+    for (const Trazo &t : reglas) {
+        EXPECT_EQ(t.x1, izquierda);
+        EXPECT_EQ(t.x2, derecha);
+        filas.push_back((t.y1 - textos[1].y) * 2 / H);
+    }
+    EXPECT_EQ(filas, (std::vector<int>{-1, 3, 7, 13, 21}));
+    const auto finas = Trazos(ordenes, false, 1);
+    ASSERT_EQ(finas.size(), 4u);
+    for (const Trazo &t : finas) {
+        EXPECT_EQ(t.y1, reglas[2].y1);
+        EXPECT_EQ(t.y2, reglas[3].y1);
+    }
+    EXPECT_EQ(finas[0].x1, textos[1].x + 15 * C + C / 2);
+}
+
+TEST(Impresion, InformeDeVariasPaginas) {
+    EmpezarPrueba();
+    const TextoSalida lineas = LineasDeGrupos(std::vector<int>(120, 0));
+    EXPECT_EQ(ImprimirResultado(nullptr, 0, SalidaDePrueba(9, lineas)), 0);
+    ASSERT_EQ(Prueba.trabajos.size(), 1u);
+    const auto &paginas = Prueba.trabajos[0].paginas;
+    ASSERT_EQ(paginas.size(), 3u);
+    std::vector<std::string> todas;
+    for (const auto &p : paginas) {
+        EXPECT_EQ(p.at(0), "Prueba") << "the title stands on every page";
+        todas.insert(todas.end(), p.begin() + 1, p.end());
+    }
+    ASSERT_EQ(todas.size(), 120u);
+    for (std::size_t i = 0; i < todas.size(); ++i) EXPECT_EQ(todas[i], "linea " + std::to_string(i));
+    EXPECT_EQ(Prueba.pasosImpresora,
+              (Pasos{"abrir", "documento Imprime1: Imprimiendo", "pagina", "fin pagina", "abrir",
+                     "documento Imprime: Imprimiendo", "pagina", "fin pagina", "fin documento", "cerrar",
+                     "abrir", "documento Imprime: Imprimiendo", "pagina", "fin documento", "cerrar",
+                     "fin pagina", "fin documento", "cerrar"}));
+}
+
+TEST(Impresion, InformeConImpresoraQueFallaAMedias) {
+    EmpezarPrueba();
+    Prueba.fallaPaso[PasoDocumento] = 2;
+    const TextoSalida lineas = LineasDeGrupos(std::vector<int>(120, 0));
+    EXPECT_EQ(ImprimirResultado(nullptr, 0, SalidaDePrueba(9, lineas)), 1);
+    EXPECT_EQ(TextosDeCajas(), Pasos{"Error imprimiedo. 3"});
+    ASSERT_EQ(Prueba.trabajos.at(0).paginas.size(), 1u) << "the first page is printed";
+}
+
+TEST(Impresion, ContenidosDeLaVentana) {
+    const TextoSalida lineas = LineasDeGrupos({0});
+    // 1, 2 and 3 are listings without a routine so far; what is no content is read as a class: 23 prints the screen.
+    for (const int contenido : {1, 2, 3, 9, 99, -1}) {
+        EmpezarPrueba();
+        EXPECT_EQ(ImprimirResultado(nullptr, contenido, SalidaDePrueba(8, lineas)), 1) << contenido;
+        EXPECT_TRUE(Prueba.trabajos.empty());
+    }
+    EmpezarPrueba();
+    Listados.texto = "Texto";
+    EXPECT_EQ(ImprimirResultado(nullptr, ImprimirPantalla, SalidaDePrueba(8, lineas)), 0);
+    EXPECT_EQ(Prueba.trabajos.at(0).paginas.at(0).back(), "Texto");
+}
+
+TEST(Impresion, LineasDeUnaPaginaPorAltura) {
+    PaginaImpresa pagina;
+    Superficie s = SuperficieGrabadora(pagina.ordenes, AnchoPagina, AltoPagina, C, H);
+    Texto(s, 10 * C, 2 * H, "derecha  ");
+    Texto(s, 5 * C, 4 * H, "abajo");
+    Texto(s, 0, 2 * H, "izq");
+    Texto(s, 0, 0, "");
+    EXPECT_EQ(LineasDePagina(pagina), (Pasos{"", "izq       derecha", "abajo"}));
+}
+
+} // namespace
