@@ -169,8 +169,8 @@ void FormulasEnLasFilas(benchmark::State &estado) {
 void AlmacenDeVuelta(benchmark::State &estado) {
     PrepararBucle();
     AbrirPilaColumnas();
-    std::snprintf(Destinos.escalar, sizeof Destinos.escalar, "%-12s", "A");
-    std::snprintf(Destinos.serie, sizeof Destinos.serie, "%-12s", "Z");
+    std::snprintf(Evaluador.CodigoEscalarDestino, sizeof Evaluador.CodigoEscalarDestino, "%-12s", "A");
+    std::snprintf(Evaluador.CodigoSerieDestino, sizeof Evaluador.CodigoSerieDestino, "%-12s", "Z");
     LineasSentencia lineas;
     lineas[0] = "X1";
     LimpiarEvaluador();

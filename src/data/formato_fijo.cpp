@@ -90,7 +90,7 @@ const char *RechazoPorPareja(const CampoFijo &campo) {
 
 char TipoDeEdicion(std::string_view edicion) {
     const char tipo = edicion.empty() ? '\0' : edicion[0];
-    return tipo != '\0' && std::strchr("anpi", tipo) != nullptr ? static_cast<char>(tipo - 'a' + 'A') : tipo;
+    return tipo != '\0' && std::strchr("anpi", tipo) != nullptr ? Mayuscula(tipo) : tipo;
 }
 
 // Text of a position: at most 3 characters, not padded.

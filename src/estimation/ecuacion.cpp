@@ -20,10 +20,6 @@ constexpr int AnchoTexto = 25; // characters of a regressor as it is shown
 constexpr int AnchoTextoEcuacion = 100;
 constexpr int MinimoObservaciones = 3;
 
-bool EsSigno(char c) {
-    return std::string_view("()[]'$+*/-").find(c) != std::string_view::npos;
-}
-
 bool EsCaracterEcuacion(char c) {
     return EsCaracterFormula(c) || std::string_view("_[]").find(c) != std::string_view::npos;
 }
@@ -49,7 +45,7 @@ bool ExtraerToken(Lector &lector, std::string &token) {
         return false;
     }
     lector.comprobado = true;
-    auto hasta = std::find_if(desde, lector.texto->end(), [](char c) { return c == ' ' || EsSigno(c); });
+    auto hasta = std::find_if(desde, lector.texto->end(), EsDelimitador);
     if (hasta == desde) ++hasta;
     token.assign(desde, hasta);
     lector.posicion += static_cast<int>(token.size());
@@ -268,7 +264,7 @@ int LeerEcuacion(Estimacion &e, int posicion) {
         return MensajePunto(e.ventana, "Calcule mínimo cuadrado"_w, 263);
     if (Muestra.FinRegresion - Muestra.InicioRegresion + 1 < MinimoObservaciones)
         return MensajePunto(e.ventana, "La muestra es muy pequeña"_w, 293);
-    std::string &linea = (*e.lineas)[static_cast<std::size_t>(Evaluador.NivelLinea)];
+    std::string &linea = LineaDelNivel(*e.lineas);
     if (LeerCabecera(e, linea, posicion) == 0) return 0;
     Lector lector{&linea, posicion, e.ventana};
     if (!ExtraerToken(lector, e.dependiente)) return 0;

@@ -37,7 +37,7 @@ int MatrizDeFormula(Estimacion &e, std::string_view destino, const std::string &
                     int ultima) {
     int nivel = 0;
     if (!SubirNivel(e, texto, nivel)) return 0;
-    PonerCampo(CodigoMatrizDestino, destino, AnchoCodigo);
+    PonerCampo(Evaluador.CodigoMatrizDestino, destino, AnchoCodigo);
     int posicion = 0;
     const int bien = EvaluarFormulaMatriz(*e.lineas, posicion, e.ventana, primera, ultima);
     Evaluador.NivelLinea = nivel; // the brace form leaves it raised
@@ -46,7 +46,7 @@ int MatrizDeFormula(Estimacion &e, std::string_view destino, const std::string &
 
 FinesDeFormula EscalarDeFormula(Estimacion &e, std::string_view destino, const std::string &texto,
                                 int &causa) {
-    PonerCampo(Destinos.escalar, destino, AnchoCodigo);
+    PonerCampo(Evaluador.CodigoEscalarDestino, destino, AnchoCodigo);
     causa = 0;
     if (!Evaluar(e, texto, Muestra.InicioRegresion, Muestra.InicioRegresion)) return FormulaErronea;
     causa = GuardarEscalar();
@@ -54,7 +54,7 @@ FinesDeFormula EscalarDeFormula(Estimacion &e, std::string_view destino, const s
 }
 
 FinesDeFormula SerieDeFormula(Estimacion &e, std::string_view destino, const std::string &texto) {
-    PonerCampo(Destinos.serie, destino, AnchoCodigo);
+    PonerCampo(Evaluador.CodigoSerieDestino, destino, AnchoCodigo);
     if (!Evaluar(e, texto, Muestra.InicioRegresion, Muestra.FinRegresion)) return FormulaErronea;
     return GuardarSerie() == 1 ? FormulaGuardada : FormulaSinGuardar;
 }

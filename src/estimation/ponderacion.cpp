@@ -10,7 +10,7 @@ int LeerPonderacion(Estimacion &e, const std::string &texto, int &posicion) {
     const std::size_t desde = static_cast<std::size_t>(posicion) + 1;
     const std::string formula = texto.substr(desde, static_cast<std::size_t>(cierre) - desde);
     posicion = std::min(cierre + 1, static_cast<int>(texto.size()));
-    if (Evaluador.NivelLinea >= MaxNiveles - 1) return MensajePunto(e.ventana, FaltanSeries, 8621);
+    if (UltimoNivel()) return MensajePunto(e.ventana, FaltanSeries, 8621);
     UltimaRegresion.TextoPonderacion = formula;
     switch (SerieDeFormula(e, "_VORD", formula)) {
     case FormulaErronea: return MensajePunto(e.ventana, formula, 8511);

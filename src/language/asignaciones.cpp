@@ -10,8 +10,6 @@
 #include <algorithm>
 #include <cstring>
 
-DestinosAsignacion Destinos;
-
 namespace {
 
 // The text from `posicion` up to the first of `fines`, or to the end; `posicion` is left there.
@@ -56,9 +54,9 @@ int LeerObjetivo(const std::string &linea, int &posicion, int codigo, std::strin
     if (nombre.empty() || CodigoValido(nombre, objetivo) == 0)
         return MensajeNumerado(ventana, 36, "Nombre no válido"_w);
     if (codigo == OrdenOBS) periodo = LeerPeriodo(linea, posicion);
-    char *destino = codigo == OrdenESC   ? Destinos.escalar
-                    : codigo == OrdenMAT ? CodigoMatrizDestino
-                                         : Destinos.serie;
+    char *destino = codigo == OrdenESC   ? Evaluador.CodigoEscalarDestino
+                    : codigo == OrdenMAT ? Evaluador.CodigoMatrizDestino
+                                         : Evaluador.CodigoSerieDestino;
     std::memcpy(destino, objetivo, AnchoCodigo);
     return 1;
 }
@@ -87,7 +85,7 @@ int AsignarMatriz(LineasSentencia &lineas, int &posicion, Ventana *ventana, int 
 
 int AsignarSerie(LineasSentencia &lineas, int &posicion, Ventana *ventana, int primera, int ultima) {
     if (CaracterEn(lineas[0], posicion) == '{')
-        return SerieDesdeMatriz(Destinos.serie, lineas[0], posicion + 1, ventana);
+        return SerieDesdeMatriz(Evaluador.CodigoSerieDestino, lineas[0], posicion + 1, ventana);
     if (SerieRecursiva(posicion, ventana, lineas, primera, ultima) == 1) return 1;
     return EvaluarFormula(lineas, posicion, primera, ultima) == 1 ? GuardarSerie() : 0;
 }

@@ -3,29 +3,20 @@
 
 #include "language/evaluador.h"
 
-// The names that the running assignment writes to; set by the parse of the statement, or by the procedures that
-// compute with formulas, before the store operation is called.
-struct DestinosAsignacion {
-    char serie[AnchoCodigo];
-    char escalar[AnchoCodigo];
-};
-
-extern DestinosAsignacion Destinos;
-
 // SER, ESC, OBS, CAL, SER FICTIC and MAT from behind the first word: parses target and "=", groups priorities,
 // evaluates and stores. `codigo` is the CodigoOrden of the first word and becomes OrdenFICTIC for a SER FICTIC.
 // 1 to go on, 0 to stop.
 int EjecutarAsignacion(LineasSentencia &lineas, int &posicion, Ventana *ventana, int primera, int ultima,
                        int &codigo);
 
-// Stores the top column as the series Destinos.serie, over PrimeraEval to UltimaEval. 1, or 0 without a message when
+// Stores the top column as the series CodigoSerieDestino, over PrimeraEval to UltimaEval. 1, or 0 without a message when
 // the name is taken by another table or no more series fit.
 int GuardarSerie();
 
-// Stores the top column's first row as the scalar Destinos.escalar. 0 when stored, else above 0 (PonerEscalar).
+// Stores the top column's first row as the scalar CodigoEscalarDestino. 0 when stored, else above 0 (PonerEscalar).
 int GuardarEscalar();
 
-// Stores the top column's first row at the row of Destinos.serie that `periodo` names; the second form doesn't look
+// Stores the top column's first row at the row of CodigoSerieDestino that `periodo` names; the second form doesn't look
 // outside the sample. 1 (also when no row has this name), or 0 when the series doesn't exist or its name is taken.
 int GuardarObservacion(std::string_view periodo, Ventana *ventana);
 int GuardarObservacionMuestra(std::string_view periodo, Ventana *ventana);
@@ -40,7 +31,7 @@ int SerieDesdeMatriz(std::string_view serie, const std::string &texto, int posic
 // batch goes on), else 0.
 int SerieRecursiva(int posicion, Ventana *ventana, LineasSentencia &lineas, int primera, int ultima);
 
-// Makes a series of ones and zeros for each distinct whole value, at most 99, that Destinos.serie has in the rows
+// Makes a series of ones and zeros for each distinct whole value, at most 99, that CodigoSerieDestino has in the rows
 // primera <= i < ultima - primera + 1. An unknown series gives the box "(%s)", title "Serie no existe"; a full table
 // ends it in silence, with the series made so far.
 void SeriesFicticias(Ventana *ventana, int primera, int ultima);

@@ -3,7 +3,8 @@
 #include "language/bloques.h"
 
 #include "language/llamada_bloque.h"
-#include "language/lote_sentencias.h"
+#include "language/palabras.h"
+#include "platform/campos_texto.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
 #include "store/periodos.h"
@@ -27,23 +28,6 @@ constexpr const char *Cierres[NumTiposDeBloque] = {"FINREPITE", "FINMIENTRAS", "
 
 // ----- Lines and tokens
 
-bool EsDelimitador(char c) {
-    switch (c) {
-    case ' ':
-    case '(':
-    case ')':
-    case '[':
-    case ']':
-    case '\'':
-    case '$':
-    case '+':
-    case '*':
-    case '/':
-    case '-': return true;
-    default: return false;
-    }
-}
-
 // The next line that isn't empty, as it stands; `inicio` receives its offset and `posicion` moves to its end. False
 // when there is none.
 bool LeerLineaCruda(std::string_view cuerpo, int &posicion, int &inicio, std::string_view &linea) {
@@ -57,18 +41,12 @@ bool LeerLineaCruda(std::string_view cuerpo, int &posicion, int &inicio, std::st
     return true;
 }
 
-void PonerEnMayusculas(std::string_view cruda, std::string &linea) {
-    linea.resize(cruda.size());
-    std::transform(cruda.begin(), cruda.end(), linea.begin(),
-                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
-}
-
 // True when the first token of a line, in either case, is this word in capitals.
 bool EmpiezaPor(std::string_view cruda, std::string_view palabra) {
     int posicion = 0;
     const std::string_view token = LeerTokenBloque(cruda, posicion);
     return std::equal(token.begin(), token.end(), palabra.begin(), palabra.end(),
-                      [](char c, char p) { return c == p || (c >= 'a' && c <= 'z' && c - 'a' + 'A' == p); });
+                      [](char c, char p) { return Mayuscula(c) == p; });
 }
 
 // Replaces every token `buscado` of the line. The search goes on behind the replacement: the tokens before it stay
@@ -125,15 +103,12 @@ bool LineaAcaba(const Paso &p, int punto) {
     return false;
 }
 
-Marcha Correr(Paso &p) {
+Marcha Correr(Paso &p, const Palabra &palabra) {
+    if (palabra.lugar == DentroConMuestra) {
+        Muestra.InicioRegresion = p.e.primera;
+        Muestra.FinRegresion = p.e.ultima;
+    }
     return SeOmite() || CorrerSentencia(p.e, p.b.linea) == 1 ? Sigue : Falla;
-}
-
-// The sample of the regression takes the bounds of the block even where the line is passed over.
-Marcha CorrerMC(Paso &p) {
-    Muestra.InicioRegresion = p.e.primera;
-    Muestra.FinRegresion = p.e.ultima;
-    return Correr(p);
 }
 
 // Whole hundredths and less come out as the period texts read: 2000.3 + 0.1 is the number of the text 2000.4.
@@ -223,14 +198,8 @@ struct PalabraDeBloque {
     Marcha (*rutina)(Paso &);
 };
 
-// All other words are refused, the closing words of another block among them.
+// The words of control; the statements that a block can hold stand in the table of all words.
 constexpr PalabraDeBloque PalabrasDeBloque[] = {
-    {"ESC", EnTodos, Correr},
-    {"SER", EnTodos, Correr},
-    {"OBS", EnTodos, Correr},
-    {"MAT", EnTodos, Correr},
-    {"CAL", EnTodos, Correr},
-    {"MC", EnTodos, CorrerMC},
     {"SI", EnTodos, EntrarSI},
     {"FINREPITE", EnREPITE, CerrarREPITE},
     {"FINMIENTRAS", EnMIENTRAS, CerrarMIENTRAS},
@@ -238,21 +207,14 @@ constexpr PalabraDeBloque PalabrasDeBloque[] = {
     {"SINO", EnSI, EntrarSINO},
     {"ROMPE", EnTodos, Romper},
     {"CONTINUA", EnTodos, Continuar},
-    {"MGD", EnTodos, Correr},
-    {"CWH", EnTodos, Correr},
-    {"MCP", EnTodos, Correr},
-    {"CR", EnTodos, Correr},
-    {"MGN", EnTodos, Correr},
-    {"CDU", EnTodos, Correr},
-    {"CWA", EnTodos, Correr},
-    {"CRA", EnTodos, Correr},
-    {"CHN", EnTodos, Correr},
-    {"CGQ", EnTodos, Correr},
 };
 
+// All other words are refused, the closing words of another block among them.
 Marcha InterpretarLinea(Paso &p) {
     const std::string_view token = LeerTokenBloque(p.b.linea, p.detras);
     if (token.empty() || token[0] == ';') return Sigue;
+    for (const Palabra &palabra : Palabras)
+        if (palabra.palabra == token && palabra.lugar != FueraDeBloques) return Correr(p, palabra);
     for (const PalabraDeBloque &palabra : PalabrasDeBloque)
         if (palabra.palabra == token && (palabra.lugares & (1 << p.b.tipo)) != 0) return palabra.rutina(p);
     std::string texto = Adecuada;
@@ -270,8 +232,8 @@ int BuscarCierre(const EntornoBloque &e, const LlamadaBloque &b, int posicion) {
         Bloques.FinBloque[b.tipo] = inicio;
         return 1;
     }
-    std::string ultima;
-    PonerEnMayusculas(linea, ultima);
+    std::string ultima(linea);
+    PonerEnMayusculas(ultima);
     return MensajePunto(e.ventana, "No se ha cerrado el bucle: [" + ultima + "]", 7);
 }
 
@@ -282,7 +244,8 @@ int RecorrerBloque(EntornoBloque &e, int nivel, int &posicion) {
     std::string_view cruda;
     for (int inicio = 0; LeerLineaCruda(e.cuerpo, posicion, inicio, cruda);) {
         PonerCursor(CursorEspera);
-        PonerEnMayusculas(cruda, b.linea);
+        b.linea = cruda;
+        PonerEnMayusculas(b.linea);
         Sustituir(b);
         Paso paso{e, b, nivel, posicion, 0};
         const Marcha marcha = InterpretarLinea(paso);

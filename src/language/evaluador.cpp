@@ -18,7 +18,7 @@ void LimpiarEvaluador() {
     e.OperadorLogico[0] = '\0';
     e.MarcaRetardo = 0;
     e.ValorRetardo = 0;
-    SeriesPermitidas = 1;
+    e.SeriesPermitidas = 1;
 }
 
 // ---------------------------------------------------------------------------------------------------------------
@@ -51,6 +51,26 @@ int ParentesisCierre(const std::string &texto, int abre) {
     return largo;
 }
 
+bool EsDelimitador(char c) {
+    return c == ' ' || EsSigno(c);
+}
+
+bool EsSigno(char c) {
+    switch (c) {
+    case '(':
+    case ')':
+    case '[':
+    case ']':
+    case '\'':
+    case '$':
+    case '+':
+    case '*':
+    case '/':
+    case '-': return true;
+    default: return false;
+    }
+}
+
 namespace {
 
 constexpr int Bien = 1; // result of an element that was dealt with; any other is the number of a failure
@@ -79,10 +99,6 @@ bool EsCaracterOperador(char c) {
     }
 }
 
-bool EsDelimitador(char c) {
-    return c == ' ' || c == '(' || c == ')';
-}
-
 } // namespace
 
 std::string_view SiguienteToken(const std::string &texto, int &posicion) {
@@ -93,7 +109,7 @@ std::string_view SiguienteToken(const std::string &texto, int &posicion) {
     if (EsCaracterOperador(primero)) {
         ++posicion;
     } else {
-        for (char c = primero; EsDeToken(c) && !EsDelimitador(c) && !EsCaracterOperador(c);)
+        for (char c = primero; EsDeToken(c) && c != ' ' && c != '(' && c != ')' && !EsCaracterOperador(c);)
             c = CaracterEn(texto, ++posicion);
     }
     const std::string_view token = std::string_view(texto).substr(
@@ -109,10 +125,6 @@ namespace {
 
 int Elemento(std::string_view token, LineasSentencia &lineas, int &posicion);
 
-const std::string &TextoDelNivel(const LineasSentencia &lineas) {
-    return lineas[static_cast<std::size_t>(Evaluador.NivelLinea)];
-}
-
 bool TrasOperando() {
     return Evaluador.EstadoElemento == ElementoOperando;
 }
@@ -124,7 +136,7 @@ int OperandoHecho() {
 
 // The element behind an operator.
 int ElementoDerecho(LineasSentencia &lineas, int &posicion) {
-    const std::string_view token = SiguienteToken(TextoDelNivel(lineas), posicion);
+    const std::string_view token = SiguienteToken(LineaDelNivel(lineas), posicion);
     return Elemento(token, lineas, posicion);
 }
 
@@ -165,7 +177,7 @@ int ElementoConstante(double valor, int pilaLlena, int trasOperando) {
 int ElementoFuncionMatriz(std::string_view nombre, LineasSentencia &lineas, int &posicion) {
     if (TrasOperando()) return 13;
     // NOBS alone has no argument.
-    if (nombre != "NOBS" && CaracterEn(TextoDelNivel(lineas), posicion) != '(') return 14;
+    if (nombre != "NOBS" && CaracterEn(LineaDelNivel(lineas), posicion) != '(') return 14;
     double valor = 0.0;
     if (ValorFuncionMatriz(nombre, valor, posicion, lineas, Evaluador.ventana) != 1) return 14;
     if (!ApilarNumero(valor)) return 14;
@@ -194,7 +206,7 @@ int ElementoConOperador(char operador, LineasSentencia &lineas, int &posicion) {
 int ElementoParentesis(LineasSentencia &lineas, int &posicion) {
     if (TrasOperando()) return 21;
     if (UltimoNivel()) return 22;
-    const std::string &texto = TextoDelNivel(lineas);
+    const std::string &texto = LineaDelNivel(lineas);
     const int cierre = ParentesisCierre(texto, posicion);
     if (EvaluarTrozo(lineas, posicion + 1, cierre) == 0) return 22;
     posicion = std::min(cierre + 1, static_cast<int>(texto.size()));
@@ -219,13 +231,13 @@ int ElementoVacio(const std::string &texto, int &posicion) {
 }
 
 int SerieVisible(std::string_view token) {
-    return SeriesPermitidas != 0 && token.size() < AnchoCodigo ? BuscarSerie(token) : -1;
+    return Evaluador.SeriesPermitidas != 0 && token.size() < AnchoCodigo ? BuscarSerie(token) : -1;
 }
 
 // One element; `posicion` is behind its token and the blanks there. The first test that fits decides: a name is a
 // function rather than a series, and a series rather than a scalar or a matrix.
 int Elemento(std::string_view token, LineasSentencia &lineas, int &posicion) {
-    const std::string &texto = TextoDelNivel(lineas);
+    const std::string &texto = LineaDelNivel(lineas);
     // In front of all, because a scalar or a matrix can have a code of blanks, which nothing should call up.
     if (token.empty()) return ElementoVacio(texto, posicion);
 
@@ -250,7 +262,7 @@ int Elemento(std::string_view token, LineasSentencia &lineas, int &posicion) {
 // what stands behind a comma or a semicolon is ignored without a word.
 int EvaluarNivel(LineasSentencia &lineas, int &posicion) {
     Evaluador.EstadoElemento = ElementoInicio;
-    const std::string &texto = TextoDelNivel(lineas);
+    const std::string &texto = LineaDelNivel(lineas);
     while (EsDeToken(CaracterEn(texto, posicion))) {
         const std::string_view token = SiguienteToken(texto, posicion);
         const int r = Elemento(token, lineas, posicion);
@@ -263,10 +275,9 @@ int EvaluarNivel(LineasSentencia &lineas, int &posicion) {
 } // namespace
 
 int EvaluarTrozo(LineasSentencia &lineas, int desde, int hasta) {
-    const std::string &texto = TextoDelNivel(lineas);
+    const std::string &texto = LineaDelNivel(lineas);
     const std::size_t inicio = std::min(static_cast<std::size_t>(desde), texto.size());
-    lineas[static_cast<std::size_t>(Evaluador.NivelLinea) + 1].assign(
-        texto, inicio, static_cast<std::size_t>(hasta) - inicio);
+    LineaDelNivel(lineas, 1).assign(texto, inicio, static_cast<std::size_t>(hasta) - inicio);
     ++Evaluador.NivelLinea;
     int posicion = 0;
     const int r = EvaluarNivel(lineas, posicion);
@@ -278,7 +289,7 @@ int EvaluarFormula(LineasSentencia &lineas, int &posicion, int primera, int ulti
     Evaluador.PrimeraEval = primera;
     Evaluador.UltimaEval = ultima;
     if (primera < 0 || ultima < 0 || ArchivoTrabajo.NumObs > MaxObservaciones) return 1;
-    const std::string &texto = TextoDelNivel(lineas);
+    const std::string &texto = LineaDelNivel(lineas);
     // A sample without data ends at row 100,000.
     if (primera >= MaxObservaciones || ultima >= MaxObservaciones)
         return MensajePunto(Evaluador.ventana, texto, 88);

@@ -34,12 +34,19 @@ struct EstadoEvaluador {
     std::int32_t MarcaRetardo; // 1 once a lag was applied in this statement
     std::int32_t ValorRetardo; // the last lag applied, negative for past values
     std::int32_t PrimeraEval, UltimaEval;
-    Ventana *ventana; // owner of the messages
+    // The names that the running assignment writes to: set by the parse of the statement, or by the procedures that
+    // compute with formulas, before the store operation is called.
+    char CodigoSerieDestino[AnchoCodigo];
+    char CodigoEscalarDestino[AnchoCodigo];
+    char CodigoMatrizDestino[AnchoCodigo];
+    std::int32_t
+        SeriesPermitidas; // 0 makes the evaluator blind to the codes of series; set at every statement
+    Ventana *ventana;     // owner of the messages
 };
 
 extern EstadoEvaluador Evaluador;
 
-// Clears the state of a statement (everything but the stack's memory, the bounds and the window) and sets
+// Clears the state of a statement (everything but the stack's memory, the bounds, the targets and the window) and sets
 // SeriesPermitidas. Whoever evaluates several formulas in one statement calls it before each.
 void LimpiarEvaluador();
 
@@ -68,6 +75,22 @@ void AgruparPrioridades(std::string &texto, int desde, int hasta);
 bool ApilarNumero(double valor);
 bool ApilarSerie(int serie);
 
+// ----- Levels
+
+// The buffer of the present level, or of one `encima` of it, which exists.
+inline std::string &LineaDelNivel(LineasSentencia &lineas, int encima = 0) {
+    return lineas[static_cast<std::size_t>(Evaluador.NivelLinea + encima)];
+}
+
+inline const std::string &LineaDelNivel(const LineasSentencia &lineas) {
+    return lineas[static_cast<std::size_t>(Evaluador.NivelLinea)];
+}
+
+// True when no further level exists.
+inline bool UltimoNivel() {
+    return Evaluador.NivelLinea >= MaxNiveles - 1;
+}
+
 // ----- Characters and tokens, shared with the matrix evaluator and the regression statements
 
 // The character at a position, NUL at or behind the end.
@@ -86,3 +109,8 @@ bool EsCaracterFormula(char c);
 
 // Index of the ")" that closes the "(" at `abre`, or the text's length when none does.
 int ParentesisCierre(const std::string &texto, int abre);
+
+// What parts the tokens of blocks and of regressions: the signs ( ) [ ] ' $ + * / - are tokens by themselves where they
+// come first, and the blank is none. "=", "<", ">" and "," are parts of tokens.
+bool EsSigno(char c);
+bool EsDelimitador(char c);

@@ -18,11 +18,6 @@ std::string_view SiguienteToken(const std::string &texto, int &posicion);
 // one, which exists. 1, or 0 after the boxes of the levels below.
 int EvaluarTrozo(LineasSentencia &lineas, int desde, int hasta);
 
-// True when no further level exists.
-inline bool UltimoNivel() {
-    return Evaluador.NivelLinea >= MaxNiveles - 1;
-}
-
 // ----- The stack
 
 // The rows that an evaluation works on; empty when `hasta` is below `desde`.

@@ -88,7 +88,8 @@ bool LeerRecursiva(const std::string &linea, int posicion, int &retardo, std::si
     const std::size_t desde = static_cast<std::size_t>(posicion);
     const std::size_t abre = linea.find_first_of(" =(", desde);
     if (abre == std::string::npos || linea[abre] != '(') return false;
-    if (std::string_view(linea).substr(desde, abre - desde) != Recortado(Destinos.serie)) return false;
+    if (std::string_view(linea).substr(desde, abre - desde) != Recortado(Evaluador.CodigoSerieDestino))
+        return false;
     const std::size_t cierra = linea.find(')', abre);
     if (cierra == std::string::npos) return false;
     // Only these digits count: signs don't, and "10" is a lag of 1.
@@ -104,7 +105,7 @@ bool LeerRecursiva(const std::string &linea, int posicion, int &retardo, std::si
 // Builds the statement of row i in buffer 0 and evaluates it from behind its "=".
 int EvaluarFila(LineasSentencia &lineas, int i, int retardo, std::string_view resto, int primera,
                 int ultima) {
-    const std::string_view serie = Recortado(Destinos.serie);
+    const std::string_view serie = Recortado(Evaluador.CodigoSerieDestino);
     LimpiarEvaluador();
     std::string &linea = lineas[0];
     linea.assign("OBS ").append(serie).append("[").append(TextoPeriodo(i)).append("] = ");
@@ -125,7 +126,7 @@ int SerieRecursiva(int posicion, Ventana *ventana, LineasSentencia &lineas, int 
     for (std::int64_t i = std::int64_t{std::max(primera, 0)} + retardo; i < fin; ++i) {
         const int fila = static_cast<int>(i);
         // This form doesn't create its series.
-        const bool existe = BuscarSerie(Destinos.serie) >= 0;
+        const bool existe = BuscarSerie(Evaluador.CodigoSerieDestino) >= 0;
         if (existe && EvaluarFila(lineas, fila, retardo, resto, primera, ultima) != 1) {
             MostrarMensaje(ventana, "Error en el cálculo"_w);
             return 1;
@@ -177,12 +178,12 @@ void LlenarFicticia(int ficticia, int serie, int valor, int desde, int hasta) {
 } // namespace
 
 void SeriesFicticias(Ventana *ventana, int primera, int ultima) {
-    const int serie = BuscarSerie(Destinos.serie);
+    const int serie = BuscarSerie(Evaluador.CodigoSerieDestino);
     if (serie < 0) {
-        MostrarMensaje(ventana, Formatear("(%s)", Destinos.serie), "Serie no existe");
+        MostrarMensaje(ventana, Formatear("(%s)", Evaluador.CodigoSerieDestino), "Serie no existe");
         return;
     }
-    std::string base(Recortado(Destinos.serie));
+    std::string base(Recortado(Evaluador.CodigoSerieDestino));
     if (base.size() > 6) base.resize(5);
     const int desde = std::max(primera, 0);
     const int hasta =

@@ -192,7 +192,7 @@ bool EvaluarArgumento(LineasSentencia &lineas, int &posicion) {
         MostrarMensaje(Evaluador.ventana, "Demasiados parentesis", Titulo);
         return false;
     }
-    const int fin = FinArgumento(lineas[static_cast<std::size_t>(Evaluador.NivelLinea)], posicion);
+    const int fin = FinArgumento(LineaDelNivel(lineas), posicion);
     if (EvaluarTrozo(lineas, posicion, fin) == 0) {
         MostrarMensaje(Evaluador.ventana, "Error en los calculos", Titulo);
         return false;
@@ -211,10 +211,10 @@ int ArgumentosPorDefecto(const FuncionSerie &f) {
 
 // Each argument is a formula of its own and leaves one column. 0, or the number of the failure.
 int LeerArgumentos(const FuncionSerie &f, LineasSentencia &lineas, int &posicion) {
-    const std::string &texto = lineas[static_cast<std::size_t>(Evaluador.NivelLinea)];
+    const std::string &texto = LineaDelNivel(lineas);
     if (CaracterEn(texto, posicion) != '(') return ArgumentosPorDefecto(f);
     if (f.argumentos == 0) return 131;
-    if (f.clase == FuncionTotal) SeriesPermitidas = 1; // for the rest of the statement
+    if (f.clase == FuncionTotal) Evaluador.SeriesPermitidas = 1; // for the rest of the statement
     for (int k = 1; k <= f.argumentos; ++k) {
         const bool ultimo = k == f.argumentos;
         ++posicion;

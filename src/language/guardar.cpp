@@ -61,8 +61,8 @@ int FilaDeValor(double valor, int desde, int hasta) {
 
 int GuardarEnPeriodo(std::string_view periodo, bool fueraDeMuestra) {
     if (SinEfecto()) return 1;
-    if (Rechazada(Destinos.serie)) return 0;
-    const int serie = BuscarSerie(Destinos.serie);
+    if (Rechazada(Evaluador.CodigoSerieDestino)) return 0;
+    const int serie = BuscarSerie(Evaluador.CodigoSerieDestino);
     if (serie < 0) return 0;
     const int primera = std::min(Evaluador.PrimeraEval, UltimaFila);
     const int ultima = std::min(Evaluador.UltimaEval, UltimaFila);
@@ -85,8 +85,8 @@ int GuardarEnPeriodo(std::string_view periodo, bool fueraDeMuestra) {
 
 int GuardarSerie() {
     if (SinEfecto()) return 1;
-    if (Rechazada(Destinos.serie)) return 0;
-    const int serie = TomarSerie(Destinos.serie);
+    if (Rechazada(Evaluador.CodigoSerieDestino)) return 0;
+    const int serie = TomarSerie(Evaluador.CodigoSerieDestino);
     if (serie < 0) return 0;
     const int primera = std::min(Evaluador.PrimeraEval, UltimaFila);
     const int ultima = std::min(Evaluador.UltimaEval, UltimaFila);
@@ -94,14 +94,14 @@ int GuardarSerie() {
     if (Evaluador.MarcaRetardo == 1) LimpiarRetardo(serie, primera, ultima);
     ArchivoTrabajo.PrimeraObs[serie] = static_cast<std::int16_t>(primera);
     ArchivoTrabajo.UltimaObs[serie] = static_cast<std::int16_t>(ultima);
-    PonerCodigoSerie(serie, Destinos.serie);
+    PonerCodigoSerie(serie, Evaluador.CodigoSerieDestino);
     RefrescarEditor();
     return 1;
 }
 
 int GuardarEscalar() {
     if (SinEfecto()) return 0;
-    return PonerEscalar(Evaluador.ventana, Destinos.escalar, ValorSuperior());
+    return PonerEscalar(Evaluador.ventana, Evaluador.CodigoEscalarDestino, ValorSuperior());
 }
 
 int GuardarObservacion(std::string_view periodo, Ventana *) {

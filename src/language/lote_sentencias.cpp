@@ -1,7 +1,6 @@
 // The loop that runs a batch of statements: the selection of a text control, or the one statement of a dialog.
 #include "language/lote_sentencias.h"
 
-#include "estimation/regresion.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 
@@ -54,7 +53,6 @@ bool RecorrerLote(Ventana *ventana, int origen, std::string_view sentencia, cons
 
 void IniciarLote() {
     Lote = {1, 2, 0, 0};
-    IniciarRegresion();
 }
 
 int MensajeNumerado(Ventana *ventana, int punto, std::string_view texto) {
@@ -85,4 +83,9 @@ int ProcesarLote(Ventana *ventana, ControlTexto *control, int origen, std::strin
     }
     CerrarPilaColumnas();
     return 0;
+}
+
+int ProcesarSentencia(Ventana *ventana, std::string_view texto, int primera, int ultima) {
+    ProcesarLote(ventana, nullptr, OrigenDialogo, texto, primera, ultima);
+    return 1 - Lote.detenido;
 }

@@ -39,13 +39,20 @@ struct EstadoLote {
 
 extern EstadoLote Lote;
 
-// Start values, and no last regression.
+// Start values.
 void IniciarLote();
 
 // Runs a batch. `origen` 0 runs the selection of `control` and ignores `texto`; any other value runs `texto` as one
 // statement. `primera` and `ultima` are the rows to work on. Result always 0; Lote.detenido tells how it ended.
 int ProcesarLote(Ventana *ventana, ControlTexto *control, int origen, std::string_view texto, int primera,
                  int ultima);
+
+// What `origen` says.
+enum OrigenesSentencia { OrigenSeleccion = 0, OrigenDialogo = 246 };
+
+// Runs one statement, as a dialog composes it, over the rows `primera` to `ultima`. 1, or 0 when it stopped after its
+// message.
+int ProcesarSentencia(Ventana *ventana, std::string_view texto, int primera, int ultima);
 
 // Runs the one statement at `posicion` of `textoCompleto` (`origen` 0, up to `fin`, the end of the selection), or
 // `texto` (`origen` not 0). 1 to go on, 0 to stop. MUEST changes `primera` and `ultima`; `codigo` receives the

@@ -1,134 +1,11 @@
 // One statement: cut out of the text, checked, normalised, and handed to the routine of its first word.
-#include "estimation/regresion.h"
-#include "language/asignaciones.h"
-#include "language/bloques.h"
-#include "language/lote_sentencias.h"
+#include "language/palabras.h"
 #include "platform/campos_texto.h"
-#include "platform/numeros.h"
 #include "store/archivo.h"
-#include "store/periodos.h"
 
 #include <algorithm>
 
 namespace {
-
-// What the routine of a word works with.
-struct Orden {
-    LineasSentencia &lineas;
-    int detras;    // in buffer 0, behind the first word and its blanks
-    int fin;       // end of the selection
-    int &posicion; // in the text, at the end of the line
-    const std::string &texto;
-    Ventana *ventana;
-    int &primera, &ultima;
-    int &codigo;
-};
-
-// ----- The routines of the words; 1 to go on, 0 to stop
-
-int Nada(Orden &) {
-    return 1;
-}
-
-int Bloque(Orden &o) {
-    const std::size_t desde = static_cast<std::size_t>(o.posicion);
-    const std::size_t largo = static_cast<std::size_t>(std::max(o.fin - o.posicion, 0));
-    int avance = 0;
-    const int r = EjecutarBloque(std::string_view(o.texto).substr(desde, largo), o.lineas, avance, o.ventana,
-                                 o.primera, o.ultima);
-    o.posicion += avance;
-    for (const char *temporal : {"_TMP01", "_TMP02"}) {
-        const int e = BuscarEscalar(temporal);
-        if (e >= 0) BorrarEscalar(e);
-    }
-    if (r == 0) MostrarMensaje(o.ventana, "Secuencia no válida. Punto 89"_w);
-    return r;
-}
-
-int Muestreo(Orden &o) {
-    MuestraDeSentencia(o.lineas[0]);
-    o.primera = Muestra.InicioMuestra;
-    o.ultima = Muestra.FinMuestra;
-    return 1;
-}
-
-// The number is read from the start of the line, where the word itself stands, so that any figure behind it sets 0
-// decimals. The word with no blank behind keeps the old number.
-int Decimales(Orden &o) {
-    const std::size_t blanco = o.lineas[0].find(' ');
-    if (blanco == std::string::npos) return 1;
-    const int n = LeerEntero(std::string_view(o.lineas[0]).substr(0, blanco));
-    Lote.DecimalesSalida = n < 0 || n > 6 ? 2 : n;
-    return 1;
-}
-
-int PreguntaRegresion(Orden &o) {
-    const std::string_view resto =
-        Recortado(std::string_view(o.lineas[0]).substr(static_cast<std::size_t>(o.detras)));
-    if (resto.empty()) return MensajeNumerado(o.ventana, 39, " : Faltan datos");
-    Lote.VerRegresion = resto == "SI" ? 1 : 0;
-    return 1;
-}
-
-int Asignacion(Orden &o) {
-    return EjecutarAsignacion(o.lineas, o.detras, o.ventana, o.primera, o.ultima, o.codigo);
-}
-
-int Regresion(Orden &o) {
-    return EstimarRegresion(o.lineas, o.detras, o.ventana, o.codigo);
-}
-
-// MC and MCP work on the bounds of the batch; the other regressions on those of the last MC or MCP.
-int RegresionPrincipal(Orden &o) {
-    Muestra.InicioRegresion = o.primera;
-    Muestra.FinRegresion = o.ultima;
-    return Regresion(o);
-}
-
-int PorEnsamblar(Orden &o) {
-    return NoEnsamblada(o.ventana);
-}
-
-// ----- The words
-
-enum Condiciones { Siempre, SinParentesis, SoloSeleccion };
-
-struct Palabra {
-    std::string_view palabra;
-    CodigosOrden codigo;
-    Condiciones condicion; // SinParentesis: the next non-blank character isn't "("
-    int (*rutina)(Orden &);
-};
-
-// The words without a code of their own stand first: they are tested first. FICTIC is found behind SER.
-constexpr Palabra Palabras[] = {
-    {"REPITE", OrdenDesconocida, SoloSeleccion, Bloque},
-    {"MIENTRAS", OrdenDesconocida, SoloSeleccion, Bloque},
-    {"SI", OrdenDesconocida, SoloSeleccion, Bloque},
-    {"MUEST", OrdenDesconocida, Siempre, Muestreo},
-    {"GRAF", OrdenDesconocida, Siempre, PorEnsamblar},
-    {"HIST", OrdenDesconocida, Siempre, PorEnsamblar},
-    {"DECI", OrdenDesconocida, Siempre, Decimales},
-    {"AES", OrdenAES, Siempre, Nada},
-    {"AED", OrdenAED, Siempre, Nada},
-    {"SER", OrdenSER, SinParentesis, Asignacion},
-    {"CAL", OrdenCAL, Siempre, Asignacion},
-    {"ESC", OrdenESC, Siempre, Asignacion},
-    {"MAT", OrdenMAT, SinParentesis, Asignacion},
-    {"MC", OrdenMC, Siempre, RegresionPrincipal},
-    {"CR", OrdenCR, Siempre, Regresion},
-    {"MGN", OrdenMGN, Siempre, Regresion},
-    {"MGD", OrdenMGD, Siempre, Regresion},
-    {"CWH", OrdenCWH, Siempre, Regresion},
-    {"MCP", OrdenMCP, Siempre, RegresionPrincipal},
-    {"OBS", OrdenOBS, Siempre, Asignacion},
-    {"CWA", OrdenCWA, Siempre, PorEnsamblar},
-    {"CHN", OrdenCHN, Siempre, PorEnsamblar},
-    {"CGQ", OrdenCGQ, Siempre, PorEnsamblar},
-    {"CRA", OrdenCRA, Siempre, PorEnsamblar},
-    {"CDU", OrdenCDU, Siempre, PorEnsamblar},
-    {"VSR", OrdenVSR, Siempre, PreguntaRegresion},
-};
 
 const Palabra *BuscarPalabra(std::string_view palabra, int origen, char siguiente) {
     for (const Palabra &p : Palabras) {
@@ -181,8 +58,7 @@ void NormalizarLinea(std::string &linea) {
             }
         }
     }
-    for (char &c : linea)
-        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+    PonerEnMayusculas(linea);
 }
 
 int Desconocida(Ventana *ventana, std::string_view palabra) {

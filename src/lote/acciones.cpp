@@ -175,9 +175,8 @@ bool HacerProcesar(const Accion &accion) {
 
 bool HacerSentencia(const Accion &accion) {
     ActualizarMuestra();
-    ProcesarLote(nullptr, nullptr, 246, Texto1252DeUtf8(accion.valor), Muestra.InicioMuestra,
-                 Muestra.FinMuestra);
-    return Lote.detenido == 0;
+    return ProcesarSentencia(nullptr, Texto1252DeUtf8(accion.valor), Muestra.InicioMuestra,
+                             Muestra.FinMuestra) == 1;
 }
 
 bool HacerDecimales(const Accion &accion) {

@@ -1,5 +1,5 @@
 // tabira-lote: Tabira without windows.
-#include "language/lote_sentencias.h"
+#include "language/palabras.h"
 #include "lote/acciones.h"
 #include "lote/sucesos.h"
 #include "store/archivo.h"
@@ -9,7 +9,7 @@
 int main(int numArgumentos, char **argumentos) {
     InstalarPlataforma(PlataformaLote);
     IniciarArchivoTrabajo();
-    IniciarLote();
+    IniciarProcedimientos();
     const int primero = numArgumentos > 0 ? 1 : 0; // a program may be started without even its own name
     const int estado = EjecutarLinea({argumentos + primero, argumentos + numArgumentos});
     LiberarMatrices();

@@ -8,8 +8,6 @@
 
 #include <algorithm>
 
-char CodigoMatrizDestino[AnchoCodigo];
-
 namespace {
 
 bool EsUnoDe(char c, std::string_view caracteres) {
@@ -28,7 +26,7 @@ int AplicarOperador(std::string_view operador, LineasSentencia &lineas, int &pos
     if (FormulaMatriz.UltimoElemento == ElementoOperador) return ErrorEnSecuencia(54, ventana);
     FormulaMatriz.UltimoElemento = ElementoOperador;
     if (ApilarOperacion(operador, ventana) == 0) return MensajePunto(ventana, "Error en operación"_w, 55);
-    const std::string &texto = lineas[static_cast<std::size_t>(Evaluador.NivelLinea)];
+    const std::string &texto = LineaDelNivel(lineas);
     const std::string_view token = LeerElementoMatriz(texto, posicion);
     switch (OperandoMatriz(token, lineas, posicion, ventana)) {
     case OperandoFallido: return 0;
@@ -47,7 +45,7 @@ int AplicarElemento(std::string_view token, LineasSentencia &lineas, int &posici
     if (EsUnoDe(c, "*+-/")) return AplicarOperador(token, lineas, posicion, ventana);
     if (EsUnoDe(c, "'$")) return AplicarSigno(c, ventana);
     if (!token.empty()) return ErrorEnSecuencia(55, ventana);
-    const char siguiente = CaracterEn(lineas[static_cast<std::size_t>(Evaluador.NivelLinea)], posicion);
+    const char siguiente = CaracterEn(LineaDelNivel(lineas), posicion);
     if (siguiente == '(') return ParentesisComoOperando(lineas, posicion, ventana);
     // The reading would stand still at a ")" that closes nothing.
     if (siguiente == ')') return ErrorEnSecuencia(55, ventana);
@@ -79,7 +77,7 @@ std::string_view LeerElementoMatriz(const std::string &texto, int &posicion) {
 }
 
 int EvaluarExpresionMatriz(LineasSentencia &lineas, int &posicion, Ventana *ventana) {
-    const std::string &texto = lineas[static_cast<std::size_t>(Evaluador.NivelLinea)];
+    const std::string &texto = LineaDelNivel(lineas);
     FormulaMatriz.UltimoElemento = ElementoInicio;
     while (EsCaracterMatriz(CaracterEn(texto, posicion))) {
         const std::string_view token = LeerElementoMatriz(texto, posicion);
@@ -91,12 +89,11 @@ int EvaluarExpresionMatriz(LineasSentencia &lineas, int &posicion, Ventana *vent
 }
 
 int EvaluarParentesisMatriz(LineasSentencia &lineas, int &posicion, Ventana *ventana) {
-    if (Evaluador.NivelLinea >= MaxNiveles - 1) return MensajePunto(ventana, "Excesivos paréntesis"_w, 12);
-    const std::size_t nivel = static_cast<std::size_t>(Evaluador.NivelLinea);
-    const std::string &texto = lineas[nivel];
+    if (UltimoNivel()) return MensajePunto(ventana, "Excesivos paréntesis"_w, 12);
+    const std::string &texto = LineaDelNivel(lineas);
     const int cierre = ParentesisCierre(texto, posicion);
-    lineas[nivel + 1].assign(texto, static_cast<std::size_t>(posicion) + 1,
-                             static_cast<std::size_t>(cierre - posicion - 1));
+    LineaDelNivel(lineas, 1).assign(texto, static_cast<std::size_t>(posicion) + 1,
+                                    static_cast<std::size_t>(cierre - posicion - 1));
     posicion = std::min(cierre + 1, static_cast<int>(texto.size()));
     int dentro = 0;
     ++Evaluador.NivelLinea;
@@ -106,14 +103,14 @@ int EvaluarParentesisMatriz(LineasSentencia &lineas, int &posicion, Ventana *ven
 }
 
 int AplicarSignoDirecto(const LineasSentencia &lineas, int &posicion, Ventana *ventana) {
-    const char c = CaracterEn(lineas[static_cast<std::size_t>(Evaluador.NivelLinea)], posicion);
+    const char c = CaracterEn(LineaDelNivel(lineas), posicion);
     if (c != '\'' && c != '$') return 1;
     ++posicion;
     return AplicarSigno(c, ventana);
 }
 
 int GuardarMatrizDestino(const double *datos, int filas, int columnas, Ventana *ventana) {
-    switch (GuardarMatriz(CodigoMatrizDestino, datos, filas, columnas)) {
+    switch (GuardarMatriz(Evaluador.CodigoMatrizDestino, datos, filas, columnas)) {
     case MatrizGuardada: return 1;
     case MatrizSinSitio: {
         const int cuantas = TablaMatrices.numero;
@@ -127,14 +124,15 @@ int GuardarMatrizDestino(const double *datos, int filas, int columnas, Ventana *
 int EvaluarFormulaMatriz(LineasSentencia &lineas, int &posicion, Ventana *ventana, int primera, int ultima) {
     VaciarPilasMatriz();
     Evaluador.profundidad = 0;
-    const std::string &texto = lineas[static_cast<std::size_t>(Evaluador.NivelLinea)];
+    const std::string &texto = LineaDelNivel(lineas);
     posicion = std::clamp(posicion, 0, static_cast<int>(texto.size()));
     const auto abren = std::count(texto.begin() + posicion, texto.end(), '{');
     const auto cierran = std::count(texto.begin() + posicion, texto.end(), '}');
     if (abren != cierran || abren > 1) return MensajePunto(ventana, "Número inadecuado de llaves"_w, 58);
-    AjustarAncho(CodigoMatrizDestino, AnchoCodigo);
-    if (BuscarSerie(CodigoMatrizDestino) >= 0) return MensajePunto(ventana, "Nombre matriz no válido"_w, 28);
-    if (BuscarEscalar(CodigoMatrizDestino) >= 0)
+    AjustarAncho(Evaluador.CodigoMatrizDestino, AnchoCodigo);
+    if (BuscarSerie(Evaluador.CodigoMatrizDestino) >= 0)
+        return MensajePunto(ventana, "Nombre matriz no válido"_w, 28);
+    if (BuscarEscalar(Evaluador.CodigoMatrizDestino) >= 0)
         return MensajePunto(ventana, "Nombre matriz no válido"_w, 29);
     SaltarBlancos(texto, posicion);
     if (CaracterEn(texto, posicion) == '{') return EvaluarLlaves(lineas, posicion, ventana, primera, ultima);

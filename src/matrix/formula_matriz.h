@@ -3,10 +3,8 @@
 
 #include "language/evaluador.h"
 
-// The code of the matrix to make, set by the caller before EvaluarFormulaMatriz; padded there.
-extern char CodigoMatrizDestino[AnchoCodigo];
-
-// Evaluates the formula that begins at `posicion` of lineas[NivelLinea] and stores it as CodigoMatrizDestino.
+// Evaluates the formula that begins at `posicion` of lineas[NivelLinea] and stores it as
+// Evaluador.CodigoMatrizDestino, which is padded.
 // `primera` and `ultima` are rows and matter to the brace form only, which leaves NivelLinea raised by one: the
 // caller puts it back. 1, or 0 after its message.
 int EvaluarFormulaMatriz(LineasSentencia &lineas, int &posicion, Ventana *ventana, int primera, int ultima);

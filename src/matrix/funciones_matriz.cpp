@@ -169,7 +169,7 @@ int AplicarFuncionMatriz(std::string_view nombre, double &resultado, int &posici
     const FuncionDeMatriz *f = BuscarFuncion(nombre);
     if (f == nullptr) return 0;
     if (FormulaMatriz.UltimoElemento == ElementoOperando) return ErrorEnSecuencia(53, ventana);
-    if (CaracterEn(lineas[static_cast<std::size_t>(Evaluador.NivelLinea)], posicion) != '(') return 0;
+    if (CaracterEn(LineaDelNivel(lineas), posicion) != '(') return 0;
     if (EvaluarParentesisMatriz(lineas, posicion, ventana) == 0) return 0;
     FormulaMatriz.UltimoElemento = ElementoOperando;
     if (FormulaMatriz.tope < 0) return 0;

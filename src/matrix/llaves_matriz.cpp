@@ -20,12 +20,11 @@ struct ColumnasLeidas {
 ColumnasLeidas Columnas;
 
 int CopiarLlaves(LineasSentencia &lineas, int &posicion, Ventana *ventana) {
-    if (Evaluador.NivelLinea >= MaxNiveles - 1) return MensajePunto(ventana, "Excesivos paréntesis"_w, 63);
-    const std::size_t nivel = static_cast<std::size_t>(Evaluador.NivelLinea);
-    const std::string &texto = lineas[nivel];
+    if (UltimoNivel()) return MensajePunto(ventana, "Excesivos paréntesis"_w, 63);
+    const std::string &texto = LineaDelNivel(lineas);
     const std::size_t desde = static_cast<std::size_t>(posicion) + 1;
     const std::size_t cierre = std::min(texto.find('}', desde), texto.size());
-    lineas[nivel + 1].assign(texto, desde, cierre - desde);
+    LineaDelNivel(lineas, 1).assign(texto, desde, cierre - desde);
     posicion = static_cast<int>(std::min(cierre + 1, texto.size()));
     ++Evaluador.NivelLinea;
     return 1;
@@ -115,7 +114,7 @@ int MatrizDesdeColumnas(int primera, int ultima, Ventana *ventana) {
 
 int EvaluarLlaves(LineasSentencia &lineas, int &posicion, Ventana *ventana, int primera, int ultima) {
     if (CopiarLlaves(lineas, posicion, ventana) == 0) return 0;
-    const std::string &texto = lineas[static_cast<std::size_t>(Evaluador.NivelLinea)];
+    const std::string &texto = LineaDelNivel(lineas);
     const int r =
         ColumnasDesdeLlaves(texto, ventana) == 1 ? MatrizDesdeColumnas(primera, ultima, ventana) : 0;
     // The columns were only counted, so none may be found on the stack.

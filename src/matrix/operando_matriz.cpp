@@ -17,7 +17,7 @@ constexpr PuntosEscalar PuntosDeEscalar = {50, 51, 52};
 
 int ApilarOperandoEscalar(double valor, const PuntosEscalar &puntos, const LineasSentencia &lineas,
                           int &posicion, Ventana *ventana) {
-    if (CaracterEn(lineas[static_cast<std::size_t>(Evaluador.NivelLinea)], posicion) == '\'') {
+    if (CaracterEn(LineaDelNivel(lineas), posicion) == '\'') {
         FormulaMatriz.EscalarTraspuesto = true;
         ++posicion;
     }
@@ -35,7 +35,7 @@ int ApilarFuncion(std::string_view nombre, LineasSentencia &lineas, int &posicio
     if (FormulaMatriz.UltimoElemento == ElementoOperando) return ErrorEnSecuencia(78, ventana);
     if (!cabe) return ErrorEnSecuencia(71, ventana);
     if (FormulaMatriz.numEscalares >= MaxTemporalesMatriz) return ErrorEnSecuencia(72, ventana);
-    const char siguiente = CaracterEn(lineas[static_cast<std::size_t>(Evaluador.NivelLinea)], posicion);
+    const char siguiente = CaracterEn(LineaDelNivel(lineas), posicion);
     if (nombre != "NOBS" && siguiente != '(') return ErrorEnSecuencia(78, ventana);
     double valor = 0.0;
     if (AplicarFuncionMatriz(nombre, valor, posicion, lineas, ventana) == 0)

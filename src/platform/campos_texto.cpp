@@ -59,3 +59,7 @@ void PonerCampo(char *campo, std::string_view texto, int n) {
     campo[cabe] = '\0';
     AjustarAncho(campo, n);
 }
+
+void PonerEnMayusculas(std::string &texto) {
+    std::transform(texto.begin(), texto.end(), texto.begin(), Mayuscula);
+}

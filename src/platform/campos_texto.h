@@ -1,4 +1,4 @@
-// The six operations on blank-padded text on which fixed fields rest.
+// The six operations on blank-padded text on which fixed fields rest, and capitals.
 #pragma once
 
 #include <string>
@@ -37,3 +37,10 @@ void JustificarCadena(char *destino, std::string_view texto, int ancho, Justific
 
 // Copies `texto` into a field of n bytes, cut at n - 1, and pads it with blanks (AjustarAncho).
 void PonerCampo(char *campo, std::string_view texto, int n);
+
+// The capital of a to z; any other character, accented letters among them, as it is.
+inline char Mayuscula(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+void PonerEnMayusculas(std::string &texto);

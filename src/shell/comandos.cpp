@@ -2,7 +2,7 @@
 #include "shell/comandos.h"
 
 #include "charts/resultados/listados.h"
-#include "language/lote_sentencias.h"
+#include "language/palabras.h"
 #include "platform/campos_texto.h"
 #include "shell/ayuda.h"
 #include "store/archivo.h"
@@ -199,5 +199,5 @@ bool CerrarPrograma(Ventana *ventana) {
 
 void IniciarPrograma() {
     IniciarArchivoTrabajo();
-    IniciarLote();
+    IniciarProcedimientos();
 }

@@ -44,9 +44,6 @@ struct CabeceraArchivo {
 
 extern CabeceraArchivo ArchivoTrabajo;
 
-// 0 makes the formula evaluator blind to the codes of series; set at every statement.
-extern std::int32_t SeriesPermitidas;
-
 // The row texts. PonerTextoPeriodo cuts and pads to 30 bytes and keeps ValoresPeriodo in step; TextoPeriodo gives the
 // text without blanks at its sides, empty for a row outside 0 to 3,999.
 void PonerTextoPeriodo(int fila, std::string_view texto);

@@ -55,8 +55,7 @@ int CodigoValido(std::string_view texto, Codigo codigo) {
     RecortarCadena(copia, codigo, RecorteIzquierda);
     for (int i = 0; i <= SignificativosCodigo; ++i)
         if (!CaracterDeCodigo(copia[i], i == 0)) return 0;
-    for (char *c = codigo; *c != '\0'; ++c)
-        if (*c >= 'a' && *c <= 'z') *c = static_cast<char>(*c - 'a' + 'A');
+    for (char *c = codigo; *c != '\0'; ++c) *c = Mayuscula(*c);
     return 1;
 }
 

@@ -5,8 +5,6 @@
 #include <cstring>
 
 CabeceraArchivo ArchivoTrabajo;
-std::int32_t SeriesPermitidas;
-
 namespace {
 
 bool EnBlanco(const Codigo &codigo) {

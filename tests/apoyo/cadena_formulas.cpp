@@ -24,7 +24,7 @@ void Poner(const std::string &texto) {
 
 bool Matriz(std::string_view destino, const std::string &texto) {
     Poner(texto);
-    PonerCampo(CodigoMatrizDestino, destino, AnchoCodigo);
+    PonerCampo(Evaluador.CodigoMatrizDestino, destino, AnchoCodigo);
     int posicion = 0;
     const int bien =
         EvaluarFormulaMatriz(Lineas, posicion, nullptr, Muestra.InicioRegresion, Muestra.FinRegresion);
@@ -41,12 +41,12 @@ bool Evaluar(const std::string &texto) {
 }
 
 bool Escalar(std::string_view destino, const std::string &texto) {
-    PonerCampo(Destinos.escalar, destino, AnchoCodigo);
+    PonerCampo(Evaluador.CodigoEscalarDestino, destino, AnchoCodigo);
     return Evaluar(texto) && GuardarEscalar() == 0;
 }
 
 bool Serie(std::string_view destino, const std::string &texto) {
-    PonerCampo(Destinos.serie, destino, AnchoCodigo);
+    PonerCampo(Evaluador.CodigoSerieDestino, destino, AnchoCodigo);
     return Evaluar(texto) && GuardarSerie() == 1;
 }
 

@@ -1,7 +1,7 @@
 // The platform of the tests.
 #include "apoyo/plataforma_prueba.h"
 
-#include "language/lote_sentencias.h"
+#include "language/palabras.h"
 #include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
@@ -117,7 +117,7 @@ void EmpezarPrueba() {
     Prueba = {};
     InstalarPlataforma(Operaciones);
     IniciarArchivoTrabajo();
-    IniciarLote();
+    IniciarProcedimientos();
 }
 
 void EmpezarConDatos(int tipo, std::string_view intervalo) {

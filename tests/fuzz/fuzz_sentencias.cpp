@@ -1,7 +1,7 @@
 // Any bytes as the text of the edit screen, processed whole over a small work file that starts anew each time.
 #include "charts/resultados/resultado.h"
 #include "estimation/regresion.h"
-#include "language/lote_sentencias.h"
+#include "language/palabras.h"
 #include "platform/campos_texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
@@ -67,7 +67,7 @@ void EmpezarDeNuevo() {
     LimpiarBufferMatriz();
     LimpiarLimitesMuestra();
     Muestra = {};
-    IniciarLote();
+    IniciarProcedimientos();
 }
 
 void PonerDatos() {

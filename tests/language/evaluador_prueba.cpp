@@ -290,7 +290,7 @@ TEST_F(Formulas, CodigosEnBlanco) {
 }
 
 TEST_F(Formulas, SinPermisoParaSeries) {
-    SeriesPermitidas = 0;
+    Evaluador.SeriesPermitidas = 0;
     EXPECT_EQ(Evaluar("A"), 0);
     EXPECT_EQ(TextosDeCajas(), (std::vector<std::string>{"Función desconocida [A]", "A. Pto 199"}));
     LimpiarEvaluador();

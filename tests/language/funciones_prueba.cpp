@@ -128,13 +128,13 @@ TEST_F(Formulas, Totales) {
 
 // The totals see series where a caller has switched them off, from then on to the end of the statement.
 TEST_F(Formulas, LosTotalesVenSeries) {
-    SeriesPermitidas = 0;
+    Evaluador.SeriesPermitidas = 0;
     EXPECT_EQ(Evaluar("LN(A)"), 0);
     LimpiarEvaluador();
-    SeriesPermitidas = 0;
+    Evaluador.SeriesPermitidas = 0;
     EXPECT_EQ(Evaluar("SUMSER(A) + A"), 1);
     EXPECT_EQ(ValorSuperior(), 56);
-    EXPECT_EQ(SeriesPermitidas, 1);
+    EXPECT_EQ(Evaluador.SeriesPermitidas, 1);
 }
 
 // ---------------------------------------------------------------------------------------------------------------

@@ -290,6 +290,30 @@ TEST(Lote, LaMuestraLlegaConLaLlamada) {
     EXPECT_EQ(EscalarDe("A"), 15.0);
 }
 
+// The statement of a dialog, over the rows that the dialog names.
+TEST(Lote, SentenciaDeDialogo) {
+    const struct {
+        const char *texto;
+        int resultado;
+        int cajas;
+    } casos[] = {{"ESC A = SUMSER(X)", 1, 0},
+                 {"ESC A = SUMSER(X", 0, 1},
+                 {"QQ", 0, 1},
+                 {"; nada", 1, 0},
+                 // Control flow needs a selection: here its words are unknown.
+                 {"REPITE J DESDE 1 HASTA 3", 0, 1}};
+    for (const auto &c : casos) {
+        SCOPED_TRACE(c.texto);
+        EmpezarLote();
+        EXPECT_EQ(ProcesarSentencia(nullptr, c.texto, 3, 5), c.resultado);
+        EXPECT_EQ(Lote.NingunaSentenciaHecha, 1 - c.resultado);
+        EXPECT_EQ(static_cast<int>(Prueba.cajas.size()), c.cajas);
+    }
+    EmpezarLote();
+    ProcesarSentencia(nullptr, "ESC A = SUMSER(X)", 3, 5);
+    EXPECT_EQ(EscalarDe("A"), 15.0);
+}
+
 // Each operator of two characters becomes one and a blank; the order of the passes decides what overlaps.
 TEST(Lote, OperadoresDeDosCaracteres) {
     const struct {

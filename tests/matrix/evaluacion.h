@@ -37,7 +37,7 @@ inline int Evaluar(std::string_view formula, std::string_view destino = "RES", i
     Prueba.cajas.clear();
     LineasDePrueba[0] = Texto1252DeUtf8(formula);
     Evaluador.NivelLinea = 0;
-    PonerCampo(CodigoMatrizDestino, destino, AnchoCodigo);
+    PonerCampo(Evaluador.CodigoMatrizDestino, destino, AnchoCodigo);
     int posicion = 0;
     const int r = EvaluarFormulaMatriz(LineasDePrueba, posicion, nullptr, primera, ultima);
     EXPECT_GE(posicion, 0);
@@ -85,7 +85,7 @@ class ConMatrices : public ::testing::Test {
 protected:
     void SetUp() override {
         EmpezarConDatos(TipoSinPeriodicidad, "");
-        SeriesPermitidas = 1;
+        Evaluador.SeriesPermitidas = 1;
         ComoRecienArrancado();
         PonerMatriz("A", {2, 2, {1, 2, 3, 4}});
         PonerMatriz("B", {2, 2, {5, 6, 7, 8}});

@@ -91,7 +91,7 @@ TEST_F(ConMatrices, LlavesConMuestraSinDatos) {
 TEST_F(ConMatrices, LlavesDejanElNivelUnoMasArriba) {
     LineasDePrueba[3] = "{S}";
     Evaluador.NivelLinea = 3;
-    PonerCampo(CodigoMatrizDestino, "RES", AnchoCodigo);
+    PonerCampo(Evaluador.CodigoMatrizDestino, "RES", AnchoCodigo);
     int posicion = 0;
     EXPECT_EQ(EvaluarFormulaMatriz(LineasDePrueba, posicion, nullptr, 0, 0), 1);
     EXPECT_EQ(Evaluador.NivelLinea, 4);
@@ -102,7 +102,7 @@ TEST_F(ConMatrices, LlavesDejanElNivelUnoMasArriba) {
 TEST_F(ConMatrices, LlavesEnElUltimoNivel) {
     LineasDePrueba[11] = "{S}";
     Evaluador.NivelLinea = 11;
-    PonerCampo(CodigoMatrizDestino, "RES", AnchoCodigo);
+    PonerCampo(Evaluador.CodigoMatrizDestino, "RES", AnchoCodigo);
     int posicion = 0;
     EXPECT_EQ(EvaluarFormulaMatriz(LineasDePrueba, posicion, nullptr, 0, 0), 0);
     EXPECT_EQ(Cajas(), std::vector<std::string>{"Excesivos paréntesis. Pto 63"});

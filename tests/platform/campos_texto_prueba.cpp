@@ -125,4 +125,16 @@ TEST(CamposTexto, UnaEtiquetaConAcentosOcupaSusDocePlazas) {
     EXPECT_STREQ(campo, "Pe\xF1\xF3n       ");
 }
 
+TEST(CamposTexto, Mayusculas) {
+    for (int i = 0; i < 256; ++i) {
+        const char c = static_cast<char>(i);
+        const bool minuscula =
+            std::string_view("abcdefghijklmnopqrstuvwxyz").find(c) != std::string_view::npos;
+        EXPECT_EQ(Mayuscula(c), static_cast<char>(minuscula ? i - 32 : i)) << i;
+    }
+    std::string texto = "aZz{`@ 1 \xF1";
+    PonerEnMayusculas(texto);
+    EXPECT_EQ(texto, "AZZ{`@ 1 \xF1");
+}
+
 } // namespace

@@ -1,0 +1,62 @@
+// The words of the language with their routines, and the start of what they work with. This file stands above all
+// folders: a room that brings a word is named here, and the language never hears of the room.
+#include "language/palabras.h"
+
+#include "estimation/regresion.h"
+#include "store/periodos.h"
+
+namespace {
+
+int Regresion(Orden &o) {
+    return EstimarRegresion(o.lineas, o.detras, o.ventana, o.codigo);
+}
+
+// MC and MCP work on the bounds of the batch; the other regressions on those of the last MC or MCP.
+int RegresionPrincipal(Orden &o) {
+    Muestra.InicioRegresion = o.primera;
+    Muestra.FinRegresion = o.ultima;
+    return Regresion(o);
+}
+
+int PorEnsamblar(Orden &o) {
+    return NoEnsamblada(o.ventana);
+}
+
+// FICTIC has no row: it is found behind SER.
+constexpr Palabra Tabla[] = {
+    {"REPITE", OrdenDesconocida, SoloSeleccion, FueraDeBloques, EjecutarControl},
+    {"MIENTRAS", OrdenDesconocida, SoloSeleccion, FueraDeBloques, EjecutarControl},
+    {"SI", OrdenDesconocida, SoloSeleccion, FueraDeBloques, EjecutarControl},
+    {"MUEST", OrdenDesconocida, Siempre, FueraDeBloques, EjecutarMUEST},
+    {"GRAF", OrdenDesconocida, Siempre, FueraDeBloques, PorEnsamblar},
+    {"HIST", OrdenDesconocida, Siempre, FueraDeBloques, PorEnsamblar},
+    {"DECI", OrdenDesconocida, Siempre, FueraDeBloques, EjecutarDECI},
+    {"AES", OrdenAES, Siempre, FueraDeBloques, EjecutarNada},
+    {"AED", OrdenAED, Siempre, FueraDeBloques, EjecutarNada},
+    {"SER", OrdenSER, SinParentesis, DentroDeBloques, EjecutarFormula},
+    {"CAL", OrdenCAL, Siempre, DentroDeBloques, EjecutarFormula},
+    {"ESC", OrdenESC, Siempre, DentroDeBloques, EjecutarFormula},
+    {"MAT", OrdenMAT, SinParentesis, DentroDeBloques, EjecutarFormula},
+    {"MC", OrdenMC, Siempre, DentroConMuestra, RegresionPrincipal},
+    {"CR", OrdenCR, Siempre, DentroDeBloques, Regresion},
+    {"MGN", OrdenMGN, Siempre, DentroDeBloques, Regresion},
+    {"MGD", OrdenMGD, Siempre, DentroDeBloques, Regresion},
+    {"CWH", OrdenCWH, Siempre, DentroDeBloques, Regresion},
+    {"MCP", OrdenMCP, Siempre, DentroDeBloques, RegresionPrincipal},
+    {"OBS", OrdenOBS, Siempre, DentroDeBloques, EjecutarFormula},
+    {"CWA", OrdenCWA, Siempre, DentroDeBloques, PorEnsamblar},
+    {"CHN", OrdenCHN, Siempre, DentroDeBloques, PorEnsamblar},
+    {"CGQ", OrdenCGQ, Siempre, DentroDeBloques, PorEnsamblar},
+    {"CRA", OrdenCRA, Siempre, DentroDeBloques, PorEnsamblar},
+    {"CDU", OrdenCDU, Siempre, DentroDeBloques, PorEnsamblar},
+    {"VSR", OrdenVSR, Siempre, FueraDeBloques, EjecutarVSR},
+};
+
+} // namespace
+
+constinit const std::span<const Palabra> Palabras = Tabla;
+
+void IniciarProcedimientos() {
+    IniciarLote();
+    IniciarRegresion();
+}
