@@ -64,8 +64,7 @@ bool EsDeMuestra(const Importacion &m, int fila) {
 void PonerValor(const Importacion &m, int fila, int columna) {
     if (!EsDeMuestra(m, fila) || columna < 0 || columna >= MaxSeries) return;
     const bool falta = CadenaDeCaracter(m.campo, ' ') == 1 || CadenaDeCaracter(m.campo, '-') == 1;
-    ArchivoTrabajo.ValoresObs[fila][columna] = falta ? 0.0 : LeerDecimal(m.campo);
-    ArchivoTrabajo.PresenciaObs[fila][columna] = falta ? 0 : 1;
+    PonerObservacion(fila, columna, falta ? 0.0 : LeerDecimal(m.campo), falta ? 0 : 1);
 }
 
 void PonerEtiqueta(const Importacion &m, int fila, std::string_view etiqueta) {

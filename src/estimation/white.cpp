@@ -42,8 +42,7 @@ int GenerarCuadrados(Estimacion &e) {
     PonerCodigoSerie(s, "_RESCUAD");
     for (int i = 0; i < MaxObservaciones; ++i) {
         const double residuo = ArchivoTrabajo.ValoresObs[i][residuos];
-        ArchivoTrabajo.ValoresObs[i][s] = residuo * residuo;
-        ArchivoTrabajo.PresenciaObs[i][s] = 1;
+        PonerObservacion(i, s, residuo * residuo, 1);
     }
     ArchivoTrabajo.PrimeraObs[s] = 0;
     ArchivoTrabajo.UltimaObs[s] = MaxObservaciones - 1;

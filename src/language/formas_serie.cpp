@@ -47,10 +47,8 @@ void LlenarDesdeMatriz(int serie, int m) {
     const int fin = std::min(Muestra.FinRegresion, MaxObservaciones - 1);
     // One column, and never more rows than the block has, whatever a damaged record says.
     const int filas = matriz.Columnas == 1 ? std::min<int>(matriz.Filas, TablaMatrices.capacidad[m]) : 0;
-    for (int i = std::max(0, -inicio); i < filas && inicio + i <= fin; ++i) {
-        ArchivoTrabajo.ValoresObs[inicio + i][serie] = matriz.Datos[i];
-        ArchivoTrabajo.PresenciaObs[inicio + i][serie] = 1;
-    }
+    for (int i = std::max(0, -inicio); i < filas && inicio + i <= fin; ++i)
+        PonerObservacion(inicio + i, serie, matriz.Datos[i], 1);
 }
 
 } // namespace
@@ -169,9 +167,8 @@ void LlenarFicticia(int ficticia, int serie, int valor, int desde, int hasta) {
     LimpiarColumna(ficticia);
     for (int i = desde; i < hasta; ++i) {
         if (ArchivoTrabajo.PresenciaObs[i][serie] != 1) continue;
-        ArchivoTrabajo.PresenciaObs[i][ficticia] = 1;
-        ArchivoTrabajo.ValoresObs[i][ficticia] =
-            Truncado(ArchivoTrabajo.ValoresObs[i][serie]) == valor ? 1.0 : 0.0;
+        const bool igual = Truncado(ArchivoTrabajo.ValoresObs[i][serie]) == valor;
+        PonerObservacion(i, ficticia, igual ? 1.0 : 0.0, 1);
     }
 }
 

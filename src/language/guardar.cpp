@@ -20,18 +20,25 @@ bool Rechazada(const char *serie) {
     return BuscarMatriz(serie) >= 0 || BuscarEscalar(serie) >= 0 || Evaluador.profundidad < 1;
 }
 
-// Rows of the sample with their value and flag where there is one; all else of the 4,000 rows is cleared. Within the
-// work file a row can hold a value without its flag, which a lag would read. Behind its end it holds none, and leaving
-// the value alone there halves the memory that the store of a short series goes through.
+// Rows of the sample with their value and flag where there is one; all else of the 4,000 rows is cleared, values without
+// a flag included, which a lag would read.
 void CopiarColumna(int serie, int primera, int ultima) {
     const ColumnaPila &columna = ColumnaSuperior();
     CabeceraArchivo &a = ArchivoTrabajo;
-    for (int i = 0; i < MaxObservaciones; ++i) {
-        const bool hay = i >= primera && i <= ultima && columna.presente[i] == 1;
-        if (!hay && i >= a.NumObs && a.PresenciaObs[i][serie] == 0) continue;
+    const auto limpiar = [&](int desde, int hasta) {
+        for (int i = desde; i < hasta; ++i) {
+            a.ValoresObs[i][serie] = 0.0;
+            a.PresenciaObs[i][serie] = 0;
+        }
+    };
+    limpiar(0, std::min<int>(primera, a.FilasEscritas[serie]));
+    limpiar(std::max(ultima + 1, 0), a.FilasEscritas[serie]);
+    for (int i = primera; i <= ultima; ++i) {
+        const bool hay = columna.presente[i] == 1;
         a.ValoresObs[i][serie] = hay ? columna.valor[i] : 0.0;
         a.PresenciaObs[i][serie] = hay ? 1 : 0;
     }
+    a.FilasEscritas[serie] = std::max(ultima + 1, 0);
 }
 
 // A lag leaves the first rows of the work file without a value, whatever the sample; a lead the last rows of the
@@ -74,8 +81,7 @@ int GuardarEnPeriodo(std::string_view periodo, bool fueraDeMuestra) {
     if (fila < 0) return 1;
     // The value is that of the first row of the bounds, for every row, and it is stored as present even where the
     // formula had it missing.
-    ArchivoTrabajo.ValoresObs[fila][serie] = ValorSuperior();
-    ArchivoTrabajo.PresenciaObs[fila][serie] = 1;
+    PonerObservacion(fila, serie, ValorSuperior(), 1);
     RefrescarEditor();
     --Evaluador.profundidad;
     return 1;

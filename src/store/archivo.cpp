@@ -6,6 +6,7 @@
 #include "store/panel.h"
 #include "store/periodos.h"
 
+#include <algorithm>
 #include <cstring>
 
 TablaDeEcuaciones TablaEcuaciones;
@@ -26,8 +27,11 @@ namespace {
 void VaciarTablas() {
     CabeceraArchivo &a = ArchivoTrabajo;
     a.NumSeries = 0;
-    std::memset(a.ValoresObs, 0, sizeof a.ValoresObs);
-    std::memset(a.PresenciaObs, 0, sizeof a.PresenciaObs);
+    const auto filas =
+        static_cast<std::size_t>(*std::max_element(a.FilasEscritas, a.FilasEscritas + MaxSeries));
+    std::memset(a.ValoresObs, 0, filas * sizeof a.ValoresObs[0]);
+    std::memset(a.PresenciaObs, 0, filas * sizeof a.PresenciaObs[0]);
+    std::memset(a.FilasEscritas, 0, sizeof a.FilasEscritas);
     for (auto &codigo : a.Codigos) RellenarCadena(codigo, ' ', AnchoCodigo - 1);
     for (auto &etiqueta : a.EtiquetasObs) RellenarCadena(etiqueta, ' ', AnchoEtiqueta - 1);
     for (int i = 0; i < MaxObservaciones; ++i) PonerTextoPeriodo(i, "");

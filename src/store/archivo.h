@@ -40,9 +40,25 @@ struct CabeceraArchivo {
     std::int16_t UltimaObs[MaxSeries];
     std::int32_t ConEtiquetas;
     double ValoresPeriodo[MaxObservaciones]; // the number that each text of TextosPeriodo begins with
+    // Rows of each slot that may hold something: from this one on value and flag are 0. Whoever writes an observation keeps
+    // it (PonerObservacion, MarcarFilas), so that clearing and copying a short series doesn't touch all 4,000 rows.
+    std::int32_t FilasEscritas[MaxSeries];
 };
 
 extern CabeceraArchivo ArchivoTrabajo;
+
+// Notes that the first `filas` rows of a slot may hold something.
+inline void MarcarFilas(int serie, int filas) {
+    std::int32_t &marca = ArchivoTrabajo.FilasEscritas[serie];
+    if (filas > marca) marca = filas;
+}
+
+// Writes one observation, row 0 to 3,999, slot 0 to 99: every writer of single observations comes here.
+inline void PonerObservacion(int fila, int serie, double valor, std::int32_t presencia) {
+    ArchivoTrabajo.ValoresObs[fila][serie] = valor;
+    ArchivoTrabajo.PresenciaObs[fila][serie] = presencia;
+    MarcarFilas(serie, fila + 1);
+}
 
 // The row texts. PonerTextoPeriodo cuts and pads to 30 bytes and keeps ValoresPeriodo in step; TextoPeriodo gives the
 // text without blanks at its sides, empty for a row outside 0 to 3,999.

@@ -55,7 +55,9 @@ void LimitesDeDatos(bool faltaInicio, bool faltaFin) {
         if (faltaFin) Muestra.FinMuestra = ArchivoTrabajo.NumObs - 1;
         return;
     }
-    const int filas = FilasEnUso();
+    // Behind the rows that were ever written there is nothing to find.
+    const std::int32_t *escritas = ArchivoTrabajo.FilasEscritas;
+    const int filas = std::min<int>(FilasEnUso(), *std::max_element(escritas, escritas + series));
     std::int32_t primera[MaxSeries];
     std::int32_t ultima[MaxSeries];
     BuscarExtremos(0, 1, filas, series, primera);

@@ -42,10 +42,11 @@ int TomarSerie(std::string_view codigo) {
 }
 
 void LimpiarColumna(int serie) {
-    for (int i = 0; i < MaxObservaciones; ++i) {
+    for (int i = 0; i < ArchivoTrabajo.FilasEscritas[serie]; ++i) {
         ArchivoTrabajo.ValoresObs[i][serie] = 0.0;
         ArchivoTrabajo.PresenciaObs[i][serie] = 0;
     }
+    ArchivoTrabajo.FilasEscritas[serie] = 0;
 }
 
 void PonerCodigoSerie(int serie, std::string_view codigo) {
@@ -56,16 +57,25 @@ void BorrarSerie(int serie) {
     PonerCodigoSerie(serie, "");
 }
 
+namespace {
+
+// All 4,000 rows of a column go to another one, which loses what it had; the first is left empty.
+void MoverColumna(int origen, int destino) {
+    LimpiarColumna(destino);
+    for (int i = 0; i < ArchivoTrabajo.FilasEscritas[origen]; ++i)
+        PonerObservacion(i, destino, ArchivoTrabajo.ValoresObs[i][origen],
+                         ArchivoTrabajo.PresenciaObs[i][origen]);
+    LimpiarColumna(origen);
+}
+
+} // namespace
+
 void CompactarSeries() {
     int destino = 0;
     for (int s = 0; s < MaxSeries; ++s) {
         if (EnBlanco(ArchivoTrabajo.Codigos[s])) continue;
         if (s != destino) {
-            for (int i = 0; i < MaxObservaciones; ++i) {
-                ArchivoTrabajo.ValoresObs[i][destino] = ArchivoTrabajo.ValoresObs[i][s];
-                ArchivoTrabajo.PresenciaObs[i][destino] = ArchivoTrabajo.PresenciaObs[i][s];
-            }
-            LimpiarColumna(s);
+            MoverColumna(s, destino);
             std::memcpy(ArchivoTrabajo.Codigos[destino], ArchivoTrabajo.Codigos[s], AnchoCodigo);
             ArchivoTrabajo.PrimeraObs[destino] = ArchivoTrabajo.PrimeraObs[s];
             ArchivoTrabajo.UltimaObs[destino] = ArchivoTrabajo.UltimaObs[s];

@@ -135,8 +135,7 @@ void PonerSerie(std::string_view codigo, const std::vector<double> &valores, int
     LimpiarColumna(s);
     for (std::size_t i = 0; i < valores.size(); ++i) {
         if (std::isnan(valores[i])) continue;
-        ArchivoTrabajo.ValoresObs[primera + static_cast<int>(i)][s] = valores[i];
-        ArchivoTrabajo.PresenciaObs[primera + static_cast<int>(i)][s] = 1;
+        PonerObservacion(primera + static_cast<int>(i), s, valores[i], 1);
     }
 }
 

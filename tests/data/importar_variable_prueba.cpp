@@ -216,8 +216,7 @@ TEST(ImportarVariable, SustituirSeries) {
         PonerSerie("P", {5, 6});
         PonerSerie("Q", {7, 8});
         PonerCodigoSerie(99, "LEJOS");
-        ArchivoTrabajo.ValoresObs[3999][99] = 4.0;
-        ArchivoTrabajo.PresenciaObs[3999][99] = 1;
+        PonerObservacion(3999, 99, 4.0, 1);
         for (int i = 0; i < 2; ++i) ArchivoTrabajo.EtiquetasObs[i][0] = i == 0 ? 'a' : 'b';
         OpcionesIntercambio opciones = Variable({.primerCampoEtiquetas = caso.etiquetas});
         opciones.SustituirSeries = caso.sustituir;

@@ -77,8 +77,7 @@ void PonerDatos() {
         PonerCodigoSerie(s, codigo);
         for (int i = 0; i < Filas; ++i) {
             if (codigo[0] == 'Z' && i == 4) continue; // a missing value
-            ArchivoTrabajo.ValoresObs[i][s] = (i * 7 + codigo[0]) % 11 - 3.5;
-            ArchivoTrabajo.PresenciaObs[i][s] = 1;
+            PonerObservacion(i, s, (i * 7 + codigo[0]) % 11 - 3.5, 1);
         }
     }
     const double datos[] = {2, 1, 0, 1, 3, 1, 0, 1, 4};

@@ -89,10 +89,7 @@ TEST(Series, CompactarMueveLas4000Filas) {
     PonerSerie("A", {1});
     PonerSerie("B", {2});
     PonerSerie("C", {3});
-    for (const int fila : {0, 1999, MaxObservaciones - 1}) {
-        ArchivoTrabajo.ValoresObs[fila][2] = fila + 0.5;
-        ArchivoTrabajo.PresenciaObs[fila][2] = 1;
-    }
+    for (const int fila : {0, 1999, MaxObservaciones - 1}) PonerObservacion(fila, 2, fila + 0.5, 1);
     BorrarSerie(0);
     BorrarSerie(1);
     CompactarSeries();
@@ -104,6 +101,39 @@ TEST(Series, CompactarMueveLas4000Filas) {
         EXPECT_EQ(ArchivoTrabajo.PresenciaObs[fila][2], 0);
     }
     EXPECT_EQ(ArchivoTrabajo.PresenciaObs[500][0], 0);
+}
+
+// A column that goes over a longer one which was blanked leaves nothing of it behind.
+TEST(Series, CompactarSobreUnaColumnaMasLarga) {
+    EmpezarConDatos(TipoSinPeriodicidad, "");
+    PonerSerie("A", {1, 2, 3});
+    PonerSerie("B", {9});
+    BorrarSerie(0);
+    CompactarSeries();
+    EXPECT_EQ(BuscarSerie("B"), 0);
+    EXPECT_EQ(ArchivoTrabajo.FilasEscritas[0], 1);
+    EXPECT_EQ(ArchivoTrabajo.FilasEscritas[1], 0);
+    for (int fila = 1; fila < 3; ++fila) {
+        EXPECT_EQ(ArchivoTrabajo.ValoresObs[fila][0], 0.0);
+        EXPECT_EQ(ArchivoTrabajo.PresenciaObs[fila][0], 0);
+    }
+}
+
+TEST(Series, LaMarcaSubeConLaUltimaFilaYBajaAlLimpiar) {
+    EmpezarConDatos(TipoSinPeriodicidad, "");
+    PonerSerie("A", {1});
+    PonerObservacion(7, 0, 5.0, 1);
+    PonerObservacion(3, 0, 5.0, 1);
+    EXPECT_EQ(ArchivoTrabajo.FilasEscritas[0], 8);
+    PonerObservacion(MaxObservaciones - 1, 0, 5.0, 1);
+    EXPECT_EQ(ArchivoTrabajo.FilasEscritas[0], MaxObservaciones);
+    LimpiarColumna(0);
+    EXPECT_EQ(ArchivoTrabajo.FilasEscritas[0], 0);
+    EXPECT_EQ(ArchivoTrabajo.PresenciaObs[MaxObservaciones - 1][0], 0);
+    PonerObservacion(2, 0, 5.0, 1);
+    VaciarArchivoTrabajo();
+    EXPECT_EQ(ArchivoTrabajo.FilasEscritas[0], 0);
+    EXPECT_EQ(ArchivoTrabajo.ValoresObs[2][0], 0.0);
 }
 
 TEST(Series, CompactarLlevaLosLimitesDeLaSerie) {
