@@ -20,7 +20,6 @@ set(pendientes
     "store/temporales.cpp estimation/regresion.h"
     "store/ventanas/dialogo_tipo_datos.cpp shell/ayuda.h"
     "store/ventanas/dialogo_tipo_datos.cpp shell/ventanas/dialogos.h"
-    "charts/resultados/informe_impreso.cpp estimation/regresion.h"
     "charts/resultados/ventanas/dialogo_seleccion.cpp shell/ventanas/dialogos.h"
     "platform/qt/plataforma_qt.cpp charts/resultados/ventanas/ventana_resultado_qt.h")
 

@@ -1,30 +1,14 @@
-// The report of a regression, as lines of text.
+// The reports of regressions and tests: which window shows them, under which titles, and whether.
 #pragma once
 
-#include "charts/resultados/resultado.h"
+#include "charts/resultados/partes_informe.h"
+#include "estimation/bloque_regresion.h"
 
 #include <string>
 #include <vector>
 
-// A number of a report: `decimales` from 0 to 7, any other count means 10. At the right of `ancho` characters; a longer
-// one is cut to its first `ancho` - 1 characters.
-std::string NumeroCampo(int decimales, double valor, int ancho);
-
-// Title of the result window of a code.
+// Title of the result window of a code; empty for a code that has none.
 std::string TituloRegresion(int codigo);
-
-// A part of the sample as Goldfeld and Quandt's test orders it: positions from 1, both included, and the row of the
-// first one.
-struct ParteMuestra {
-    int primera, ultima;
-    int fila;
-};
-
-// Appends the block of a regression to `texto` and its rows to `tablas`. The code selects the results: 8 and 13; 10
-// and 11, with the part of the ordered sample that they ran on; 12, with names at the left. 1, or 0 after a message when
-// a result is gone.
-int BloqueRegresion(TextoSalida &texto, std::vector<TablaCoeficientes> &tablas, Ventana *ventana, int codigo,
-                    const ParteMuestra *parte);
 
 // What a result window shows: its lines, where its coefficient tables stand, and the same for a spreadsheet.
 struct InformeProducido {
@@ -32,6 +16,9 @@ struct InformeProducido {
     std::vector<TablaCoeficientes> tablas;
     std::string tabla; // may stay empty
 };
+
+// Puts the code and what its kind of report asks of window and paper into a result.
+void PonerClase(SalidaResultado &salida, int codigo);
 
 // Fills the report of a code. 1, or 0 after a message.
 using ProductorDeInforme = int (*)(InformeProducido &informe, Ventana *ventana, int clase);

@@ -230,7 +230,7 @@ bool HacerListado(const Accion &accion) {
             bien = false;
         }
     }
-    return ImprimirElegidas(seleccion, nullptr) == 0 && bien;
+    return ImprimirElegidas(seleccion, Lote.DecimalesSalida, nullptr) == 0 && bien;
 }
 
 bool HacerImprimir(const Accion &accion) {

@@ -1,7 +1,6 @@
 // The printer of a run.
 #include "lote/impresora.h"
 
-#include "charts/resultados/impresion.h"
 #include "lote/modulo_pdf.h"
 #include "lote/sucesos.h"
 
@@ -28,14 +27,6 @@ struct EstadoImpresora {
 
 EstadoImpresora Impresora;
 
-// What a window of each kind asks for, by TiposDeSalida. The result window proper goes by its content, and dialogs
-// can't be printed.
-constexpr int SinImpresion = -1;
-constexpr int ClaseDeVentana[] = {ImprimirInforme,    ImprimirHipotesis,  ImprimirTablaAutocorrelacion,
-                                  ImprimirNormalidad, ImprimirPrediccion, ImprimirDescriptivos,
-                                  ImprimirHistograma, SinImpresion,       SinImpresion,
-                                  SinImpresion};
-
 } // namespace
 
 void ElegirDocumento(const std::string &ruta) {
@@ -60,11 +51,6 @@ void TerminarTrabajoDeCorrida() {
     DocumentoDeCorrida &d = *Impresora.enUso;
     if (d.paginas.empty()) d.titulo = trabajo.titulo;
     std::move(trabajo.paginas.begin(), trabajo.paginas.end(), std::back_inserter(d.paginas));
-}
-
-void ImprimirVentana(const SalidaResultado &salida) {
-    const int clase = salida.tipo == SalidaRegresion ? salida.Contenido : ClaseDeVentana[salida.tipo];
-    if (clase != SinImpresion) ImprimirResultado(nullptr, clase, salida);
 }
 
 bool EscribirDocumentos() {

@@ -1,8 +1,6 @@
 // The printer of a run: its jobs become events, and their pages the documents that --imprimir names.
 #pragma once
 
-#include "charts/resultados/resultado.h"
-
 #include <string>
 
 // From here on pages go to the PDF document `ruta`, behind those that it got before. Without a document they go
@@ -11,9 +9,6 @@ void ElegirDocumento(const std::string &ruta);
 
 // Ends a job of the platform: its event, and its pages to the document in use.
 void TerminarTrabajoDeCorrida();
-
-// Prints a result window as its command "Imprimir" does; windows without that command are left out.
-void ImprimirVentana(const SalidaResultado &salida);
 
 // Writes every document that has pages. False, with one line on standard error for each, where that failed.
 bool EscribirDocumentos();

@@ -1,6 +1,7 @@
 // The events of a run.
 #include "lote/sucesos.h"
 
+#include "charts/resultados/impresion.h"
 #include "charts/resultados/ventana_resultado.h"
 #include "lote/corrida.h"
 #include "lote/impresora.h"
@@ -107,7 +108,7 @@ void SeleccionDelControl(ControlTexto *control, int &desde, int &hasta) {
 
 void MostrarResultado(Ventana *, const SalidaResultado &salida) {
     SucesoSalida(salida);
-    if (Corrida.imprimirSalidas) ImprimirVentana(salida);
+    if (Corrida.imprimirSalidas) ImprimirResultado(nullptr, salida);
 }
 
 std::int32_t Segundos() {

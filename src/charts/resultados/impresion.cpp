@@ -1,9 +1,6 @@
 // Print jobs.
 #include "charts/resultados/impresion.h"
 
-#include "charts/resultados/informe_impreso.h"
-#include "charts/resultados/listados.h"
-
 #include <algorithm>
 #include <iterator>
 
@@ -21,36 +18,18 @@ struct EstadoImpresion {
 
 EstadoImpresion Impresion;
 
-struct FilaDeImpresion {
-    int clase;
-    RutinaDeImpresion rutina; // null: not built yet
-};
-
-constexpr FilaDeImpresion TablaImpresion[] = {
-    {ImprimirInforme, ImprimirTextoInforme},
-    {ImprimirMatrices, ListarMatrices},
-    {ImprimirSeries, ListarSeries},
-    {ImprimirGraficoAutocorrelacion, nullptr},
-    {ImprimirTablaAutocorrelacion, nullptr},
-    {ImprimirHistograma, nullptr},
-    {ImprimirHipotesis, nullptr},
-    {ImprimirGraficoSeries, nullptr},
-    {ImprimirCovarianza, nullptr},
-    {ImprimirValores, nullptr},
-    {ImprimirGraficoValores, nullptr},
-    {ImprimirGraficoResiduos, nullptr},
-    {ImprimirDescriptivos, nullptr},
-    {ImprimirVarianza, nullptr},
-    {ImprimirPrediccion, nullptr},
-    {ImprimirNormalidad, nullptr},
-    {ImprimirGraficoPrediccion, nullptr},
-    {ImprimirPantalla, ListarPantalla},
-};
+// What a window of each kind prints, by TiposDeSalida. The result window proper goes by its content.
+constexpr int SinImpresion = -1;
+constexpr int ClaseDeVentana[] = {ImprimirInforme,    ImprimirHipotesis,  ImprimirTablaAutocorrelacion,
+                                  ImprimirNormalidad, ImprimirPrediccion, ImprimirDescriptivos,
+                                  ImprimirHistograma, SinImpresion,       SinImpresion,
+                                  SinImpresion};
+constexpr int ClaseDeContenido[] = {ImprimirInforme, ImprimirCovarianza, ImprimirValores, ImprimirVarianza};
 
 RutinaDeImpresion RutinaDe(int clase) {
-    const auto *fila = std::find_if(std::begin(TablaImpresion), std::end(TablaImpresion),
-                                    [clase](const FilaDeImpresion &f) { return f.clase == clase; });
-    return fila != std::end(TablaImpresion) ? fila->rutina : nullptr;
+    const auto fila = std::find_if(TablaImpresion.begin(), TablaImpresion.end(),
+                                   [clase](const FilaDeImpresion &f) { return f.clase == clase; });
+    return fila != TablaImpresion.end() ? fila->rutina : nullptr;
 }
 
 bool IniciarDocumento(DocumentoImpresion &d, const char *nombre) {
@@ -74,12 +53,12 @@ bool CerrarDocumento(DocumentoImpresion &d) {
     return bien;
 }
 
-bool HacerTrabajo(Ventana *ventana, RutinaDeImpresion rutina) {
+bool HacerTrabajo(Ventana *ventana, RutinaDeImpresion rutina, const void *datos) {
     DocumentoImpresion &d = Impresion.propio;
     d = {.dispositivo = AbrirImpresora(), .conDocumento = false, .conPagina = false};
     if (d.dispositivo == nullptr) return false;
-    bool bien =
-        IniciarDocumento(d, "Imprime1: Imprimiendo") && IniciarPagina(d) && rutina(d.dispositivo, ventana);
+    bool bien = IniciarDocumento(d, "Imprime1: Imprimiendo") && IniciarPagina(d) &&
+                rutina(d.dispositivo, ventana, datos);
     bien = CerrarDocumento(d) && bien;
     // No page change follows that would end the document of the last one.
     return CerrarDocumento(Impresion.siguiente) && bien;
@@ -97,25 +76,24 @@ DispositivoImpresion *AbrirImpresora() {
     return Plataforma().abrirImpresora();
 }
 
-int ImprimirSalida(Ventana *ventana, std::string_view titulo, int clase) {
+int ImprimirSalida(Ventana *ventana, std::string_view titulo, int clase, const void *datos) {
     const RutinaDeImpresion rutina = RutinaDe(clase);
-    if (rutina == nullptr) return 1;
+    if (rutina == nullptr || datos == nullptr) return 1;
     PonerCursor(CursorEspera);
     Plataforma().empezarTrabajo(titulo);
-    const bool bien = HacerTrabajo(ventana, rutina);
+    const bool bien = HacerTrabajo(ventana, rutina, datos);
     Plataforma().terminarTrabajo();
     PonerCursor(CursorFlecha);
     return bien ? 0 : 1;
 }
 
-int ImprimirResultado(Ventana *ventana, int contenido, const SalidaResultado &salida) {
-    static constexpr int ClaseDeContenido[] = {ImprimirInforme, ImprimirCovarianza, ImprimirValores,
-                                               ImprimirVarianza};
-    const bool propio = contenido >= 0 && contenido < static_cast<int>(std::size(ClaseDeContenido));
-    Informe.salida = &salida;
-    const int r = ImprimirSalida(ventana, salida.titulo, propio ? ClaseDeContenido[contenido] : contenido);
-    Informe.salida = nullptr;
-    return r;
+int ImprimirResultado(Ventana *ventana, const SalidaResultado &salida) {
+    int clase = ClaseDeVentana[salida.tipo];
+    if (salida.tipo == SalidaRegresion) {
+        const auto contenido = static_cast<std::size_t>(salida.Contenido);
+        clase = contenido < std::size(ClaseDeContenido) ? ClaseDeContenido[contenido] : SinImpresion;
+    }
+    return ImprimirSalida(ventana, salida.titulo, clase, &salida);
 }
 
 DispositivoImpresion *NuevaPaginaImpresion(Ventana *ventana, int primera) {

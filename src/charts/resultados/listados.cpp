@@ -1,15 +1,12 @@
 // Listings of series, matrices and the text of the main screen.
 #include "charts/resultados/listados.h"
 
-#include "language/lote_sentencias.h"
 #include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 
 #include <algorithm>
-
-EstadoListados Listados;
 
 namespace {
 
@@ -49,9 +46,10 @@ struct Hoja {
     std::string cabecera; // head line of the block being listed
     int filasCabecera;    // what that line and its rules count
     bool avisarFin;       // a page whose end is refused is told
+    int decimales;        // of the numbers
 };
 
-Hoja AbrirHoja(DispositivoImpresion *dispositivo, Ventana *ventana, int ancho) {
+Hoja AbrirHoja(DispositivoImpresion *dispositivo, Ventana *ventana, int ancho, int decimales = 0) {
     Hoja h{};
     h.dispositivo = dispositivo;
     h.ventana = ventana;
@@ -60,6 +58,7 @@ Hoja AbrirHoja(DispositivoImpresion *dispositivo, Ventana *ventana, int ancho) {
     h.derecha = std::min(h.izquierda + ancho * h.s->anchoCaracter, h.s->ancho);
     h.lineasPagina = h.s->alto / h.s->altoLinea;
     h.fila = PrimeraFila;
+    h.decimales = std::clamp(decimales, 0, 6);
     return h;
 }
 
@@ -137,8 +136,8 @@ bool Listar(Hoja &h, std::string_view renglon) {
     return true;
 }
 
-std::string NumeroDeListado(double valor) {
-    return Formatear("%15.*f ", std::clamp(Lote.DecimalesSalida, 0, 6), valor);
+std::string NumeroDeListado(const Hoja &h, double valor) {
+    return Formatear("%15.*f ", h.decimales, valor);
 }
 
 // ---------------------------------------------------------------------------------------------------------------
@@ -181,7 +180,7 @@ bool ListarObservacion(Hoja &h, const std::vector<int> &bloque, int fila) {
     for (const int s : bloque) {
         // A missing value has 12 blanks where a number has 15 places.
         const std::string valor = ArchivoTrabajo.PresenciaObs[fila][s] == 1
-                                      ? NumeroDeListado(ArchivoTrabajo.ValoresObs[fila][s])
+                                      ? NumeroDeListado(h, ArchivoTrabajo.ValoresObs[fila][s])
                                       : std::string(12 + 1, ' ');
         if (!renglon.empty() && renglon.size() + valor.size() > AnchoRenglon) {
             if (!Listar(h, renglon)) return false;
@@ -200,9 +199,9 @@ bool ListarBloqueDeSeries(Hoja &h, const std::vector<int> &bloque, int primera, 
 }
 
 // Slots of the codes of the list that exist.
-std::vector<int> HuecosAListar(int (*buscar)(std::string_view)) {
+std::vector<int> HuecosAListar(const ListaDeCodigos &lista, int (*buscar)(std::string_view)) {
     std::vector<int> huecos;
-    for (const std::string &codigo : Listados.codigos)
+    for (const std::string &codigo : lista.codigos)
         if (const int hueco = buscar(codigo); hueco >= 0) huecos.push_back(hueco);
     return huecos;
 }
@@ -218,7 +217,7 @@ bool ListarFilaDeMatriz(Hoja &h, const double *elementos, int columnas) {
             if (!Listar(h, renglon)) return false;
             renglon = " ";
         }
-        renglon += NumeroDeListado(elementos[c]);
+        renglon += NumeroDeListado(h, elementos[c]);
     }
     return Listar(h, renglon + "}");
 }
@@ -260,15 +259,15 @@ void PonerLineaDePantalla(Hoja &h, std::string_view linea) {
 
 } // namespace
 
-bool ListarSeries(DispositivoImpresion *dispositivo, Ventana *ventana) {
-    const std::vector<int> series = HuecosAListar(BuscarSerie);
+bool ListarSeries(DispositivoImpresion *dispositivo, Ventana *ventana, const ListaDeCodigos &lista) {
+    const std::vector<int> series = HuecosAListar(lista, BuscarSerie);
     if (series.empty()) {
         MostrarMensaje(ventana, "No existen series a listar", TituloAviso);
         return false;
     }
     int primera = 0, ultima = 0;
     if (!FilasAListar(primera, ultima)) return false;
-    Hoja h = AbrirHoja(dispositivo, ventana, AnchoListado);
+    Hoja h = AbrirHoja(dispositivo, ventana, AnchoListado, lista.decimales);
     h.cabeceraPagina = "        Listado de Series                Página.: %3d  "_w;
     h.filasCabecera = FilasCabeceraSeries;
     h.avisarFin = true;
@@ -283,13 +282,13 @@ bool ListarSeries(DispositivoImpresion *dispositivo, Ventana *ventana) {
     return CerrarPagina(h);
 }
 
-bool ListarMatrices(DispositivoImpresion *dispositivo, Ventana *ventana) {
-    const std::vector<int> matrices = HuecosAListar(BuscarMatriz);
+bool ListarMatrices(DispositivoImpresion *dispositivo, Ventana *ventana, const ListaDeCodigos &lista) {
+    const std::vector<int> matrices = HuecosAListar(lista, BuscarMatriz);
     if (matrices.empty()) {
         MostrarMensaje(ventana, "No existen matrices a listar", TituloAviso);
         return false;
     }
-    Hoja h = AbrirHoja(dispositivo, ventana, AnchoListado);
+    Hoja h = AbrirHoja(dispositivo, ventana, AnchoListado, lista.decimales);
     // The brace that closes a row of four elements stands in column 66: the right rule leaves it inside.
     h.derecha = std::min(h.derecha + 2 * h.s->anchoCaracter, h.s->ancho);
     h.cabeceraPagina = "      Listado de Matrices                Página.: %3d  "_w;
@@ -300,10 +299,10 @@ bool ListarMatrices(DispositivoImpresion *dispositivo, Ventana *ventana) {
     return CerrarPagina(h);
 }
 
-bool ListarPantalla(DispositivoImpresion *dispositivo, Ventana *ventana) {
+bool ListarPantalla(DispositivoImpresion *dispositivo, Ventana *ventana, const std::string &texto) {
     Hoja h = AbrirHoja(dispositivo, ventana, AnchoPantalla);
     h.contador = ContadorInicial;
-    std::string_view resto = Listados.texto;
+    std::string_view resto = texto;
     for (std::size_t fin = 0; (fin = resto.find_first_of("\r\n")) != std::string_view::npos;) {
         PonerLineaDePantalla(h, resto.substr(0, fin));
         resto.remove_prefix(resto.substr(fin, 2) == "\r\n" ? fin + 2 : fin + 1);
@@ -329,6 +328,6 @@ int ImprimirSeleccion(Ventana *ventana, ControlTexto *control) {
     }
     PonerCursor(CursorEspera);
     const auto inicio = std::min(static_cast<std::size_t>(desde), texto.size());
-    Listados.texto = texto.substr(inicio, static_cast<std::size_t>(hasta - desde) + 1);
-    return ImprimirSalida(ventana, "Listado Pantalla principal", ImprimirPantalla);
+    const std::string elegido = texto.substr(inicio, static_cast<std::size_t>(hasta - desde) + 1);
+    return ImprimirSalida(ventana, "Listado Pantalla principal", ImprimirPantalla, &elegido);
 }

@@ -48,4 +48,6 @@ struct SalidaResultado {
     const TextoSalida *fijas;                     // lines that don't scroll, or null
     const std::vector<TablaCoeficientes> *tablas; // where thin vertical rules stand, or null
     std::string_view tabla = {}; // the result for a spreadsheet: tabulators, all digits; may be empty
+    int finalesSinRegla = 0;     // so many lines at the end have no rule between them, whatever their kinds
+    std::vector<std::string_view> titulosImpresos = {}; // centred on paper, a row each; none: `titulo`
 };

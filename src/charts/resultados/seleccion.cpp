@@ -55,7 +55,7 @@ bool EliminarDeSeleccion(EstadoSeleccion &estado, int indice, Ventana *ventana) 
     return Mover(estado.elegidas, estado.disponibles, indice, ventana);
 }
 
-int ImprimirElegidas(const EstadoSeleccion &estado, Ventana *ventana) {
-    Listados.codigos = estado.elegidas;
-    return ImprimirSalida(ventana, Modos[estado.modo].trabajo, Modos[estado.modo].clase);
+int ImprimirElegidas(const EstadoSeleccion &estado, int decimales, Ventana *ventana) {
+    const ListaDeCodigos lista = {estado.elegidas, decimales};
+    return ImprimirSalida(ventana, Modos[estado.modo].trabajo, Modos[estado.modo].clase, &lista);
 }

@@ -29,5 +29,5 @@ EstadoSeleccion IniciarSeleccion(ModosSeleccion modo);
 bool AnadirASeleccion(EstadoSeleccion &estado, int indice, Ventana *ventana);
 bool EliminarDeSeleccion(EstadoSeleccion &estado, int indice, Ventana *ventana);
 
-// OK: prints what the right list holds. The dialog stays. Result of ImprimirSalida.
-int ImprimirElegidas(const EstadoSeleccion &estado, Ventana *ventana);
+// OK: prints what the right list holds, numbers with so many decimals. The dialog stays. Result of ImprimirSalida.
+int ImprimirElegidas(const EstadoSeleccion &estado, int decimales, Ventana *ventana);

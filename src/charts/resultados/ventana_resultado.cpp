@@ -1,8 +1,6 @@
 // Painting and scrolling of the result window.
 #include "charts/resultados/ventana_resultado.h"
 
-#include "language/lote_sentencias.h"
-
 #include <algorithm>
 
 namespace {
@@ -13,7 +11,6 @@ constexpr Pluma PlumaFina = {{0, 0, 0}, 1, PlumaContinua};
 constexpr int MargenInferior = 50; // units above the bottom limit at which drawing stops
 constexpr int LineasDePaginado = 5;
 constexpr int LineasDeMuesca = 3;
-constexpr int LineasFinalesSinRegla = 3;
 
 // Thin rules of the coefficient table. With the stock font of 8 by 16: units from the left edge of the window as it
 // opens, where the block begins at 32; in a wider window they move with the block. With any other font:
@@ -23,11 +20,6 @@ constexpr std::array ReglasConFuenteBase = {160, 290, 410, 510};
 
 int NumeroDeLineas(const SalidaResultado &salida) {
     return static_cast<int>(salida.lineas->size());
-}
-
-bool EsBloqueDeRegresion(const SalidaResultado &salida) {
-    return salida.tipo == SalidaRegresion && salida.Contenido == 0 &&
-           (salida.Clase == OrdenMC || salida.Clase == OrdenMGD || salida.Clase == OrdenMCP);
 }
 
 // A line of text and the half row above and below it: rules stand in the middle of a row of their own.
@@ -90,7 +82,7 @@ void PonerReglasDeTabla(const Pintado &p, const TablaCoeficientes &tabla, int de
 bool ReglaDetras(const SalidaResultado &salida, int linea) {
     const int ultima = NumeroDeLineas(salida) - 1;
     if (linea < 0 || linea >= ultima) return false;
-    if (EsBloqueDeRegresion(salida) && linea > ultima - LineasFinalesSinRegla) return false;
+    if (linea > ultima - salida.finalesSinRegla) return false;
     const auto i = static_cast<std::size_t>(linea);
     return (*salida.lineas)[i].Grupo != (*salida.lineas)[i + 1].Grupo;
 }

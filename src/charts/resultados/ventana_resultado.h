@@ -24,8 +24,8 @@ struct EstadoVentanaResultado {
     int anchoCaracter, altoLinea; // of the device of the last paint
 };
 
-// True when a rule is drawn behind the line (from 0): the next one is of another kind. Of a regression block (statement
-// codes 8, 11 and 13) the last three lines have none. Behind the last line there is none: there the block closes.
+// True when a rule is drawn behind the line (from 0): the next one is of another kind, and not both are among the last
+// ones that have no rule. Behind the last line there is none: there the block closes.
 bool ReglaDetras(const SalidaResultado &salida, int linea);
 
 // Where a block of lines stands on a surface, in device units.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "charts/resultados/resultado.h"
+#include "estimation/informe.h"
 #include "platform/superficie.h"
 #include "platform/texto.h"
 
@@ -52,13 +53,16 @@ inline TextoSalida LineasDeGrupos(const std::vector<int> &grupos) {
     return t;
 }
 
+// A report of a statement code, with the rules and printed titles of its kind.
 inline SalidaResultado SalidaDePrueba(int clase, const TextoSalida &lineas,
                                       const std::vector<TablaCoeficientes> *tablas = nullptr) {
-    return {.tipo = SalidaRegresion,
-            .titulo = "Prueba",
-            .Clase = clase,
-            .Contenido = 0,
-            .lineas = &lineas,
-            .fijas = nullptr,
-            .tablas = tablas};
+    SalidaResultado salida = {.tipo = SalidaRegresion,
+                              .titulo = "Prueba",
+                              .Clase = clase,
+                              .Contenido = 0,
+                              .lineas = &lineas,
+                              .fijas = nullptr,
+                              .tablas = tablas};
+    PonerClase(salida, clase);
+    return salida;
 }

@@ -16,8 +16,8 @@ constexpr int C = AnchoCaracterPagina, H = AltoLineaPagina;
 
 // "Texto" on the main screen's listing: the simplest job there is, with one page change at its end.
 int ImprimirUnaLinea() {
-    Listados.texto = "Texto";
-    return ImprimirSalida(nullptr, "Listado Pantalla principal", ImprimirPantalla);
+    const std::string texto = "Texto";
+    return ImprimirSalida(nullptr, "Listado Pantalla principal", ImprimirPantalla, &texto);
 }
 
 TEST(Impresion, PasosDeUnTrabajo) {
@@ -102,13 +102,14 @@ TEST(Impresion, ClasesSinRutina) {
     for (const int clase : Clases) {
         SCOPED_TRACE(clase);
         EmpezarPrueba();
-        EXPECT_EQ(ImprimirSalida(nullptr, "Nada", clase), 1);
+        EXPECT_EQ(ImprimirSalida(nullptr, "Nada", clase, "datos"), 1);
         EXPECT_TRUE(Prueba.pasosImpresora.empty());
         EXPECT_TRUE(Prueba.cajas.empty());
     }
     // The text of a report is printed from its window only.
     EmpezarPrueba();
-    EXPECT_EQ(ImprimirSalida(nullptr, "Nada", ImprimirInforme), 1);
+    EXPECT_EQ(ImprimirSalida(nullptr, "Nada", ImprimirInforme, nullptr), 1);
+    EXPECT_TRUE(Prueba.pasosImpresora.empty());
 }
 
 struct CasoTitulo {
@@ -152,7 +153,7 @@ TEST(Impresion, TitulosDelInforme) {
         const std::string titulo = Texto1252DeUtf8(caso.ventana);
         SalidaResultado salida = SalidaDePrueba(caso.clase, lineas);
         salida.titulo = titulo;
-        EXPECT_EQ(ImprimirResultado(nullptr, 0, salida), 0);
+        EXPECT_EQ(ImprimirResultado(nullptr, salida), 0);
         ASSERT_EQ(Prueba.trabajos.size(), 1u);
         EXPECT_EQ(Prueba.trabajos[0].titulo, caso.ventana);
         EXPECT_EQ(Prueba.trabajos[0].documento, "Imprime1: Imprimiendo");
@@ -172,7 +173,7 @@ TEST(Impresion, ReglasDelInforme) {
     EmpezarPrueba();
     const TextoSalida lineas = LineasDeGrupos({0, 2, 1, 1, 0, 1, 0});
     const std::vector<TablaCoeficientes> tablas = {{1, 2, 3}};
-    EXPECT_EQ(ImprimirResultado(nullptr, 0, SalidaDePrueba(8, lineas, &tablas)), 0);
+    EXPECT_EQ(ImprimirResultado(nullptr, SalidaDePrueba(8, lineas, &tablas)), 0);
     const auto &ordenes = Prueba.trabajos.at(0).dibujo.at(0).ordenes;
     const auto textos = Letreros(ordenes);
     ASSERT_EQ(textos.size(), 8u);
@@ -199,7 +200,7 @@ TEST(Impresion, ReglasDelInforme) {
 TEST(Impresion, InformeDeVariasPaginas) {
     EmpezarPrueba();
     const TextoSalida lineas = LineasDeGrupos(std::vector<int>(120, 0));
-    EXPECT_EQ(ImprimirResultado(nullptr, 0, SalidaDePrueba(9, lineas)), 0);
+    EXPECT_EQ(ImprimirResultado(nullptr, SalidaDePrueba(9, lineas)), 0);
     ASSERT_EQ(Prueba.trabajos.size(), 1u);
     const auto &paginas = Prueba.trabajos[0].paginas;
     ASSERT_EQ(paginas.size(), 3u);
@@ -221,23 +222,29 @@ TEST(Impresion, InformeConImpresoraQueFallaAMedias) {
     EmpezarPrueba();
     Prueba.fallaPaso[PasoDocumento] = 2;
     const TextoSalida lineas = LineasDeGrupos(std::vector<int>(120, 0));
-    EXPECT_EQ(ImprimirResultado(nullptr, 0, SalidaDePrueba(9, lineas)), 1);
+    EXPECT_EQ(ImprimirResultado(nullptr, SalidaDePrueba(9, lineas)), 1);
     EXPECT_EQ(TextosDeCajas(), Pasos{"Error imprimiedo. 3"});
     ASSERT_EQ(Prueba.trabajos.at(0).paginas.size(), 1u) << "the first page is printed";
 }
 
 TEST(Impresion, ContenidosDeLaVentana) {
     const TextoSalida lineas = LineasDeGrupos({0});
-    // 1, 2 and 3 are listings without a routine so far; what is no content is read as a class: 23 prints the screen.
-    for (const int contenido : {1, 2, 3, 9, 99, -1}) {
+    // 1, 2 and 3 are listings without a routine so far; anything else is no content.
+    for (const int contenido : {1, 2, 3, 4, 9, 99, -1}) {
         EmpezarPrueba();
-        EXPECT_EQ(ImprimirResultado(nullptr, contenido, SalidaDePrueba(8, lineas)), 1) << contenido;
+        SalidaResultado salida = SalidaDePrueba(8, lineas);
+        salida.Contenido = contenido;
+        EXPECT_EQ(ImprimirResultado(nullptr, salida), 1) << contenido;
         EXPECT_TRUE(Prueba.trabajos.empty());
     }
-    EmpezarPrueba();
-    Listados.texto = "Texto";
-    EXPECT_EQ(ImprimirResultado(nullptr, ImprimirPantalla, SalidaDePrueba(8, lineas)), 0);
-    EXPECT_EQ(Prueba.trabajos.at(0).paginas.at(0).back(), "Texto");
+    // The boxes of lines can't be printed.
+    for (const TiposDeSalida tipo : {SalidaUltimaRegresion, SalidaMuestra, SalidaRelacion}) {
+        EmpezarPrueba();
+        SalidaResultado salida = SalidaDePrueba(0, lineas);
+        salida.tipo = tipo;
+        EXPECT_EQ(ImprimirResultado(nullptr, salida), 1) << tipo;
+        EXPECT_TRUE(Prueba.trabajos.empty());
+    }
 }
 
 TEST(Impresion, LineasDeUnaPaginaPorAltura) {

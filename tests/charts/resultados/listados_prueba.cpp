@@ -31,8 +31,8 @@ void Empezar(int tipo, int n, int primero = 1) {
 }
 
 int Imprimir(int clase, const std::vector<std::string> &codigos) {
-    Listados.codigos = codigos;
-    return ImprimirSalida(nullptr, "Listado", clase);
+    const ListaDeCodigos lista = {codigos, Lote.DecimalesSalida};
+    return ImprimirSalida(nullptr, "Listado", clase, &lista);
 }
 
 Lineas Pagina(std::size_t p, std::size_t trabajo = 0) {
@@ -411,15 +411,15 @@ TEST(ListadoPantalla, TextoEnteroHasta32000) {
     EmpezarPrueba();
     Prueba.textoControl = std::string(40000, 'x');
     EXPECT_EQ(ImprimirSeleccion(nullptr, nullptr), 0);
-    EXPECT_EQ(Listados.texto.size(), 32001u);
+    EXPECT_EQ(Letreros(Prueba.trabajos.at(0).dibujo.at(0).ordenes).at(1).texto.size(), 32001u);
     EXPECT_EQ(Prueba.desde, 0);
     EXPECT_EQ(Prueba.hasta, 32000) << "the control shows what was taken";
 }
 
 TEST(ListadoPantalla, Cabecera) {
     EmpezarPrueba();
-    Listados.texto = "uno";
-    EXPECT_EQ(ImprimirSalida(nullptr, "Listado", ImprimirPantalla), 0);
+    const std::string texto = "uno";
+    EXPECT_EQ(ImprimirSalida(nullptr, "Listado", ImprimirPantalla, &texto), 0);
     const auto &ordenes = Prueba.trabajos.at(0).dibujo.at(0).ordenes;
     const int izquierda = (AnchoPagina - 70 * C) / 2;
     const auto reglas = Trazos(ordenes, true, 3);
@@ -442,9 +442,9 @@ TEST(ListadoPantalla, Cabecera) {
 // A new head is written when the counter passes the lines of a page, but on the same page: the paper ends first.
 TEST(ListadoPantalla, NoCambiaDePagina) {
     EmpezarPrueba();
-    Listados.texto.clear();
-    for (int i = 1; i <= 100; ++i) Listados.texto += std::to_string(i) + (i < 100 ? "\r\n" : "");
-    EXPECT_EQ(ImprimirSalida(nullptr, "Listado", ImprimirPantalla), 0);
+    std::string texto;
+    for (int i = 1; i <= 100; ++i) texto += std::to_string(i) + (i < 100 ? "\r\n" : "");
+    EXPECT_EQ(ImprimirSalida(nullptr, "Listado", ImprimirPantalla, &texto), 0);
     EXPECT_EQ(Prueba.trabajos.at(0).paginas.size(), 1u);
     const auto textos = Letreros(Prueba.trabajos[0].dibujo[0].ordenes);
     // Lines 12 to 58 after each head.

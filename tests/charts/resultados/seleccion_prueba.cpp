@@ -1,7 +1,6 @@
 // The chooser of what to list.
 #include "apoyo/plataforma_prueba.h"
 #include "charts/resultados/seleccion.h"
-#include "language/lote_sentencias.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
@@ -54,22 +53,21 @@ TEST(Seleccion, SinEntradaQueMover) {
 
 TEST(Seleccion, ImprimeLoElegidoYQuedaAbierta) {
     EmpezarConDatos(0, "");
-    Lote.DecimalesSalida = 2;
     PonerMatriz("M", {1, 2}, 1, 2);
     PonerMatriz("N", {3}, 1, 1);
     EstadoSeleccion e = IniciarSeleccion(SeleccionDeMatrices);
     EXPECT_EQ(e.disponibles, (Codigos{"M", "N"}));
-    EXPECT_EQ(ImprimirElegidas(e, nullptr), 1);
+    EXPECT_EQ(ImprimirElegidas(e, 2, nullptr), 1);
     EXPECT_EQ(TextosDeCajas(), Codigos{"No existen matrices a listar"});
     EXPECT_EQ(Prueba.cajas.at(0).titulo, "Aviso");
     AnadirASeleccion(e, 1, nullptr);
-    EXPECT_EQ(ImprimirElegidas(e, nullptr), 0);
+    EXPECT_EQ(ImprimirElegidas(e, 2, nullptr), 0);
     ASSERT_EQ(Prueba.trabajos.size(), 2u);
     EXPECT_TRUE(Prueba.trabajos[0].paginas.empty());
     EXPECT_EQ(Prueba.trabajos[1].titulo, "Listado de Matrices");
     EXPECT_EQ(Prueba.trabajos[1].paginas.at(0).back(), "{           3.00 }");
     AnadirASeleccion(e, 0, nullptr);
-    EXPECT_EQ(ImprimirElegidas(e, nullptr), 0);
+    EXPECT_EQ(ImprimirElegidas(e, 2, nullptr), 0);
     EXPECT_EQ(Prueba.trabajos.back().paginas.at(0).back(), "{           1.00            2.00 }");
     EXPECT_EQ(e.elegidas, (Codigos{"N", "M"}));
 }

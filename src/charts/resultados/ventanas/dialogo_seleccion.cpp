@@ -49,7 +49,7 @@ void DialogoSeleccion(Ventana *ventana, ModosSeleccion modo) {
     QObject::connect(d.ui.Decimales, &QPushButton::clicked, &d.dialogo,
                      [&] { DialogoDecimales(Lote.DecimalesSalida, d.ventana()); });
     d.AlAceptar([&] {
-        ImprimirElegidas(estado, d.ventana());
+        ImprimirElegidas(estado, Lote.DecimalesSalida, d.ventana());
         return false; // more can be printed
     });
     PonerNotaDeImpresion(d.dialogo);

@@ -42,8 +42,7 @@ bool GuardarTabla(const SalidaResultado &salida, const QString &ruta) {
 
 // The pages that the printer would get.
 bool GuardarPdf(const SalidaResultado &salida, const QString &ruta) {
-    return ImprimirEnDocumento(Bytes(ruta),
-                               [&] { return ImprimirResultado(nullptr, salida.Contenido, salida) == 0; });
+    return ImprimirEnDocumento(Bytes(ruta), [&] { return ImprimirResultado(nullptr, salida) == 0; });
 }
 
 // The window's own painting, as long as the text is, at twice the screen's points.

@@ -141,7 +141,7 @@ void MostrarResultadoQt(Ventana *ventana, const SalidaResultado &salida) {
     QAction *salir = barra->addAction(QStringLiteral("&Salir"));
     salir->setObjectName(QStringLiteral("comando2021"));
     QObject::connect(imprimir, &QAction::triggered, &dialogo,
-                     [&] { ImprimirResultado(AVentana(&dialogo), salida.Contenido, salida); });
+                     [&] { ImprimirResultado(AVentana(&dialogo), salida); });
     QObject::connect(salir, &QAction::triggered, &dialogo, &QDialog::accept);
     disposicion->setMenuBar(barra);
     disposicion->addWidget(area);

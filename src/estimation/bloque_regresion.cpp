@@ -1,0 +1,205 @@
+// The lines of the block of a regression, and its table for spreadsheets.
+#include "estimation/bloque_regresion.h"
+
+#include "charts/resultados/partes_informe.h"
+#include "estimation/regresion.h"
+#include "language/lote_sentencias.h"
+#include "platform/campos_texto.h"
+#include "platform/texto.h"
+#include "store/archivo.h"
+#include "store/periodos.h"
+#include "store/temporales.h"
+
+namespace {
+
+enum GruposLinea { GrupoTexto = 0, GrupoFila = 1, GrupoTitulo = 2, GrupoCabecera = 3 };
+
+constexpr std::size_t AnchoNombre = 14; // characters of a name in its row
+
+// What a block is made from.
+struct DatosBloque {
+    int codigo;
+    const ParteMuestra *parte;
+    std::string dependiente;
+    const std::vector<std::string> *nombres;
+    int observaciones;
+    const double *beta, *desviacion;
+    int numBeta, numDesviacion;
+    int serieT, serieProbabilidad;
+};
+
+// ----- Reading the results
+
+// Elements of a matrix with their number. False when it is gone.
+bool LeerMatriz(std::string_view nombre, const double *&datos, int &numero) {
+    const int m = BuscarMatriz(nombre);
+    if (m < 0 || !FijarMatriz(m)) return false;
+    datos = TablaMatrices.registro[m].Datos;
+    numero = TablaMatrices.registro[m].Filas * TablaMatrices.registro[m].Columnas;
+    return true;
+}
+
+int ReunirDatos(DatosBloque &d, Ventana *ventana) {
+    const RegistroRegresion &u = UltimaRegresion;
+    // White's list is the widened one; the others are shown with the names of the last regression.
+    const bool propia = d.codigo == OrdenCWH;
+    d.dependiente = Recortado(propia ? u.DependienteMostrado : u.CodigoDependiente);
+    d.nombres = propia ? &u.TextosRegresores : &u.CodigosRegresores;
+    const int y = BuscarMatriz("_YDEP");
+    if (y < 0) return MensajePunto(ventana, "Secuencia no Válida"_w, 86);
+    d.observaciones = TablaMatrices.registro[y].Filas;
+    if (!LeerMatriz(NombreFamilia(FamBETA, d.codigo), d.beta, d.numBeta))
+        return MensajePunto(ventana, "Secuencia no válida"_w, 87);
+    if (!LeerMatriz(NombreFamilia(FamDTE, d.codigo), d.desviacion, d.numDesviacion))
+        return MensajePunto(ventana, "Secuencia no válida"_w, 88);
+    d.serieT = BuscarSerie(NombreFamilia(FamDIV, d.codigo));
+    d.serieProbabilidad = BuscarSerie(NombreFamilia(FamPROBT, d.codigo));
+    if (d.serieT < 0 || d.serieProbabilidad < 0) return MensajePunto(ventana, "Serie no Encontrada", 86);
+    return 1;
+}
+
+// The values of a regression stand in their series from the first observation of the range on.
+double EnSerie(const DatosBloque &d, int serie, int i) {
+    const int fila = (d.parte != nullptr ? d.parte->fila : Muestra.InicioRegresion) + i;
+    return fila >= 0 && fila < MaxObservaciones ? ArchivoTrabajo.ValoresObs[fila][serie] : 0.0;
+}
+
+double EnMatriz(const double *datos, int numero, int i) {
+    return i < numero ? datos[i] : 0.0;
+}
+
+// ----- Head
+
+// How the blocks differ: White's auxiliary regression has a line of its own kind for names, and names at the left.
+struct FormatoBloque {
+    FormatoCabecera cabecera;
+    const char *fila;
+};
+
+constexpr FormatoCabecera ConListaCorta(FormatoCabecera f) {
+    f.largoLista = 34;
+    f.alCortar = "..";
+    return f;
+}
+
+constexpr FormatoBloque FormatoComun = {CabeceraDeRegresion, "%15s%15s%15s%9s%13s"};
+constexpr FormatoBloque FormatoWhite = {ConListaCorta(CabeceraDeContraste), "%-15s%15s%15s%9s%13s"};
+
+void AnadirCabeceraDeBloque(TextoSalida &texto, const DatosBloque &d, const FormatoBloque &f) {
+    if (d.codigo == OrdenMGD)
+        AnadirLinea(texto, GrupoCabecera, "                    REGRESION DENOMINADOR                 ");
+    if (d.codigo == OrdenMGN)
+        AnadirLinea(texto, GrupoCabecera, "                    REGRESION NUMERADOR                   ");
+    DatosCabecera c = {.dependiente = d.dependiente,
+                       .nombres = *d.nombres,
+                       .muestra = TextoDeFilas(Muestra.InicioRegresion, Muestra.FinRegresion),
+                       .observaciones = d.observaciones};
+    if (d.parte != nullptr) {
+        c.muestra = Formatear("%d,%d", d.parte->primera, d.parte->ultima);
+        c.observaciones = d.parte->ultima - d.parte->primera + 1;
+        c.formatoMuestra = FormatoMuestraOrdenada;
+    }
+    if (d.codigo == OrdenMCP)
+        c.mas = Formatear("Variable de ponderación :%-14s                   "_w,
+                          UltimaRegresion.TextoPonderacion.c_str());
+    AnadirCabecera(texto, f.cabecera, c);
+}
+
+// ----- Coefficients
+
+void AnadirCoeficientes(TextoSalida &texto, std::vector<TablaCoeficientes> &tablas, const DatosBloque &d,
+                        const FormatoBloque &f) {
+    TablaCoeficientes tabla = {static_cast<int>(texto.size()), 0, 0};
+    AnadirLinea(texto, GrupoTitulo, " Regresores      Coeficiente    Desv. Típica   Estadís. t   Prob>|t|"_w);
+    tabla.primera = static_cast<int>(texto.size());
+    for (std::size_t n = 0; n < d.nombres->size(); ++n) {
+        const int i = static_cast<int>(n);
+        const std::string nombre = (*d.nombres)[n].substr(0, AnchoNombre);
+        AnadirLinea(texto, GrupoFila,
+                    Formatear(f.fila, nombre.c_str(),
+                              NumeroCampo(6, EnMatriz(d.beta, d.numBeta, i), 14).c_str(),
+                              NumeroCampo(6, EnMatriz(d.desviacion, d.numDesviacion, i), 14).c_str(),
+                              NumeroCampo(2, EnSerie(d, d.serieT, i), 8).c_str(),
+                              NumeroCampo(4, EnSerie(d, d.serieProbabilidad, i), 12).c_str()));
+    }
+    tabla.ultima = static_cast<int>(texto.size()) - 1;
+    tablas.push_back(tabla);
+}
+
+// ----- Statistics
+
+constexpr LineaDeInforme Estadisticos[] = {
+    {GrupoTexto,
+     "Media Var. Dependiente:%10s  Des. Típ. Var. Depen.:%10s"_w,
+     {DeFamilia(FamMVD, "Media Var. Dependiente"), DeFamilia(FamDTVD, "Des. Típ. Var. Depen."_w)}},
+    {GrupoTexto,
+     "Error Típico Regresión:%10s  Suma Cuadrados Resid.:%10s"_w,
+     {DeFamilia(FamDTR, "Error Típico Regresión"_w), DeFamilia(FamDCR, "Suma Cuadrados Resid.")}},
+    {GrupoTexto,
+     "R Cuadrado            :%10s  R Cuadrado Corregido :%10s",
+     {DeFamilia(FamRC, "R Cuadrado"), DeFamilia(FamRCC, "R Cuadrado Corregido")}},
+    {GrupoTexto,
+     "Logaritmo de Verosim. :%10s  Criterio AIC         :%10s",
+     {DeFamilia(FamLV, "Logaritmo de Verosim."), DeFamilia(FamAIC, "Criterio AIC")}},
+    // In the table the statistic stands in front of its degrees of freedom.
+    {GrupoTexto,
+     "Estadístico F(%2$3s,%3$3s):%1$10s  Prob > F             :%4$10s"_w,
+     {DeFamilia(FamFORLA, "Estadístico F"_w), DeFamilia(FamANREG, "Grados de libertad 1", 0, 3),
+      DeFamilia(FamNORE, "Grados de libertad 2", 0, 3), DeFamilia(FamESTF, "Prob > F")}},
+    {GrupoTexto,
+     "Estadís. Durbin-Watson:%10s  Est. Autocorrelación :%10s"_w,
+     {DeFamilia(FamDW, "Estadís. Durbin-Watson"_w), DeFamilia(FamEA1, "Est. Autocorrelación"_w)}},
+};
+
+// ----- Table for a spreadsheet
+
+// Element i of a matrix of the results, empty when there is none.
+std::string DeMatriz(Familias familia, int codigo, int i) {
+    const int m = BuscarMatriz(NombreFamilia(familia, codigo));
+    if (m < 0 || !FijarMatriz(m)) return {};
+    const RegistroMatriz &r = TablaMatrices.registro[m];
+    return i < r.Filas * r.Columnas ? NumeroExacto(r.Datos[i]) : std::string();
+}
+
+// Value i of a series of the results, which begins at the first observation of the range.
+std::string DeSerie(Familias familia, int codigo, int i) {
+    const int s = BuscarSerie(NombreFamilia(familia, codigo));
+    const int fila = Muestra.InicioRegresion + i;
+    const bool hay =
+        s >= 0 && fila >= 0 && fila < MaxObservaciones && ArchivoTrabajo.PresenciaObs[fila][s] == 1;
+    return hay ? NumeroExacto(ArchivoTrabajo.ValoresObs[fila][s]) : std::string();
+}
+
+} // namespace
+
+int BloqueRegresion(TextoSalida &texto, std::vector<TablaCoeficientes> &tablas, Ventana *ventana, int codigo,
+                    const ParteMuestra *parte) {
+    DatosBloque d = {};
+    d.codigo = codigo;
+    d.parte = parte;
+    if (ReunirDatos(d, ventana) == 0) return 0;
+    const FormatoBloque &f = codigo == OrdenCWH ? FormatoWhite : FormatoComun;
+    AnadirCabeceraDeBloque(texto, d, f);
+    AnadirCoeficientes(texto, tablas, d, f);
+    return AnadirLineas(texto, Estadisticos, codigo) ? 1
+                                                     : MensajePunto(ventana, "Secuencia no válida"_w, 871);
+}
+
+std::string TablaRegresion(int codigo) {
+    const RegistroRegresion &u = UltimaRegresion;
+    std::string t = "Variable Dep.\t" + std::string(Recortado(u.CodigoDependiente)) + "\n";
+    t += "Muestra\t" + std::string(TextoPeriodo(Muestra.InicioRegresion)) + "\t" +
+         std::string(TextoPeriodo(Muestra.FinRegresion)) + "\n";
+    if (const int y = BuscarMatriz("_YDEP"); y >= 0)
+        t += "Nº Observaciones\t"_w + std::to_string(TablaMatrices.registro[y].Filas) + "\n";
+    t += "\n";
+    t += "Regresores\tCoeficiente\tDesv. Típica\tEstadís. t\tProb>|t|\n"_w;
+    for (std::size_t n = 0; n < u.CodigosRegresores.size(); ++n) {
+        const int i = static_cast<int>(n);
+        t += u.CodigosRegresores[n] + "\t" + DeMatriz(FamBETA, codigo, i) + "\t" +
+             DeMatriz(FamDTE, codigo, i) + "\t" + DeSerie(FamDIV, codigo, i) + "\t" +
+             DeSerie(FamPROBT, codigo, i) + "\n";
+    }
+    t += "\n";
+    return t + TablaDeLineas(Estadisticos, codigo);
+}

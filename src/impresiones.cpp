@@ -1,0 +1,16 @@
+// The kinds of print jobs with their routines, whatever room they belong to.
+#include "charts/resultados/informe_impreso.h"
+#include "charts/resultados/listados.h"
+
+namespace {
+
+constexpr FilaDeImpresion Filas[] = {
+    {ImprimirInforme, ConSusDatos<&ImprimirTextoInforme>},
+    {ImprimirMatrices, ConSusDatos<&ListarMatrices>},
+    {ImprimirSeries, ConSusDatos<&ListarSeries>},
+    {ImprimirPantalla, ConSusDatos<&ListarPantalla>},
+};
+
+} // namespace
+
+constinit const std::span<const FilaDeImpresion> TablaImpresion = Filas;
