@@ -17,11 +17,7 @@ set(pisos
 # Includes that still go up. Nothing is added here.
 set(pendientes
     "store/temporales.cpp language/lote_sentencias.h"
-    "store/temporales.cpp estimation/regresion.h"
-    "store/ventanas/dialogo_tipo_datos.cpp shell/ayuda.h"
-    "store/ventanas/dialogo_tipo_datos.cpp shell/ventanas/dialogos.h"
-    "charts/resultados/ventanas/dialogo_seleccion.cpp shell/ventanas/dialogos.h"
-    "platform/qt/plataforma_qt.cpp charts/resultados/ventanas/ventana_resultado_qt.h")
+    "store/temporales.cpp estimation/regresion.h")
 
 # The floor of a path below src/, from 1; 0 for a file right under src/; -1 for a folder that is no room.
 function(piso_de ruta resultado)

@@ -7,7 +7,7 @@
 #include <cstdio>
 
 int main(int numArgumentos, char **argumentos) {
-    InstalarPlataforma(PlataformaLote);
+    InstalarPlataformaLote();
     IniciarArchivoTrabajo();
     IniciarProcedimientos();
     const int primero = numArgumentos > 0 ? 1 : 0; // a program may be started without even its own name

@@ -7,6 +7,7 @@
 #include "lote/impresora.h"
 #include "lote/json.h"
 #include "platform/campos_texto.h"
+#include "platform/impresora.h"
 #include "platform/texto.h"
 
 #include <algorithm>
@@ -111,10 +112,6 @@ void MostrarResultado(Ventana *, const SalidaResultado &salida) {
     if (Corrida.imprimirSalidas) ImprimirResultado(nullptr, salida);
 }
 
-std::int32_t Segundos() {
-    return static_cast<std::int32_t>(std::time(nullptr));
-}
-
 } // namespace
 
 void SucesoCaja(std::string_view texto, std::string_view titulo, Icono icono, Botones botones,
@@ -214,22 +211,15 @@ void SucesoFin(int estado) {
     EscribirLinea(json + "}");
 }
 
-const OperacionesPlataforma PlataformaLote = {
-    .caja = Caja,
-    .cursor = [](Cursor) {},
-    .textoDeControl = TextoDelControl,
-    .seleccionDeControl = SeleccionDelControl,
-    .seleccionarEnControl = [](ControlTexto *, int, int) {},
-    .mostrarResultado = MostrarResultado,
-    .refrescarEditor = [] {},
-    .empezarTrabajo = EmpezarTrabajoGrabado,
-    .terminarTrabajo = TerminarTrabajoDeCorrida,
-    .abrirImpresora = AbrirImpresoraGrabadora,
-    .iniciarDocumento = IniciarDocumentoGrabado,
-    .iniciarPagina = IniciarPaginaGrabada,
-    .superficieDePagina = SuperficieGrabada,
-    .terminarPagina = TerminarPaginaGrabada,
-    .terminarDocumento = TerminarDocumentoGrabado,
-    .cerrarImpresora = CerrarImpresoraGrabadora,
-    .segundos = Segundos,
-};
+void InstalarPlataformaLote() {
+    static const OperacionesPlataforma Operaciones = {
+        .caja = Caja,
+        .textoDeControl = TextoDelControl,
+        .seleccionDeControl = SeleccionDelControl,
+        .mostrarResultado = MostrarResultado,
+        .segundos = [] { return static_cast<std::int32_t>(std::time(nullptr)); },
+    };
+    InstalarPlataforma(Operaciones);
+    static const OperacionesImpresora OperacionesDePapel = {.terminarTrabajo = TerminarTrabajoDeCorrida};
+    InstalarImpresora(OperacionesDePapel);
+}

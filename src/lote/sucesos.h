@@ -31,5 +31,6 @@ void Quejarse(std::string_view texto);
 // The end of the run.
 void SucesoFin(int estado);
 
-// The platform of the batch runner: events out, answers from the command line, a printer that records.
-extern const OperacionesPlataforma PlataformaLote;
+// Installs the platform of the batch runner: events out, answers from the command line, a printer whose pages become
+// events and documents.
+void InstalarPlataformaLote();

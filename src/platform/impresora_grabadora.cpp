@@ -26,6 +26,10 @@ TrabajoImpreso TerminarTrabajoGrabado() {
     return hecho;
 }
 
+void OlvidarTrabajoGrabado() {
+    Trabajo = {};
+}
+
 DispositivoImpresion *AbrirImpresoraGrabadora() {
     return new DispositivoImpresion{};
 }

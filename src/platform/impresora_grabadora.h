@@ -2,13 +2,15 @@
 // desktop send what it kept to paper or to a PDF document when the job is over; the tests read it.
 #pragma once
 
-#include "platform/plataforma.h"
 #include "platform/superficie.h"
 
 #include <deque>
 #include <string>
 #include <string_view>
 #include <vector>
+
+// A document of the printer, or what stands in for it.
+struct DispositivoImpresion;
 
 // A page of A4 in portrait: 79 columns of the fixed-pitch font fill its width.
 inline constexpr int PuntosPorPulgada = 300;
@@ -35,7 +37,10 @@ void EmpezarTrabajoGrabado(std::string_view titulo);
 // printer.
 TrabajoImpreso TerminarTrabajoGrabado();
 
-// The operations of a printer, for the table of the platform. Several devices may be open at once; their pages stand
+// The same for a job that nobody wants.
+void OlvidarTrabajoGrabado();
+
+// The operations of a printer, for the table of platform/impresora.h. Several devices may be open at once; their pages stand
 // in the order in which they were begun.
 DispositivoImpresion *AbrirImpresoraGrabadora();
 bool IniciarDocumentoGrabado(DispositivoImpresion *dispositivo, const char *nombre);

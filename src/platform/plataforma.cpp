@@ -44,29 +44,50 @@ void MensajeSinMemoria(int a, int b, Ventana *ventana) {
 }
 
 void PonerCursor(Cursor cursor) {
-    Instalada->cursor(cursor);
+    if (Instalada->cursor != nullptr) Instalada->cursor(cursor);
 }
 
 std::string TextoDeControl(ControlTexto *control) {
-    return Instalada->textoDeControl(control);
+    return Instalada->textoDeControl != nullptr ? Instalada->textoDeControl(control) : std::string();
 }
 
 void SeleccionDeControl(ControlTexto *control, int &desde, int &hasta) {
-    Instalada->seleccionDeControl(control, desde, hasta);
+    desde = hasta = 0;
+    if (Instalada->seleccionDeControl != nullptr) Instalada->seleccionDeControl(control, desde, hasta);
 }
 
 void SeleccionarEnControl(ControlTexto *control, int desde, int hasta) {
-    Instalada->seleccionarEnControl(control, desde, hasta);
+    if (Instalada->seleccionarEnControl != nullptr) Instalada->seleccionarEnControl(control, desde, hasta);
+}
+
+void EscribirEnControl(ControlTexto *control, std::string_view texto) {
+    if (Instalada->escribirEnControl != nullptr) Instalada->escribirEnControl(control, texto);
+}
+
+void PonerTitulo(Ventana *ventana, std::string_view titulo) {
+    if (Instalada->ponerTitulo != nullptr) Instalada->ponerTitulo(ventana, titulo);
 }
 
 void MostrarVentanaResultado(Ventana *ventana, const SalidaResultado &salida) {
-    Instalada->mostrarResultado(ventana, salida);
+    if (Instalada->mostrarResultado != nullptr) Instalada->mostrarResultado(ventana, salida);
+}
+
+void MostrarVentanaGrafico(Ventana *ventana, Grafico &grafico) {
+    if (Instalada->mostrarGrafico != nullptr) Instalada->mostrarGrafico(ventana, grafico);
+}
+
+void AbrirDialogo(Ventana *ventana, Dialogo cual, const DatosDialogo &datos) {
+    if (Instalada->abrirDialogo != nullptr) Instalada->abrirDialogo(ventana, cual, datos);
+}
+
+bool ElegirArchivo(Ventana *ventana, const PeticionArchivo &peticion, std::string &ruta) {
+    return Instalada->elegirArchivo != nullptr && Instalada->elegirArchivo(ventana, peticion, ruta);
 }
 
 void RefrescarEditor() {
-    Instalada->refrescarEditor();
+    if (Instalada->refrescarEditor != nullptr) Instalada->refrescarEditor();
 }
 
 std::int32_t SegundosDeCalendario() {
-    return Instalada->segundos();
+    return Instalada->segundos != nullptr ? Instalada->segundos() : 0;
 }

@@ -1,54 +1,63 @@
 // The seam: what the core asks of the outside. A routine of the core calls a free function of this file; behind it
 // stands the table of operations that the executable installs at start: the desktop's, the batch runner's or a
-// test's. Text that passes here is text of the core (Windows-1252).
+// test's. Text that passes here is text of the core (Windows-1252). The printer has a table of its own, platform/impresora.h.
 #pragma once
 
+#include "platform/dialogos.h"
 #include "platform/literal.h"
-#include "platform/superficie.h"
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 struct Ventana;         // a window of the outside; the core only hands it on
 struct ControlTexto;    // a text control of the outside
 struct SalidaResultado; // a result window (charts/resultados/resultado.h)
+struct Grafico;         // a chart, known to the rooms that draw it
 
 enum Icono { IconoInformacion, IconoPregunta, IconoExclamacion, IconoAlto };
 enum Botones { BotonesAceptar, BotonesAceptarCancelar, BotonesSiNo, BotonesSiNoCancelar };
 enum Respuesta { RespuestaAceptar, RespuestaCancelar, RespuestaSi, RespuestaNo };
-enum Cursor { CursorFlecha, CursorEspera };
 
-// A document of the printer, or what stands in for it (platform/impresora_grabadora.h has the one that records).
-struct DispositivoImpresion;
+// The last three show what dragging does in a chart: it moves a thing, or a side of it to the left and right or up and
+// down (SLIDE, HORMOVE, VERTMOVE).
+enum Cursor { CursorFlecha, CursorEspera, CursorDesplazar, CursorHorizontal, CursorVertical };
 
+// A kind of file that the user is offered.
+struct FormatoArchivo {
+    const char *terminacion; // "txt"; a chosen name without an ending of those offered gets it
+    const char *filtro;      // Windows-1252: "Texto (*.txt)"
+};
+
+// What the user is asked when a file is to be opened or saved.
+struct PeticionArchivo {
+    bool guardar; // a name to write under; before an existing file is replaced the user is asked
+    std::string_view titulo;
+    std::span<const FormatoArchivo> formatos; // the first is the one chosen at the start
+    std::string_view nombre;                  // suggested
+};
+
+// What a program doesn't give is null, and does nothing: no text, no selection, no file, second 0. A box it always gives.
 struct OperacionesPlataforma {
     Respuesta (*caja)(Ventana *ventana, std::string_view texto, std::string_view titulo, Icono icono,
-                      Botones botones);
-    void (*cursor)(Cursor cursor);
+                      Botones botones) = nullptr;
+    void (*cursor)(Cursor cursor) = nullptr;
     // The whole text of a control and its selection, [desde, hasta) in characters.
-    std::string (*textoDeControl)(ControlTexto *control);
-    void (*seleccionDeControl)(ControlTexto *control, int &desde, int &hasta);
-    void (*seleccionarEnControl)(ControlTexto *control, int desde, int hasta);
-    // Shows a result window and returns when it is closed.
-    void (*mostrarResultado)(Ventana *ventana, const SalidaResultado &salida);
+    std::string (*textoDeControl)(ControlTexto *control) = nullptr;
+    void (*seleccionDeControl)(ControlTexto *control, int &desde, int &hasta) = nullptr;
+    void (*seleccionarEnControl)(ControlTexto *control, int desde, int hasta) = nullptr;
+    void (*escribirEnControl)(ControlTexto *control, std::string_view texto) = nullptr;
+    void (*ponerTitulo)(Ventana *ventana, std::string_view titulo) = nullptr;
+    // Each of these shows a window and returns when it is closed.
+    void (*mostrarResultado)(Ventana *ventana, const SalidaResultado &salida) = nullptr;
+    void (*mostrarGrafico)(Ventana *ventana, Grafico &grafico) = nullptr;
+    void (*abrirDialogo)(Ventana *ventana, Dialogo cual, const DatosDialogo &datos) = nullptr;
+    bool (*elegirArchivo)(Ventana *ventana, const PeticionArchivo &peticion, std::string &ruta) = nullptr;
     // The grid of the editor shows the tables anew, if it is open.
-    void (*refrescarEditor)();
-    // Around every print job, whatever documents it opens: what the user is told about it and where its pages go is
-    // decided here.
-    void (*empezarTrabajo)(std::string_view titulo);
-    void (*terminarTrabajo)();
-    // Steps of a print job: null, or false, when the printer refuses.
-    DispositivoImpresion *(*abrirImpresora)();
-    bool (*iniciarDocumento)(DispositivoImpresion *dispositivo, const char *nombre);
-    bool (*iniciarPagina)(DispositivoImpresion *dispositivo);
-    Superficie *(*superficieDePagina)(DispositivoImpresion *dispositivo);
-    bool (*terminarPagina)(DispositivoImpresion *dispositivo);
-    bool (*terminarDocumento)(DispositivoImpresion *dispositivo);
-    void (*cerrarImpresora)(DispositivoImpresion *dispositivo);
+    void (*refrescarEditor)() = nullptr;
     // Calendar time in whole seconds, the seed of the random numbers.
-    std::int32_t (*segundos)();
+    std::int32_t (*segundos)() = nullptr;
 };
 
 // Installs the operations of this run; called once at start, and by each test. `operaciones` must outlive its use.
@@ -81,6 +90,16 @@ std::string TextoDeControl(ControlTexto *control);
 void SeleccionDeControl(ControlTexto *control, int &desde, int &hasta);
 void SeleccionarEnControl(ControlTexto *control, int desde, int hasta);
 void MostrarVentanaResultado(Ventana *ventana, const SalidaResultado &salida);
+void MostrarVentanaGrafico(Ventana *ventana, Grafico &grafico);
+void PonerTitulo(Ventana *ventana, std::string_view titulo);
 void RefrescarEditor();
-const OperacionesPlataforma &Plataforma(); // for the print jobs, which use their operations one by one
 std::int32_t SegundosDeCalendario();
+
+// Puts a text in the place of the control's selection, so that the control's undo takes it back.
+void EscribirEnControl(ControlTexto *control, std::string_view texto);
+
+// Asks for a file. False when the user cancels, else `ruta` is the path as platform/archivos.h takes it.
+bool ElegirArchivo(Ventana *ventana, const PeticionArchivo &peticion, std::string &ruta);
+
+// The installed table, for who stands before it and hands most calls on.
+const OperacionesPlataforma &Plataforma();

@@ -2,8 +2,9 @@
 #include "shell/ayuda.h"
 
 #include "shell/ayuda_textos.h"
+#include "shell/ids_comandos.h"
 
-int CerrarAyuda;
+EstadoAyuda Ayuda;
 
 namespace {
 
@@ -15,35 +16,35 @@ constexpr const char *TituloControl = "Control de flujo y otros";
 
 // Three texts stand twice: in a chain, and alone behind an entry of their own.
 constexpr PaginaManual Paginas[] = {
-    {1194, TituloReglas, 2067, 5074, TextoReglas1},
+    {1194, TituloReglas, ComandoAyudaReglas, 5074, TextoReglas1},
     {1138, TituloReglas, 0, 5035, TextoReglas2},
     {1128, TituloReglas, 0, 0, TextoReglas3},
-    {1197, TituloSeries, 2051, 5015, TextoSeries1},
+    {1197, TituloSeries, ComandoAyudaSeries, 5015, TextoSeries1},
     {1130, TituloSeries, 0, 5058, TextoSeries2},
     {1127, TituloSeries, 0, 5033, TextoSeries3},
     {1131, TituloSeries, 0, 5034, TextoSeries4},
     {1132, TituloSeries, 0, 5073, TextoProbabilidades},
     {1217, TituloSeries, 0, 5075, TextoLogicos},
     {1218, TituloSeries, 0, 0, TextoFicticias},
-    {1192, TituloMatrices, 2069, 5018, TextoMatrices1},
+    {1192, TituloMatrices, ComandoAyudaMatrices, 5018, TextoMatrices1},
     {1129, TituloMatrices, 0, 0, TextoMatrices2},
-    {1191, TituloMetodos, 2084, 5065, TextoMetodos1},
+    {1191, TituloMetodos, ComandoAyudaMetodos, 5065, TextoMetodos1},
     {1133, TituloMetodos, 0, 5068, TextoMetodos2},
     {1134, TituloMetodos, 0, 0, TextoMetodos3},
-    {1190, TituloControl, 2089, 5070, TextoControl1},
+    {1190, TituloControl, ComandoAyudaControl, 5070, TextoControl1},
     {1135, TituloControl, 0, 5071, TextoControl2},
     {1136, TituloControl, 0, 0, TextoControl3},
-    {1193, "Generación de escalares"_w, 2068, 0, TextoEscalares},
-    {1196, "Calculadora", 2053, 0, TextoCalculadora},
-    {PaginaMuestra, "Acotación intervalos muestra"_w, 2101, 0, TextoMuestra},
-    {1220, TituloSeries, 2096, 0, TextoLogicos},
-    {1221, TituloSeries, 2097, 0, TextoFicticias},
-    {1219, TituloSeries, 2098, 0, TextoProbabilidades},
-    {1224, "Acceso a procedimientos desde la Pantalla de Edición"_w, 2102, 0, TextoPantalla},
-    {1223, "Ejemplos de ayuda", 2100, 0, TextoEjemplos},
-    {PaginaAcerca, "Acerca de..", 2046, 0, TextoAcerca},
-    {1222, TituloSeries, 2099, 0, TextoRetardadas},
-    {1195, "Alisado exponencial", 2052, 0, TextoAlisado},
+    {1193, "Generación de escalares"_w, ComandoAyudaEscalares, 0, TextoEscalares},
+    {1196, "Calculadora", ComandoAyudaCalculadora, 0, TextoCalculadora},
+    {PaginaMuestra, "Acotación intervalos muestra"_w, ComandoAyudaMuestra, 0, TextoMuestra},
+    {1220, TituloSeries, ComandoAyudaLogicos, 0, TextoLogicos},
+    {1221, TituloSeries, ComandoAyudaFicticias, 0, TextoFicticias},
+    {1219, TituloSeries, ComandoAyudaProbabilidades, 0, TextoProbabilidades},
+    {1224, "Acceso a procedimientos desde la Pantalla de Edición"_w, ComandoAyudaPantalla, 0, TextoPantalla},
+    {1223, "Ejemplos de ayuda", ComandoAyudaEjemplos, 0, TextoEjemplos},
+    {PaginaAcerca, "Acerca de..", ComandoAcerca, 0, TextoAcerca},
+    {1222, TituloSeries, ComandoAyudaRetardadas, 0, TextoRetardadas},
+    {1195, "Alisado exponencial", ComandoAyudaAlisado, 0, TextoAlisado},
     {PaginaEdicion, "Ventana de Edición"_w, 0, 0, TextoEdicion},
     {PaginaNoEnsamblada, "Opción del menú"_w, 0, 0, TextoNoEnsamblada},
     {PaginaAscii, "Importación/Exportación a/de  ASCII"_w, 0, 0, TextoAscii},
@@ -54,7 +55,8 @@ struct EnlaceAyuda {
     int origen, pagina;
 };
 
-constexpr EnlaceAyuda ComandosEditor[] = {{2046, PaginaEdicion}, {2074, PaginaNoEnsamblada}};
+constexpr EnlaceAyuda ComandosEditor[] = {{ComandoAcerca, PaginaEdicion},
+                                          {ComandoEditorSinEnsamblar, PaginaNoEnsamblada}};
 
 constexpr EnlaceAyuda BotonesSiguiente[] = {
     {5015, 1130}, {5018, 1129}, {5033, 1131}, {5034, 1132}, {5035, 1128}, {5058, 1127}, {5065, 1133},
@@ -125,9 +127,9 @@ void PaginaAyuda(Ventana *ventana, int id, AbrirPagina abrir) {
 }
 
 int PulsarBotonAyuda(Ventana *ventana, const PaginaManual &pagina, int boton, AbrirPagina abrir) {
-    if (boton == BotonAyudaCancelar) CerrarAyuda = 1;
+    if (boton == BotonAyudaCancelar) Ayuda.CerrarAyuda = 1;
     if (boton == 0 || boton != pagina.botonSiguiente) return 1;
-    CerrarAyuda = 0;
+    Ayuda.CerrarAyuda = 0;
     PaginaAyuda(ventana, PaginaDeBoton(boton), abrir);
-    return CerrarAyuda;
+    return Ayuda.CerrarAyuda;
 }

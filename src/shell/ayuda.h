@@ -1,7 +1,8 @@
 // The help pages: what each one says, which command opens it, and how the buttons lead from page to page.
 #pragma once
 
-#include "platform/plataforma.h"
+#include "platform/dialogos.h"
+#include "platform/literal.h"
 
 #include <span>
 
@@ -14,14 +15,6 @@ struct LineaAyuda {
 };
 
 inline constexpr int AnchoLineaAyuda = 78;
-
-// The pages that something else than the menu "Ayuda" opens too, by their id.
-inline constexpr int PaginaMuestra = 1114; // sample dialog, data type dialog
-inline constexpr int PaginaNoEnsamblada = 1125;
-inline constexpr int PaginaEdicion = 1126; // this and the next two by windows that are not built yet
-inline constexpr int PaginaAscii = 1141;
-inline constexpr int PaginaPanel = 1144;
-inline constexpr int PaginaAcerca = 1198;
 
 struct PaginaManual {
     int id;
@@ -67,8 +60,11 @@ struct BotonesPagina {
 };
 BotonesPagina BotonesDePagina(const PaginaManual &pagina);
 
-// 1 once "Cancelar" was pressed, so that every page below closes too.
-extern int CerrarAyuda;
+struct EstadoAyuda {
+    int CerrarAyuda; // 1 once "Cancelar" was pressed, so that every page below closes too
+};
+
+extern EstadoAyuda Ayuda;
 
 // Shows one page, modal, above `ventana`, until it is closed. Every button that is pressed goes to PulsarBotonAyuda, and
 // so does BotonAyudaCancelar when the page is closed in another way.

@@ -5,6 +5,7 @@
 #include "language/palabras.h"
 #include "platform/campos_texto.h"
 #include "shell/ayuda.h"
+#include "shell/listas.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 
@@ -17,11 +18,12 @@ const OperacionesEscritorio *Escritorio = nullptr;
 constexpr const char *SinTipo = "Tipo de datos no válidos"_w;
 constexpr const char *SinTipoSingular = "Tipo de datos no válido"_w; // some commands say it in the singular
 
-constexpr int IdGuardar = 2056;
-
-void NoEstaEnsamblada(Ventana *ventana, int) {
-    Escritorio->dialogoNoEnsamblada(ventana);
+// Shows a dialog: the routine of the commands that do nothing else.
+template <Dialogo cual, int modo = 0> void Abre(Ventana *ventana, int) {
+    AbrirDialogo(ventana, cual, {modo});
 }
+
+constexpr RutinaDeComando NoEstaEnsamblada = Abre<Dialogo::NoEnsamblada>;
 
 void Salir(Ventana *ventana, int) {
     CerrarPrograma(ventana);
@@ -41,25 +43,9 @@ void Pegar(Ventana *ventana, int) {
 }
 
 void ElegirTipo(Ventana *ventana, int) {
-    Escritorio->dialogoTipoDatos(ventana);
+    AbrirDialogo(ventana, Dialogo::TipoDatos);
     // The title is rebuilt whether the user accepted or not.
-    Escritorio->ponerTitulo(
-        ventana, "Tabira: " + std::string(Recortado(ArchivoTrabajo.NombreProyecto, RecorteDerecha)));
-}
-
-void Relacion(Ventana *ventana, int id) {
-    const ListasDeElementos lista = id == 2065 ? ListaSeries : id == 2064 ? ListaMatrices : ListaEscalares;
-    Escritorio->dialogoLista(ventana, lista);
-}
-
-void MuestraEnCurso(Ventana *ventana, int) {
-    Escritorio->dialogoMuestraActual(ventana);
-}
-void AcotarMuestra(Ventana *ventana, int) {
-    Escritorio->dialogoMuestra(ventana);
-}
-void VerUltimaRegresion(Ventana *ventana, int) {
-    Escritorio->dialogoUltimaRegresion(ventana);
+    PonerTitulo(ventana, "Tabira: " + std::string(Recortado(ArchivoTrabajo.NombreProyecto, RecorteDerecha)));
 }
 
 void Procesar(Ventana *ventana, int) {
@@ -71,8 +57,8 @@ void ImprimirTexto(Ventana *ventana, int) {
     ImprimirSeleccion(ventana, Escritorio->pantallaEdicion(ventana));
 }
 
-void Ayuda(Ventana *ventana, int id) {
-    Escritorio->paginaAyuda(ventana, PaginaDeComando(id));
+void VerAyuda(Ventana *ventana, int id) {
+    AbrirDialogo(ventana, Dialogo::Ayuda, {PaginaDeComando(id)});
 }
 
 constexpr const char *Archivo = "&Archivo";
@@ -91,75 +77,83 @@ constexpr const char *MenuDeAyuda = "A&yuda";
 
 } // namespace
 
-// Entries without a routine are announced and not built yet; they all open the same dialog. Those with the id 2002 are
-// announced for good: three entries share the id.
+// Entries without a routine are announced and not built yet; they all open the same dialog. Those with the id
+// ComandoSinEnsamblar are announced for good: three entries share it.
 const Comando TablaComandos[] = {
-    {2055, Archivo, "&Abrir archivo trabajo...", "WLVPT", true, nullptr, nullptr},
-    {IdGuardar, Archivo, "&Guardar archivo trabajo ... ", "WLVPT", true, nullptr, nullptr},
-    {2057, Archivo, "Guardar archivo &trabajo como ...", "WLVPT", true, nullptr, nullptr},
-    {2021, Archivo, "&Salir", "", false, nullptr, Salir},
-    {2047, Edicion, "&Deshacer", "", false, nullptr, Deshacer},
-    {2048, Edicion, "&Cortar", "", false, nullptr, Cortar},
-    {2049, Edicion, "C&opiar", "", false, nullptr, Copiar},
-    {2050, Edicion, "&Pegar", "", false, nullptr, Pegar},
-    {2020, Datos, "&Tipo de datos ...", "WLVPT", false, nullptr, ElegirTipo},
-    {2035, Datos, "&Editor de series...", "WLVPT", true, SinTipoSingular, nullptr},
-    {2054, Datos, "Editor de &matrices...", "WLVPT", false, SinTipoSingular, nullptr},
-    {2065, Datos, "&Relación de series..."_w, "T", true, nullptr, Relacion},
-    {2064, Datos, "Relación &de matrices..."_w, "T", true, nullptr, Relacion},
-    {2066, Datos, "Re&lación de escalares..."_w, "T", true, nullptr, Relacion},
-    {2085, Datos, "&Muestra actual...", "T", true, SinTipo, MuestraEnCurso},
-    {2038, Proced, "&Muestra...", "WLVPT", false, SinTipo, AcotarMuestra},
-    {2006, Proced, "&Procesar", "WVPTE", true, SinTipo, Procesar},
-    {2039, Estadistica, "&Estadísticos descriptivos..."_w, "WVPT", true, SinTipo, nullptr},
-    {2007, Estadistica, "&Histograma...", "VPT", true, SinTipoSingular, nullptr},
-    {2036, Estadistica, "&Predicción y evaluación..."_w, "LVPT", false, SinTipoSingular, nullptr},
-    {2094, Estadistica, "Transformación de series..."_w, "WLVPT", true, nullptr, nullptr},
-    {2013, Graficos, "&Gráficos temporales..."_w, "WLVPT", true, nullptr, nullptr},
-    {2023, Graficos, "Gráficos &de dispersión..."_w, "WLVPT", true, nullptr, nullptr},
-    {2004, Estimacion, "&Mínimos cuadrados..."_w, "WVPTE", true, SinTipo, nullptr},
-    {2081, Estimacion, "Mínimos &cuadrados ponderados..."_w, "WVPTE", true, SinTipo, nullptr},
-    {2002, Estimacion, "Método &variables instrumentales..."_w, "", false, nullptr, NoEstaEnsamblada},
-    {2086, Estimacion, "&Última regresión..."_w, "T", true, nullptr, VerUltimaRegresion},
-    {2012, Significatividad, "&Especificando Hipótesis nula..."_w, "WVPT", false, SinTipo, nullptr},
-    {2075, Significatividad, "Especificando &Modelo restringido...", "WVPT", false, SinTipo, nullptr},
-    {2078, Heteroscedasticidad, "&Goldfeld y Quandt...", "WVPT", false, SinTipo, nullptr},
-    {2080, Heteroscedasticidad, "&White...", "WVPT", false, SinTipo, nullptr},
-    {2079, Heteroscedasticidad, "&Rangos...", "WVPT", false, SinTipo, nullptr},
-    {2082, Autocorrelacion, "&h de Durbin...", "WVPT", false, SinTipo, nullptr},
-    {2083, Autocorrelacion, "&Contraste de Wallis...", "WVPT", false, SinTipo, nullptr},
-    {2073, Autocorrelacion, "&Función de autocorrelación..."_w, "VPT", true, SinTipoSingular, nullptr},
-    {2093, Autocorrelacion, "Función de autocorrelación parcial..."_w, "VPT", true, SinTipoSingular, nullptr},
-    {2087, Contrastes, "Contraste de &normalidad...", "LVPT", true, SinTipoSingular, nullptr},
-    {2002, Contrastes, "&Otros contrastes", "", false, nullptr, NoEstaEnsamblada},
-    {2071, Util, "&Exportar a ASCII...", "LVPT", true, SinTipo, nullptr},
-    {2072, Util, "I&mportar de ASCII...", "LVPT", true, SinTipo, nullptr},
-    {2002, Util, "&Combinar archivos", "", false, nullptr, NoEstaEnsamblada},
-    {2088, Util, "&Imprimir selección"_w, "", false, nullptr, ImprimirTexto},
-    {2092, Util, "&Abrir fichero sentencias...", "", false, nullptr, nullptr},
-    {2091, Util, "&Guardar fichero sentencias...", "", false, nullptr, nullptr},
-    {2090, Util, "Aña&dir fichero sentencias..."_w, "", false, nullptr, nullptr},
-    {2067, MenuDeAyuda, "&Reglas generales...", "", false, nullptr, Ayuda},
-    {2101, MenuDeAyuda, "Acotación de la muestra..."_w, "", false, nullptr, Ayuda},
-    {2051, MenuDeAyuda, "&Transformación de series..."_w, "", false, nullptr, Ayuda},
-    {2068, MenuDeAyuda, "&Escalares...", "", false, nullptr, Ayuda},
-    {2053, MenuDeAyuda, "&Calculadora...", "", false, nullptr, Ayuda},
-    {2069, MenuDeAyuda, "Cálculo &matricial..."_w, "", false, nullptr, Ayuda},
-    {2084, MenuDeAyuda, "Mét&odos y contrastes..."_w, "", false, nullptr, Ayuda},
-    {2089, MenuDeAyuda, "Co&ntrol de flujo y otros...", "", false, nullptr, Ayuda},
-    {2096, MenuDeAyuda, "Operadores lógicos..."_w, "", false, nullptr, Ayuda},
-    {2097, MenuDeAyuda, "Series ficticias...", "", false, nullptr, Ayuda},
-    {2098, MenuDeAyuda, "Probabilidades...", "", false, nullptr, Ayuda},
-    {2102, MenuDeAyuda, "Funciones desde Pantalla Edición"_w, "", false, nullptr, Ayuda},
-    {2100, MenuDeAyuda, "Ejemplos de ayuda...", "", false, nullptr, Ayuda},
-    {2046, MenuDeAyuda, "&Acerca de Tabira...", "", false, nullptr, Ayuda},
+    {ComandoAbrirTrabajo, Archivo, "&Abrir archivo trabajo...", true, nullptr, nullptr},
+    {ComandoGuardarTrabajo, Archivo, "&Guardar archivo trabajo ... ", true, nullptr, nullptr},
+    {ComandoGuardarTrabajoComo, Archivo, "Guardar archivo &trabajo como ...", true, nullptr, nullptr},
+    {ComandoSalir, Archivo, "&Salir", false, nullptr, Salir},
+    {ComandoDeshacer, Edicion, "&Deshacer", false, nullptr, Deshacer},
+    {ComandoCortar, Edicion, "&Cortar", false, nullptr, Cortar},
+    {ComandoCopiar, Edicion, "C&opiar", false, nullptr, Copiar},
+    {ComandoPegar, Edicion, "&Pegar", false, nullptr, Pegar},
+    {ComandoTipoDatos, Datos, "&Tipo de datos ...", false, nullptr, ElegirTipo},
+    {ComandoEditorSeries, Datos, "&Editor de series...", true, SinTipoSingular, nullptr},
+    {ComandoEditorMatrices, Datos, "Editor de &matrices...", false, SinTipoSingular, nullptr},
+    {ComandoRelacionSeries, Datos, "&Relación de series..."_w, true, nullptr,
+     Abre<Dialogo::Lista, ListaSeries>},
+    {ComandoRelacionMatrices, Datos, "Relación &de matrices..."_w, true, nullptr,
+     Abre<Dialogo::Lista, ListaMatrices>},
+    {ComandoRelacionEscalares, Datos, "Re&lación de escalares..."_w, true, nullptr,
+     Abre<Dialogo::Lista, ListaEscalares>},
+    {ComandoMuestraActual, Datos, "&Muestra actual...", true, SinTipo, Abre<Dialogo::MuestraActual>},
+    {ComandoMuestra, Proced, "&Muestra...", false, SinTipo, Abre<Dialogo::Muestra>},
+    {ComandoProcesar, Proced, "&Procesar", true, SinTipo, Procesar},
+    {ComandoDescriptivos, Estadistica, "&Estadísticos descriptivos..."_w, true, SinTipo, nullptr},
+    {ComandoHistograma, Estadistica, "&Histograma...", true, SinTipoSingular, nullptr},
+    {ComandoPrediccion, Estadistica, "&Predicción y evaluación..."_w, false, SinTipoSingular, nullptr},
+    {ComandoTransformacion, Estadistica, "Transformación de series..."_w, true, nullptr, nullptr},
+    {ComandoGraficosTemporales, Graficos, "&Gráficos temporales..."_w, true, nullptr, nullptr},
+    {ComandoGraficosDispersion, Graficos, "Gráficos &de dispersión..."_w, true, nullptr, nullptr},
+    {ComandoMinimosCuadrados, Estimacion, "&Mínimos cuadrados..."_w, true, SinTipo, nullptr},
+    {ComandoMinimosPonderados, Estimacion, "Mínimos &cuadrados ponderados..."_w, true, SinTipo, nullptr},
+    {ComandoSinEnsamblar, Estimacion, "Método &variables instrumentales..."_w, false, nullptr,
+     NoEstaEnsamblada},
+    {ComandoUltimaRegresion, Estimacion, "&Última regresión..."_w, true, nullptr,
+     Abre<Dialogo::UltimaRegresion>},
+    {ComandoHipotesisNula, Significatividad, "&Especificando Hipótesis nula..."_w, false, SinTipo, nullptr},
+    {ComandoModeloRestringido, Significatividad, "Especificando &Modelo restringido...", false, SinTipo,
+     nullptr},
+    {ComandoGoldfeldQuandt, Heteroscedasticidad, "&Goldfeld y Quandt...", false, SinTipo, nullptr},
+    {ComandoWhite, Heteroscedasticidad, "&White...", false, SinTipo, nullptr},
+    {ComandoRangos, Heteroscedasticidad, "&Rangos...", false, SinTipo, nullptr},
+    {ComandoDurbin, Autocorrelacion, "&h de Durbin...", false, SinTipo, nullptr},
+    {ComandoWallis, Autocorrelacion, "&Contraste de Wallis...", false, SinTipo, nullptr},
+    {ComandoAutocorrelacion, Autocorrelacion, "&Función de autocorrelación..."_w, true, SinTipoSingular,
+     nullptr},
+    {ComandoAutocorrelacionParcial, Autocorrelacion, "Función de autocorrelación parcial..."_w, true,
+     SinTipoSingular, nullptr},
+    {ComandoNormalidad, Contrastes, "Contraste de &normalidad...", true, SinTipoSingular, nullptr},
+    {ComandoSinEnsamblar, Contrastes, "&Otros contrastes", false, nullptr, NoEstaEnsamblada},
+    {ComandoExportar, Util, "&Exportar a ASCII...", true, SinTipo, nullptr},
+    {ComandoImportar, Util, "I&mportar de ASCII...", true, SinTipo, nullptr},
+    {ComandoSinEnsamblar, Util, "&Combinar archivos", false, nullptr, NoEstaEnsamblada},
+    {ComandoImprimirSeleccion, Util, "&Imprimir selección"_w, false, nullptr, ImprimirTexto},
+    {ComandoAbrirSentencias, Util, "&Abrir fichero sentencias...", false, nullptr, nullptr},
+    {ComandoGuardarSentencias, Util, "&Guardar fichero sentencias...", false, nullptr, nullptr},
+    {ComandoAnadirSentencias, Util, "Aña&dir fichero sentencias..."_w, false, nullptr, nullptr},
+    {ComandoAyudaReglas, MenuDeAyuda, "&Reglas generales...", false, nullptr, VerAyuda},
+    {ComandoAyudaMuestra, MenuDeAyuda, "Acotación de la muestra..."_w, false, nullptr, VerAyuda},
+    {ComandoAyudaSeries, MenuDeAyuda, "&Transformación de series..."_w, false, nullptr, VerAyuda},
+    {ComandoAyudaEscalares, MenuDeAyuda, "&Escalares...", false, nullptr, VerAyuda},
+    {ComandoAyudaCalculadora, MenuDeAyuda, "&Calculadora...", false, nullptr, VerAyuda},
+    {ComandoAyudaMatrices, MenuDeAyuda, "Cálculo &matricial..."_w, false, nullptr, VerAyuda},
+    {ComandoAyudaMetodos, MenuDeAyuda, "Mét&odos y contrastes..."_w, false, nullptr, VerAyuda},
+    {ComandoAyudaControl, MenuDeAyuda, "Co&ntrol de flujo y otros...", false, nullptr, VerAyuda},
+    {ComandoAyudaLogicos, MenuDeAyuda, "Operadores lógicos..."_w, false, nullptr, VerAyuda},
+    {ComandoAyudaFicticias, MenuDeAyuda, "Series ficticias...", false, nullptr, VerAyuda},
+    {ComandoAyudaProbabilidades, MenuDeAyuda, "Probabilidades...", false, nullptr, VerAyuda},
+    {ComandoAyudaPantalla, MenuDeAyuda, "Funciones desde Pantalla Edición"_w, false, nullptr, VerAyuda},
+    {ComandoAyudaEjemplos, MenuDeAyuda, "Ejemplos de ayuda...", false, nullptr, VerAyuda},
+    {ComandoAcerca, MenuDeAyuda, "&Acerca de Tabira...", false, nullptr, VerAyuda},
     // Ids that no entry bears.
-    {2052, nullptr, nullptr, "", false, nullptr, Ayuda},
-    {2099, nullptr, nullptr, "", false, nullptr, Ayuda},
-    {2001, nullptr, nullptr, "", false, nullptr, NoEstaEnsamblada},
-    {2003, nullptr, nullptr, "", false, nullptr, NoEstaEnsamblada},
-    {2010, nullptr, nullptr, "", false, nullptr, NoEstaEnsamblada},
-    {2, nullptr, nullptr, "", false, nullptr, Salir}, // the cancel key
+    {ComandoAyudaAlisado, nullptr, nullptr, false, nullptr, VerAyuda},
+    {ComandoAyudaRetardadas, nullptr, nullptr, false, nullptr, VerAyuda},
+    {ComandosSinEnsamblar[0], nullptr, nullptr, false, nullptr, NoEstaEnsamblada},
+    {ComandosSinEnsamblar[2], nullptr, nullptr, false, nullptr, NoEstaEnsamblada},
+    {ComandosSinEnsamblar[3], nullptr, nullptr, false, nullptr, NoEstaEnsamblada},
+    {ComandoCancelar, nullptr, nullptr, false, nullptr, Salir}, // the cancel key
 };
 
 const int NumComandos = static_cast<int>(std::size(TablaComandos));
@@ -187,7 +181,7 @@ bool CerrarPrograma(Ventana *ventana) {
                                                 IconoPregunta, BotonesSiNoCancelar);
         if (respuesta == RespuestaCancelar) return false;
         if (respuesta == RespuestaSi) {
-            EjecutarComando(ventana, IdGuardar);
+            EjecutarComando(ventana, ComandoGuardarTrabajo);
             // Saving isn't built yet: whoever asked for it keeps the work and the program.
             return false;
         }

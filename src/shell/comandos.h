@@ -2,26 +2,15 @@
 #pragma once
 
 #include "platform/plataforma.h"
-#include "shell/listas.h"
-
-#include <string>
-#include <string_view>
+#include "shell/ids_comandos.h"
 
 enum AccionesDeEdicion { EditarDeshacer, EditarCortar, EditarCopiar, EditarPegar };
 
-// What the commands ask of the desktop beside the seam of platform/plataforma.h: its dialogs and its main window.
+// What the commands ask of the main window beside the seam of platform/plataforma.h.
 struct OperacionesEscritorio {
     ControlTexto *(*pantallaEdicion)(Ventana *ventana);
     void (*editar)(Ventana *ventana, AccionesDeEdicion accion);
-    void (*ponerTitulo)(Ventana *ventana, std::string_view titulo);
     void (*destruir)(Ventana *ventana); // ends the program's message loop
-    void (*dialogoTipoDatos)(Ventana *ventana);
-    void (*dialogoMuestra)(Ventana *ventana);
-    void (*dialogoMuestraActual)(Ventana *ventana);
-    void (*dialogoLista)(Ventana *ventana, ListasDeElementos lista);
-    void (*dialogoUltimaRegresion)(Ventana *ventana);
-    void (*dialogoNoEnsamblada)(Ventana *ventana);
-    void (*paginaAyuda)(Ventana *ventana, int pagina);
 };
 
 void InstalarEscritorio(const OperacionesEscritorio &operaciones);
@@ -30,12 +19,8 @@ using RutinaDeComando = void (*)(Ventana *ventana, int id);
 
 struct Comando {
     int id;
-    const char *menu;    // menu and, behind "/", submenu; null for an id that no entry bears
-    const char *entrada; // with its mnemonic behind "&"
-    // Block groups that the command works on: W BufferMatriz, V ValoresObs, P PresenciaObs, L EtiquetasObs,
-    // T TextosPeriodo, E TextosEcuacion. They are plain arrays that live as long as the program; the table says who
-    // touches what.
-    const char *bloques;
+    const char *menu;       // menu and, behind "/", submenu; null for an id that no entry bears
+    const char *entrada;    // with its mnemonic behind "&"
     bool refrescaMuestra;   // ActualizarMuestra runs before the work
     const char *guardia;    // message while no data type was chosen, null for none
     RutinaDeComando rutina; // null: announced and not built

@@ -1,7 +1,7 @@
 // tabira: the desktop program. It takes no options.
-#include "platform/qt/plataforma_qt.h"
 #include "shell/comandos.h"
 #include "shell/ventanas/aplicacion.h"
+#include "shell/ventanas/escritorio.h"
 #include "shell/ventanas/ventana_principal.h"
 
 #include <QApplication>
@@ -9,8 +9,7 @@
 int main(int numArgumentos, char **argumentos) {
     const QApplication aplicacion(numArgumentos, argumentos);
     PrepararAplicacion();
-    InstalarPlataformaQt();
-    InstalarOperacionesEscritorio();
+    PrepararEscritorio();
     VentanaPrincipal ventana;
     ventana.showMaximized();
     IniciarPrograma();

@@ -65,6 +65,16 @@ void TerminarTrabajo() {
     visto.dibujo = std::move(t.paginas);
 }
 
+bool Archivo(Ventana *, const PeticionArchivo &p, std::string &ruta) {
+    ArchivoPedido &pedido = Prueba.archivos.emplace_back();
+    pedido = {p.guardar, Utf8De1252(p.titulo), Utf8De1252(p.nombre), {}};
+    for (const FormatoArchivo &f : p.formatos) pedido.filtros.push_back(Utf8De1252(f.filtro));
+    if (Prueba.rutas.empty()) return false;
+    ruta = Prueba.rutas.front();
+    Prueba.rutas.pop_front();
+    return true;
+}
+
 const OperacionesPlataforma Operaciones = {
     .caja = Caja,
     .cursor = [](Cursor c) { Prueba.cursor = c; },
@@ -80,11 +90,29 @@ const OperacionesPlataforma Operaciones = {
             Prueba.desde = std::min(desde, n);
             Prueba.hasta = std::min(hasta, n);
         },
+    .escribirEnControl =
+        [](ControlTexto *, std::string_view texto) {
+            const auto desde = static_cast<std::size_t>(Prueba.desde);
+            Prueba.textoControl.replace(desde, static_cast<std::size_t>(Prueba.hasta) - desde, texto);
+            Prueba.desde = Prueba.hasta = static_cast<int>(desde + texto.size());
+        },
+    .ponerTitulo = [](Ventana *, std::string_view titulo) { Prueba.titulo = Utf8De1252(titulo); },
     .mostrarResultado = Resultado,
+    .mostrarGrafico = [](Ventana *, Grafico &grafico) { Prueba.graficos.push_back(&grafico); },
+    .abrirDialogo =
+        [](Ventana *, Dialogo cual, const DatosDialogo &datos) {
+            Prueba.dialogos.push_back({cual, datos});
+            if (Prueba.enDialogo) Prueba.enDialogo(Prueba.dialogos.back());
+        },
+    .elegirArchivo = Archivo,
     .refrescarEditor = [] { ++Prueba.refrescos; },
+    .segundos = [] { return Prueba.segundos; },
+};
+
+const OperacionesImpresora Impresora = {
     .empezarTrabajo = EmpezarTrabajo,
     .terminarTrabajo = TerminarTrabajo,
-    .abrirImpresora = [] { return DarPaso(PasoAbrir, "abrir") ? AbrirImpresoraGrabadora() : nullptr; },
+    .abrir = [] { return DarPaso(PasoAbrir, "abrir") ? AbrirImpresoraGrabadora() : nullptr; },
     .iniciarDocumento =
         [](DispositivoImpresion *d, const char *nombre) {
             return DarPaso(PasoDocumento, std::string("documento ") + nombre) &&
@@ -92,7 +120,6 @@ const OperacionesPlataforma Operaciones = {
         },
     .iniciarPagina =
         [](DispositivoImpresion *d) { return DarPaso(PasoPagina, "pagina") && IniciarPaginaGrabada(d); },
-    .superficieDePagina = SuperficieGrabada,
     .terminarPagina =
         [](DispositivoImpresion *d) {
             return DarPaso(PasoFinPagina, "fin pagina") && TerminarPaginaGrabada(d);
@@ -101,12 +128,11 @@ const OperacionesPlataforma Operaciones = {
         [](DispositivoImpresion *d) {
             return DarPaso(PasoFinDocumento, "fin documento") && TerminarDocumentoGrabado(d);
         },
-    .cerrarImpresora =
+    .cerrar =
         [](DispositivoImpresion *d) {
             Prueba.pasosImpresora.emplace_back("cerrar");
             CerrarImpresoraGrabadora(d);
         },
-    .segundos = [] { return Prueba.segundos; },
 };
 
 constexpr double Nada = std::numeric_limits<double>::quiet_NaN();
@@ -116,6 +142,7 @@ constexpr double Nada = std::numeric_limits<double>::quiet_NaN();
 void EmpezarPrueba() {
     Prueba = {};
     InstalarPlataforma(Operaciones);
+    InstalarImpresora(Impresora);
     IniciarArchivoTrabajo();
     IniciarProcedimientos();
 }

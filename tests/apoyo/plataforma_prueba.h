@@ -3,11 +3,12 @@
 #pragma once
 
 #include "charts/resultados/resultado.h"
-#include "platform/impresora_grabadora.h"
+#include "platform/impresora.h"
 #include "platform/plataforma.h"
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -48,6 +49,19 @@ enum PasosDeImpresora {
     NumPasosDeImpresora
 };
 
+// A dialog that was asked for.
+struct DialogoPedido {
+    Dialogo cual;
+    DatosDialogo datos;
+};
+
+// A file that was asked for.
+struct ArchivoPedido {
+    bool guardar;
+    std::string titulo, nombre;
+    std::vector<std::string> filtros;
+};
+
 struct PlataformaDePrueba {
     std::vector<CajaVista> cajas;
     std::vector<ResultadoVisto> resultados;
@@ -60,8 +74,15 @@ struct PlataformaDePrueba {
         pasosImpresora; // "abrir", "documento NOMBRE", "pagina", "fin pagina", "fin documento", "cerrar"
     // A step refuses from this occurrence in a job on, counted from 1; 0: never.
     int fallaPaso[NumPasosDeImpresora] = {};
-    std::string textoControl; // text of the one control, in Windows-1252
-    int desde = 0, hasta = 0; // its selection
+    std::vector<DialogoPedido> dialogos;
+    // Run when a dialog is asked for, in its place: what the user does there.
+    std::function<void(const DialogoPedido &)> enDialogo;
+    std::vector<Grafico *> graficos; // charts that were shown
+    std::vector<ArchivoPedido> archivos;
+    std::deque<std::string> rutas; // answers to the files asked for; when empty, the user cancels
+    std::string titulo;            // of the window
+    std::string textoControl;      // text of the one control, in Windows-1252
+    int desde = 0, hasta = 0;      // its selection
 };
 
 extern PlataformaDePrueba Prueba;

@@ -2,9 +2,9 @@
 #include "apoyo_escritorio.h"
 
 #include "platform/campos_texto.h"
-#include "platform/qt/plataforma_qt.h"
 #include "platform/qt/ventana_qt.h"
 #include "shell/comandos.h"
+#include "shell/ventanas/escritorio.h"
 #include "store/archivo.h"
 #include "store/panel.h"
 
@@ -68,8 +68,7 @@ std::vector<std::string> Codigos(int numero, const std::function<const char *(in
 void Escritorio::SetUp() {
     EmpezarPrueba();
     LimpiarEdicionPanel();
-    InstalarPlataformaQt();
-    InstalarOperacionesEscritorio();
+    PrepararEscritorio();
     ventana = std::make_unique<VentanaPrincipal>();
     IniciarPrograma();
 }
@@ -84,7 +83,7 @@ void Escritorio::Ordenar(int id) {
 
 void PonerDatos(int tipo, std::string_view intervalo) {
     EmpezarConDatos(tipo, intervalo);
-    InstalarPlataformaQt();
+    PrepararEscritorio();
 }
 
 void ConGuion(const Guion &guion, const std::function<void()> &llamada) {

@@ -199,13 +199,13 @@ TEST_F(Manual, TextoEntero) {
                        EXPECT_EQ(i, lineas.size());
                        QTest::keyClick(&d, Qt::Key_Escape);
                    }}},
-                 [&] { DialogoAyuda(AVentana(ventana.get()), p.id); });
+                 [&] { DialogoAyuda(AVentana(ventana.get()), {p.id}); });
     }
 }
 
 TEST_F(Manual, PaginasQueNoExisten) {
     for (const int p : {0, -1, 1137, 1207, 9999})
-        ConGuion({}, [&] { DialogoAyuda(AVentana(ventana.get()), p); });
+        ConGuion({}, [&] { DialogoAyuda(AVentana(ventana.get()), {p}); });
 }
 
 TEST_F(Manual, AcercaDe) {

@@ -3,10 +3,10 @@
 
 #include "estimation/regresion.h"
 #include "platform/qt/cajas_qt.h"
-#include "platform/qt/plataforma_qt.h"
+#include "platform/qt/dialogo_decimales.h"
 #include "platform/qt/ventana_qt.h"
 #include "platform/texto.h"
-#include "shell/ventanas/dialogos.h"
+#include "shell/ventanas/escritorio.h"
 #include "store/archivo.h"
 
 #include <QApplication>
@@ -129,7 +129,7 @@ TEST_F(Dialogos, MuestraActual) {
 // The periods of a panel are what the user typed: no part of them is taken for a mark.
 TEST_F(Dialogos, MuestraActualTalComoSeEscribio) {
     EmpezarPrueba();
-    InstalarPlataformaQt();
+    PrepararEscritorio();
     DescripcionPanel.FormaPanel = PanelVariable;
     DescripcionPanel.NumEntradas = 1;
     DescripcionPanel.periodos[0] = {2, "1995<b>&a"};

@@ -212,10 +212,11 @@ TEST_F(Impresion, PapelDeOtraForma) {
 
 // What a note tells is of its own job: the next one begins without it.
 TEST_F(Impresion, LaNotaEsDeSuTrabajo) {
-    EmpezarTrabajoQt("sin nota"); // a job that a printer takes has none, and no empty line either
+    ImpresoraEnUso().empezarTrabajo(
+        "sin nota"); // a job that a printer takes has none, and no empty line either
     EXPECT_TRUE(ventana->statusBar()->isHidden());
     ASSERT_FALSE(Imprimir(*ventana).isEmpty());
-    EmpezarTrabajoQt("otro");
+    ImpresoraEnUso().empezarTrabajo("otro");
     EXPECT_TRUE(ventana->statusBar()->currentMessage().isEmpty());
 }
 

@@ -4,9 +4,9 @@
 
 #include "apoyo/datos_csv.h"
 #include "charts/resultados/ventanas/guardar_resultado.h"
-#include "platform/qt/plataforma_qt.h"
 #include "platform/qt/superficie_qt.h"
 #include "platform/texto.h"
+#include "shell/ventanas/escritorio.h"
 #include "store/archivo.h"
 
 #include <QAbstractScrollArea>
@@ -114,7 +114,7 @@ void TomarKlein(VentanaPrincipal &v) {
     };
     InstalarPlataforma(mirona);
     ConGuion({Ver}, [&] { v.findChild<QAction *>(QStringLiteral("comando2006"))->trigger(); });
-    InstalarPlataformaQt();
+    PrepararEscritorio();
     ASSERT_FALSE(Guardado.lineas.empty());
 }
 

@@ -3,8 +3,8 @@
 
 #include "charts/resultados/ventanas/dialogo_seleccion.h"
 #include "language/lote_sentencias.h"
-#include "platform/qt/plataforma_qt.h"
 #include "platform/qt/ventana_qt.h"
+#include "shell/ventanas/escritorio.h"
 #include "store/archivo.h"
 
 #include <QApplication>
@@ -18,26 +18,12 @@ namespace {
 
 constexpr const char *DeSeries = "Selección de series", *DeMatrices = "Selección de matrices";
 
-// The windows of the desktop, and a printer that keeps what it prints.
-void PonerImpresoraGrabadora() {
-    static OperacionesPlataforma mezcla;
-    mezcla = Plataforma();
-    mezcla.caja = [](Ventana *v, std::string_view texto, std::string_view titulo, Icono icono,
-                     Botones botones) {
-        InstalarPlataformaQt();
-        const Respuesta r = MostrarCaja(v, texto, titulo, icono, botones);
-        InstalarPlataforma(mezcla);
-        return r;
-    };
-    InstalarPlataforma(mezcla);
-}
-
 void Abrir(VentanaPrincipal &v, ModosSeleccion modo, const Guion &guion) {
     EmpezarConDatos(TipoAnual, "1990#1991");
     for (const char *c : {"A", "B", "C"}) PonerSerie(c, {1, 2});
     PonerMatriz("M", {1, 2}, 1, 2);
     PonerMatriz("N", {3}, 1, 1);
-    PonerImpresoraGrabadora();
+    InstalarVentanas(); // the printer stays the one that keeps what it prints
     ConGuion(guion, [&] { DialogoSeleccion(AVentana(&v), modo); });
 }
 

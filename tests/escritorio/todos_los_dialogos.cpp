@@ -3,10 +3,10 @@
 
 #include "charts/resultados/ventanas/dialogo_seleccion.h"
 #include "platform/qt/cajas_qt.h"
+#include "platform/qt/dialogo_decimales.h"
 #include "platform/qt/ventana_qt.h"
 #include "platform/texto.h"
 #include "shell/comandos.h"
-#include "shell/ventanas/dialogos.h"
 #include "store/archivo.h"
 
 namespace {

@@ -2,6 +2,7 @@
 #include "apoyo/plataforma_prueba.h"
 #include "platform/texto.h"
 #include "shell/comandos.h"
+#include "shell/listas.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 
@@ -27,21 +28,25 @@ const OperacionesEscritorio Anotadas = {
         return nullptr;
     },
     .editar = [](Ventana *, AccionesDeEdicion a) { Pedido.push_back("editar " + std::to_string(a)); },
-    .ponerTitulo = [](Ventana *, std::string_view t) { Pedido.push_back("titulo " + Utf8De1252(t)); },
     .destruir = [](Ventana *) { Anotar("destruir"); },
-    .dialogoTipoDatos = [](Ventana *) { Anotar("tipo"); },
-    .dialogoMuestra = [](Ventana *) { Anotar("muestra"); },
-    .dialogoMuestraActual = [](Ventana *) { Anotar("muestra actual"); },
-    .dialogoLista = [](Ventana *, ListasDeElementos l) { Pedido.push_back("lista " + std::to_string(l)); },
-    .dialogoUltimaRegresion = [](Ventana *) { Anotar("regresion"); },
-    .dialogoNoEnsamblada = [](Ventana *) { Anotar("no ensamblada"); },
-    .paginaAyuda = [](Ventana *, int p) { Pedido.push_back("pagina " + std::to_string(p)); },
 };
+
+// As it is noted: number of the dialog, and its mode where it has one.
+std::string Abre(Dialogo cual, int modo = 0) {
+    return "dialogo " + std::to_string(static_cast<int>(cual)) + " " + std::to_string(modo);
+}
 
 void Ordenar(int id) {
     Pedido.clear();
     Prueba.cajas.clear();
     InstalarEscritorio(Anotadas);
+    static OperacionesPlataforma anotada;
+    anotada = Plataforma();
+    anotada.ponerTitulo = [](Ventana *, std::string_view t) { Pedido.push_back("titulo " + Utf8De1252(t)); };
+    anotada.abrirDialogo = [](Ventana *, Dialogo cual, const DatosDialogo &d) {
+        Pedido.push_back(Abre(cual, d.modo));
+    };
+    InstalarPlataforma(anotada);
     EjecutarComando(nullptr, id);
 }
 
@@ -49,26 +54,22 @@ void Ordenar(int id) {
 
 struct FilaEsperada {
     int id;
-    const char *bloques;
     bool refresca;
     const char *guardia;
 };
 
 constexpr FilaEsperada Filas[] = {
-    {2055, "WLVPT", true, nullptr},  {2056, "WLVPT", true, nullptr},   {2057, "WLVPT", true, nullptr},
-    {2021, "", false, nullptr},      {2047, "", false, nullptr},       {2048, "", false, nullptr},
-    {2049, "", false, nullptr},      {2050, "", false, nullptr},       {2020, "WLVPT", false, nullptr},
-    {2035, "WLVPT", true, Singular}, {2054, "WLVPT", false, Singular}, {2065, "T", true, nullptr},
-    {2064, "T", true, nullptr},      {2066, "T", true, nullptr},       {2085, "T", true, Plural},
-    {2038, "WLVPT", false, Plural},  {2006, "WVPTE", true, Plural},    {2039, "WVPT", true, Plural},
-    {2007, "VPT", true, Singular},   {2036, "LVPT", false, Singular},  {2094, "WLVPT", true, nullptr},
-    {2013, "WLVPT", true, nullptr},  {2023, "WLVPT", true, nullptr},   {2004, "WVPTE", true, Plural},
-    {2081, "WVPTE", true, Plural},   {2086, "T", true, nullptr},       {2012, "WVPT", false, Plural},
-    {2075, "WVPT", false, Plural},   {2078, "WVPT", false, Plural},    {2080, "WVPT", false, Plural},
-    {2079, "WVPT", false, Plural},   {2082, "WVPT", false, Plural},    {2083, "WVPT", false, Plural},
-    {2073, "VPT", true, Singular},   {2093, "VPT", true, Singular},    {2087, "LVPT", true, Singular},
-    {2071, "LVPT", true, Plural},    {2072, "LVPT", true, Plural},     {2088, "", false, nullptr},
-    {2092, "", false, nullptr},      {2091, "", false, nullptr},       {2090, "", false, nullptr},
+    {2055, true, nullptr},  {2056, true, nullptr},  {2057, true, nullptr},   {2021, false, nullptr},
+    {2047, false, nullptr}, {2048, false, nullptr}, {2049, false, nullptr},  {2050, false, nullptr},
+    {2020, false, nullptr}, {2035, true, Singular}, {2054, false, Singular}, {2065, true, nullptr},
+    {2064, true, nullptr},  {2066, true, nullptr},  {2085, true, Plural},    {2038, false, Plural},
+    {2006, true, Plural},   {2039, true, Plural},   {2007, true, Singular},  {2036, false, Singular},
+    {2094, true, nullptr},  {2013, true, nullptr},  {2023, true, nullptr},   {2004, true, Plural},
+    {2081, true, Plural},   {2086, true, nullptr},  {2012, false, Plural},   {2075, false, Plural},
+    {2078, false, Plural},  {2080, false, Plural},  {2079, false, Plural},   {2082, false, Plural},
+    {2083, false, Plural},  {2073, true, Singular}, {2093, true, Singular},  {2087, true, Singular},
+    {2071, true, Plural},   {2072, true, Plural},   {2088, false, nullptr},  {2092, false, nullptr},
+    {2091, false, nullptr}, {2090, false, nullptr},
 };
 
 const Comando *BuscarComando(int id) {
@@ -79,12 +80,11 @@ const Comando *BuscarComando(int id) {
 
 } // namespace
 
-TEST(Comandos, CadaUnoConSusBloquesSuRefrescoYSuGuardia) {
+TEST(Comandos, CadaUnoConSuRefrescoYSuGuardia) {
     for (const FilaEsperada &f : Filas) {
         SCOPED_TRACE(f.id);
         const Comando *c = BuscarComando(f.id);
         ASSERT_NE(c, nullptr);
-        EXPECT_STREQ(c->bloques, f.bloques);
         EXPECT_EQ(c->refrescaMuestra, f.refresca);
         EXPECT_EQ(c->guardia != nullptr ? Utf8De1252(c->guardia) : "", f.guardia != nullptr ? f.guardia : "");
     }
@@ -122,23 +122,23 @@ TEST(Comandos, LoQuePidenAlEscritorio) {
         {2048, {"editar 1"}},
         {2049, {"editar 2"}},
         {2050, {"editar 3"}},
-        {2020, {"tipo", "titulo Tabira: Proyec01"}},
-        {2065, {"lista 0"}},
-        {2064, {"lista 1"}},
-        {2066, {"lista 2"}},
-        {2085, {"muestra actual"}},
-        {2038, {"muestra"}},
+        {2020, {Abre(Dialogo::TipoDatos), "titulo Tabira: Proyec01"}},
+        {2065, {Abre(Dialogo::Lista, ListaSeries)}},
+        {2064, {Abre(Dialogo::Lista, ListaMatrices)}},
+        {2066, {Abre(Dialogo::Lista, ListaEscalares)}},
+        {2085, {Abre(Dialogo::MuestraActual)}},
+        {2038, {Abre(Dialogo::Muestra)}},
         {2006, {"pantalla"}},
-        {2086, {"regresion"}},
-        {2001, {"no ensamblada"}},
-        {2002, {"no ensamblada"}},
-        {2003, {"no ensamblada"}},
-        {2010, {"no ensamblada"}},
+        {2086, {Abre(Dialogo::UltimaRegresion)}},
+        {2001, {Abre(Dialogo::NoEnsamblada)}},
+        {2002, {Abre(Dialogo::NoEnsamblada)}},
+        {2003, {Abre(Dialogo::NoEnsamblada)}},
+        {2010, {Abre(Dialogo::NoEnsamblada)}},
         {2088, {"pantalla"}},
-        {2067, {"pagina 1194"}},
-        {2046, {"pagina 1198"}},
-        {2052, {"pagina 1195"}},
-        {2099, {"pagina 1222"}},
+        {2067, {Abre(Dialogo::Ayuda, 1194)}},
+        {2046, {Abre(Dialogo::Ayuda, 1198)}},
+        {2052, {Abre(Dialogo::Ayuda, 1195)}},
+        {2099, {Abre(Dialogo::Ayuda, 1222)}},
         {2021, {"destruir"}},
         {2, {"destruir"}},
         {0, {}},
@@ -171,7 +171,7 @@ TEST(Comandos, LaPreguntaDelCierre) {
         {false, true, false, RespuestaCancelar, {pregunta}, {}},
         {true, true, true, RespuestaNo, {pregunta}, {"destruir"}},
         // Saving isn't built: whoever wants it keeps the work.
-        {true, false, false, RespuestaSi, {pregunta}, {"no ensamblada"}},
+        {true, false, false, RespuestaSi, {pregunta}, {Abre(Dialogo::NoEnsamblada)}},
     };
     for (const auto &c : casos) {
         SCOPED_TRACE(testing::Message() << c.serie << c.matriz << c.escalar << c.respuesta);

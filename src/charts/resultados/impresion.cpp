@@ -33,12 +33,12 @@ RutinaDeImpresion RutinaDe(int clase) {
 }
 
 bool IniciarDocumento(DocumentoImpresion &d, const char *nombre) {
-    d.conDocumento = Plataforma().iniciarDocumento(d.dispositivo, nombre);
+    d.conDocumento = ImpresoraEnUso().iniciarDocumento(d.dispositivo, nombre);
     return d.conDocumento;
 }
 
 bool IniciarPagina(DocumentoImpresion &d) {
-    d.conPagina = Plataforma().iniciarPagina(d.dispositivo);
+    d.conPagina = ImpresoraEnUso().iniciarPagina(d.dispositivo);
     return d.conPagina;
 }
 
@@ -46,9 +46,9 @@ bool IniciarPagina(DocumentoImpresion &d) {
 bool CerrarDocumento(DocumentoImpresion &d) {
     if (d.dispositivo == nullptr) return true;
     bool bien = true;
-    if (d.conPagina) bien = Plataforma().terminarPagina(d.dispositivo);
-    if (d.conDocumento) bien = Plataforma().terminarDocumento(d.dispositivo) && bien;
-    Plataforma().cerrarImpresora(d.dispositivo);
+    if (d.conPagina) bien = ImpresoraEnUso().terminarPagina(d.dispositivo);
+    if (d.conDocumento) bien = ImpresoraEnUso().terminarDocumento(d.dispositivo) && bien;
+    ImpresoraEnUso().cerrar(d.dispositivo);
     d = {};
     return bien;
 }
@@ -73,16 +73,16 @@ DispositivoImpresion *ErrorDePagina(Ventana *ventana, const char *texto) {
 } // namespace
 
 DispositivoImpresion *AbrirImpresora() {
-    return Plataforma().abrirImpresora();
+    return ImpresoraEnUso().abrir();
 }
 
 int ImprimirSalida(Ventana *ventana, std::string_view titulo, int clase, const void *datos) {
     const RutinaDeImpresion rutina = RutinaDe(clase);
     if (rutina == nullptr || datos == nullptr) return 1;
     PonerCursor(CursorEspera);
-    Plataforma().empezarTrabajo(titulo);
+    ImpresoraEnUso().empezarTrabajo(titulo);
     const bool bien = HacerTrabajo(ventana, rutina, datos);
-    Plataforma().terminarTrabajo();
+    ImpresoraEnUso().terminarTrabajo();
     PonerCursor(CursorFlecha);
     return bien ? 0 : 1;
 }
@@ -110,5 +110,5 @@ bool TerminarPaginaImpresion(DispositivoImpresion *dispositivo) {
     DocumentoImpresion &d =
         dispositivo == Impresion.propio.dispositivo ? Impresion.propio : Impresion.siguiente;
     d.conPagina = false;
-    return Plataforma().terminarPagina(dispositivo);
+    return ImpresoraEnUso().terminarPagina(dispositivo);
 }

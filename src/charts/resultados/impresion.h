@@ -2,6 +2,7 @@
 #pragma once
 
 #include "charts/resultados/resultado.h"
+#include "platform/impresora.h"
 #include "platform/plataforma.h"
 
 #include <span>

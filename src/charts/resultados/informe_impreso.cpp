@@ -27,7 +27,7 @@ bool ImprimirTextoInforme(DispositivoImpresion *dispositivo, Ventana *ventana,
     const int numLineas = static_cast<int>(salida.lineas->size());
     int primera = 1;
     for (int desde = 0;;) {
-        Superficie &s = *Plataforma().superficieDePagina(dispositivo);
+        Superficie &s = *ImpresoraEnUso().superficieDePagina(dispositivo);
         const int fila = PonerTitulos(s, salida);
         const BloqueTexto bloque = BloqueCentrado(s, (fila + 1) * s.altoLinea, s.alto - 4 * s.altoLinea);
         int filas = 0;

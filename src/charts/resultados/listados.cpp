@@ -53,7 +53,7 @@ Hoja AbrirHoja(DispositivoImpresion *dispositivo, Ventana *ventana, int ancho, i
     Hoja h{};
     h.dispositivo = dispositivo;
     h.ventana = ventana;
-    h.s = Plataforma().superficieDePagina(dispositivo);
+    h.s = ImpresoraEnUso().superficieDePagina(dispositivo);
     h.izquierda = std::max((h.s->ancho - ancho * h.s->anchoCaracter) / 2, 1);
     h.derecha = std::min(h.izquierda + ancho * h.s->anchoCaracter, h.s->ancho);
     h.lineasPagina = h.s->alto / h.s->altoLinea;
@@ -115,7 +115,7 @@ bool CambiarPagina(Hoja &h) {
     if (!CerrarPagina(h)) return false;
     h.dispositivo = NuevaPaginaImpresion(h.ventana, h.pagina == 1 ? 1 : 0);
     if (h.dispositivo == nullptr) return false;
-    h.s = Plataforma().superficieDePagina(h.dispositivo);
+    h.s = ImpresoraEnUso().superficieDePagina(h.dispositivo);
     PonerCabeceraDePagina(h);
     PonerCabeceraDeBloque(h);
     return true;

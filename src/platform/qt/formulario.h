@@ -1,8 +1,11 @@
-// What every dialog of the desktop does with its form.
+// What every dialog of the desktop does with its form, and what forms repeat: the chosen button of a group, "Ayuda" and
+// "Decimales" as buttons or in a menu bar, lists that put what is chosen behind the text of a field.
 #pragma once
 
+#include "platform/composicion.h"
 #include "platform/qt/ventana_qt.h"
 
+#include <QAction>
 #include <QDialog>
 #include <QLabel>
 #include <QLayout>
@@ -11,6 +14,8 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <functional>
+#include <initializer_list>
 
 // The line of a list that the user has chosen, -1 for none. The current line may be another one, which
 // nobody chose: after a deletion, say.
@@ -18,6 +23,32 @@ inline int FilaElegida(const QListWidget &lista) {
     const QList<QListWidgetItem *> elegidas = lista.selectedItems();
     return elegidas.isEmpty() ? -1 : lista.row(elegidas.constFirst());
 }
+
+// The number of the button that is checked, -1 for none.
+int BotonElegido(std::initializer_list<const QAbstractButton *> botones);
+
+// A click on the button opens a page of the manual above the dialog.
+void AbreAyuda(QDialog &dialogo, QPushButton &boton, int pagina);
+
+// An entry of the menu bar of the dialog, behind those that stand there; the first one brings the bar. Windows-1252, with
+// its mnemonic behind "&"; the name of the entry is its text without marks.
+QAction *EntradaDeMenu(QDialog &dialogo, const char *texto, const std::function<void()> &hacer);
+
+// The entries "&Ayuda" and "&Decimales" of many dialogs.
+void MenuAyuda(QDialog &dialogo, int pagina);
+void MenuDecimales(QDialog &dialogo, int &decimales);
+
+// How a line of a list is chosen by the mouse. The keyboard chooses with Enter or the blank, so that the arrows can walk.
+enum Eleccion { EligeUnClic, EligeDobleClic };
+
+// Does `elegir` with each line that is chosen, once.
+void AlElegir(QListWidget &lista, Eleccion eleccion, const std::function<void(QListWidgetItem &)> &elegir);
+
+// Puts the line that stands chosen behind the text of the field, if there is one.
+void AnadirElegido(const QListWidget &lista, QLineEdit &campo, const ReglaDeAnadir &regla);
+
+// Each line that is chosen goes behind the text of the field. The field takes no more than the rule says.
+void AnadeAlCampo(QListWidget &lista, Eleccion eleccion, QLineEdit &campo, const ReglaDeAnadir &regla);
 
 // Keeps Alt with a letter out of the fields of a dialog.
 class CampoSinAlt : public QObject {

@@ -1,7 +1,7 @@
 // The desktop's printer.
 #include "platform/qt/impresora_qt.h"
 
-#include "platform/impresora_grabadora.h"
+#include "platform/impresora.h"
 #include "platform/qt/pdf.h"
 #include "platform/qt/texto_qt.h"
 
@@ -72,20 +72,6 @@ void Avisar(const QString &texto) {
     }
 }
 
-} // namespace
-
-void PonerNotaDeImpresion(QDialog &dialogo) {
-    auto *nota = new QStatusBar(&dialogo);
-    nota->hide();
-    dialogo.layout()->addWidget(nota);
-}
-
-bool ImprimirEnPapel(QPrinter &papel, const TrabajoImpreso &trabajo) {
-    papel.setDocName(QDe1252(trabajo.documento));
-    papel.setPageOrientation(QPageLayout::Portrait);
-    return PintarPaginas(papel, trabajo.paginas);
-}
-
 void EmpezarTrabajoQt(std::string_view titulo) {
     for (QStatusBar *linea : LineasDeNota()) linea->clearMessage(); // what it tells is of the job before
     EmpezarTrabajoGrabado(titulo);
@@ -115,9 +101,31 @@ void TerminarTrabajoQt() {
     }
 }
 
+} // namespace
+
+void PonerNotaDeImpresion(QDialog &dialogo) {
+    auto *nota = new QStatusBar(&dialogo);
+    nota->hide();
+    dialogo.layout()->addWidget(nota);
+}
+
+bool ImprimirEnPapel(QPrinter &papel, const TrabajoImpreso &trabajo) {
+    papel.setDocName(QDe1252(trabajo.documento));
+    papel.setPageOrientation(QPageLayout::Portrait);
+    return PintarPaginas(papel, trabajo.paginas);
+}
+
 bool ImprimirEnDocumento(const std::string &ruta, const std::function<bool()> &imprimir) {
     Destino = {&ruta, false};
     const bool bien = imprimir() && Destino.escrito;
     Destino = {};
     return bien;
+}
+
+void InstalarImpresoraQt() {
+    static const OperacionesImpresora Operaciones = {
+        .empezarTrabajo = EmpezarTrabajoQt,
+        .terminarTrabajo = TerminarTrabajoQt,
+    };
+    InstalarImpresora(Operaciones);
 }

@@ -4,7 +4,6 @@
 
 #include <functional>
 #include <string>
-#include <string_view>
 
 class QDialog;
 class QPrinter;
@@ -16,9 +15,8 @@ void PonerNotaDeImpresion(QDialog &dialogo);
 // The pages of a job on a printer, in portrait, under the name of its document. False when the printer refuses.
 bool ImprimirEnPapel(QPrinter &papel, const TrabajoImpreso &trabajo);
 
-// Operations of the platform around a job.
-void EmpezarTrabajoQt(std::string_view titulo);
-void TerminarTrabajoQt();
+// Installs the desktop's printer.
+void InstalarImpresoraQt();
 
 // Runs `imprimir`, and what it prints goes to the PDF document `ruta` instead. False when it prints nothing or the
 // document can't be written.

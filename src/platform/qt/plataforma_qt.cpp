@@ -1,11 +1,8 @@
 // The desktop behind the seam.
 #include "platform/qt/plataforma_qt.h"
 
-#include "charts/resultados/ventanas/ventana_resultado_qt.h"
-#include "platform/impresora_grabadora.h"
-#include "platform/plataforma.h"
 #include "platform/qt/cajas_qt.h"
-#include "platform/qt/impresora_qt.h"
+#include "platform/qt/elegir_archivo_qt.h"
 #include "platform/qt/texto_qt.h"
 #include "platform/qt/ventana_qt.h"
 
@@ -17,13 +14,18 @@
 
 namespace {
 
+std::span<const FilaDeDialogo> Dialogos;
+
+constexpr Qt::CursorShape Formas[] = {Qt::ArrowCursor, Qt::WaitCursor, Qt::SizeAllCursor, Qt::SizeHorCursor,
+                                      Qt::SizeVerCursor};
+
 // The program sets the wait cursor for each line and the arrow at the end; one override stands for all of them. A
 // loop runs lines by the hundred thousand: a cursor that stands already isn't sent to the display again.
 void CursorQt(Cursor cursor) {
     const QCursor *puesto = QApplication::overrideCursor();
-    if (cursor == CursorEspera && puesto != nullptr && puesto->shape() == Qt::WaitCursor) return;
+    if (cursor != CursorFlecha && puesto != nullptr && puesto->shape() == Formas[cursor]) return;
     while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
-    if (cursor == CursorEspera) QApplication::setOverrideCursor(Qt::WaitCursor);
+    if (cursor != CursorFlecha) QApplication::setOverrideCursor(Formas[cursor]);
 }
 
 void SeleccionQt(ControlTexto *control, int &desde, int &hasta) {
@@ -41,27 +43,39 @@ void SeleccionarQt(ControlTexto *control, int desde, int hasta) {
     e->setTextCursor(c);
 }
 
+// Undone as one step; a selected text is replaced.
+void EscribirQt(ControlTexto *control, std::string_view texto) {
+    DeControl(control)->insertPlainText(QDe1252(texto));
+}
+
+void TituloQt(Ventana *ventana, std::string_view titulo) {
+    // The toolkit takes a lone "[*]" for the place of its mark of changes.
+    const QString marca = QStringLiteral("[*]");
+    DeVentana(ventana)->setWindowTitle(QDe1252(titulo).replace(marca, marca + marca));
+}
+
+void AbrirDialogoQt(Ventana *ventana, Dialogo cual, const DatosDialogo &datos) {
+    for (const FilaDeDialogo &fila : Dialogos)
+        if (fila.cual == cual) return fila.abrir(ventana, datos);
+}
+
 } // namespace
 
-void InstalarPlataformaQt() {
-    static const OperacionesPlataforma Operaciones = {
+void InstalarPlataformaQt(const VentanasQt &ventanas) {
+    static OperacionesPlataforma Operaciones = {
         .caja = CajaQt,
         .cursor = CursorQt,
         .textoDeControl = [](ControlTexto *c) { return De1252Q(DeControl(c)->toPlainText()); },
         .seleccionDeControl = SeleccionQt,
         .seleccionarEnControl = SeleccionarQt,
-        .mostrarResultado = MostrarResultadoQt,
-        .refrescarEditor = [] {},
-        .empezarTrabajo = EmpezarTrabajoQt,
-        .terminarTrabajo = TerminarTrabajoQt,
-        .abrirImpresora = AbrirImpresoraGrabadora,
-        .iniciarDocumento = IniciarDocumentoGrabado,
-        .iniciarPagina = IniciarPaginaGrabada,
-        .superficieDePagina = SuperficieGrabada,
-        .terminarPagina = TerminarPaginaGrabada,
-        .terminarDocumento = TerminarDocumentoGrabado,
-        .cerrarImpresora = CerrarImpresoraGrabadora,
+        .escribirEnControl = EscribirQt,
+        .ponerTitulo = TituloQt,
+        .abrirDialogo = AbrirDialogoQt,
+        .elegirArchivo = ElegirArchivoQt,
         .segundos = [] { return static_cast<std::int32_t>(std::time(nullptr)); },
     };
+    Operaciones.mostrarResultado = ventanas.mostrarResultado;
+    Operaciones.mostrarGrafico = ventanas.mostrarGrafico;
+    Dialogos = ventanas.dialogos;
     InstalarPlataforma(Operaciones);
 }

@@ -40,7 +40,7 @@ QString TextoDePagina(const PaginaManual &pagina) {
 
 void MostrarUnaPagina(Ventana *ventana, const PaginaManual &pagina) {
     if (pagina.id == PaginaAcerca) return MostrarAcerca(ventana);
-    if (pagina.id == PaginaNoEnsamblada) return DialogoNoEnsamblada(ventana);
+    if (pagina.id == PaginaNoEnsamblada) return DialogoNoEnsamblada(ventana, {});
     DialogoConFormulario<Ui::DialogoDePagina> d(ventana);
     d.dialogo.setWindowTitle(QDe1252(pagina.titulo));
     d.dialogo.setObjectName(QStringLiteral("P%1").arg(pagina.id));
@@ -75,6 +75,6 @@ void MostrarUnaPagina(Ventana *ventana, const PaginaManual &pagina) {
 
 } // namespace
 
-void DialogoAyuda(Ventana *ventana, int pagina) {
-    PaginaAyuda(ventana, pagina, MostrarUnaPagina);
+void DialogoAyuda(Ventana *ventana, const DatosDialogo &datos) {
+    PaginaAyuda(ventana, datos.modo, MostrarUnaPagina);
 }

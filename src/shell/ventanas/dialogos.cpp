@@ -4,11 +4,10 @@
 #include "platform/qt/formulario.h"
 #include "platform/qt/superficie_qt.h"
 #include "platform/qt/texto_qt.h"
-#include "shell/ayuda.h"
+#include "shell/listas.h"
 #include "shell/ultima_regresion.h"
 #include "store/periodos.h"
 
-#include "ui_decimales.h"
 #include "ui_lista.h"
 #include "ui_muestra.h"
 #include "ui_muestra_actual.h"
@@ -29,7 +28,7 @@ void PonerLineas(std::initializer_list<QLabel *> etiquetas, const std::vector<st
 
 } // namespace
 
-void DialogoMuestra(Ventana *ventana) {
+void DialogoMuestra(Ventana *ventana, const DatosDialogo &) {
     DialogoConFormulario<Ui::DialogoDeMuestra> d(ventana);
     PrepararDialogoMuestra();
     d.ui.TextoInicial->setText(QDe1252(::Muestra.TextoInicial));
@@ -39,19 +38,19 @@ void DialogoMuestra(Ventana *ventana) {
         AceptarDialogoMuestra(De1252Q(d.ui.TextoInicial->text()), De1252Q(d.ui.TextoFinal->text()));
         return true;
     });
-    QObject::connect(d.ui.Ayuda, &QPushButton::clicked, &d.dialogo,
-                     [&] { DialogoAyuda(d.ventana(), PaginaMuestra); });
+    AbreAyuda(d.dialogo, *d.ui.Ayuda, PaginaMuestra);
     d.Ejecutar();
 }
 
-void DialogoMuestraActual(Ventana *ventana) {
+void DialogoMuestraActual(Ventana *ventana, const DatosDialogo &) {
     DialogoConFormulario<Ui::MuestraActual> d(ventana);
     PonerLineas({d.ui.linea0, d.ui.linea1, d.ui.linea2, d.ui.linea3}, LineasMuestraActual());
     d.AlAceptar();
     d.Ejecutar();
 }
 
-void DialogoLista(Ventana *ventana, ListasDeElementos lista) {
+void DialogoLista(Ventana *ventana, const DatosDialogo &datos) {
+    const auto lista = static_cast<ListasDeElementos>(datos.modo);
     DialogoConFormulario<Ui::ListadoElementos> d(ventana);
     d.dialogo.setWindowTitle(QDe1252(TituloLista(lista)));
     d.ui.lista->setFont(FuenteFijaDePantalla());
@@ -68,30 +67,15 @@ void DialogoLista(Ventana *ventana, ListasDeElementos lista) {
     d.Ejecutar();
 }
 
-void DialogoUltimaRegresion(Ventana *ventana) {
+void DialogoUltimaRegresion(Ventana *ventana, const DatosDialogo &) {
     DialogoConFormulario<Ui::UltimaRegresionDialogo> d(ventana);
     PonerLineas({d.ui.linea0, d.ui.linea1, d.ui.linea2}, LineasUltimaRegresion());
     d.AlAceptar();
     d.Ejecutar();
 }
 
-void DialogoNoEnsamblada(Ventana *ventana) {
+void DialogoNoEnsamblada(Ventana *ventana, const DatosDialogo &) {
     DialogoConFormulario<Ui::OpcionDelMenu> d(ventana);
     d.AlAceptar();
-    d.Ejecutar();
-}
-
-void DialogoDecimales(int &decimales, Ventana *ventana) {
-    DialogoConFormulario<Ui::FormatoDecimal> d(ventana);
-    QRadioButton *const botones[] = {d.ui.decimales0, d.ui.decimales1, d.ui.decimales2, d.ui.decimales3,
-                                     d.ui.decimales4, d.ui.decimales5, d.ui.decimales6};
-    // Two decimals are checked whatever the present value is.
-    d.ui.decimales2->setChecked(true);
-    d.ui.decimales2->setFocus(); // the arrows go on from there
-    d.AlAceptar([&] {
-        for (std::size_t i = 0; i < std::size(botones); ++i)
-            if (botones[i]->isChecked()) decimales = static_cast<int>(i);
-        return true;
-    });
     d.Ejecutar();
 }

@@ -5,8 +5,6 @@
 #include "platform/qt/texto_qt.h"
 #include "platform/qt/ventana_qt.h"
 #include "shell/comandos.h"
-#include "shell/ventanas/dialogos.h"
-#include "store/ventanas/dialogo_tipo_datos.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -151,25 +149,12 @@ void InstalarOperacionesEscritorio() {
                 case EditarPegar: p->paste(); break;
                 }
             },
-        .ponerTitulo =
-            [](Ventana *v, std::string_view titulo) {
-                // The toolkit takes a lone "[*]" for the place of its mark of changes.
-                const QString marca = QStringLiteral("[*]");
-                Principal(v)->setWindowTitle(QDe1252(titulo).replace(marca, marca + marca));
-            },
         .destruir =
             [](Ventana *v) {
                 Principal(v)->Destruida = true;
                 Principal(v)->close();
                 QCoreApplication::quit();
             },
-        .dialogoTipoDatos = ElegirTipoDatos,
-        .dialogoMuestra = DialogoMuestra,
-        .dialogoMuestraActual = DialogoMuestraActual,
-        .dialogoLista = DialogoLista,
-        .dialogoUltimaRegresion = DialogoUltimaRegresion,
-        .dialogoNoEnsamblada = DialogoNoEnsamblada,
-        .paginaAyuda = DialogoAyuda,
     };
     InstalarEscritorio(Operaciones);
 }

@@ -27,5 +27,5 @@ private:
     bool PortadaMostrada = false;
 };
 
-// The desktop's dialogs and main window for the commands.
+// The desktop's main window for the commands.
 void InstalarOperacionesEscritorio();

@@ -54,9 +54,7 @@ void DialogoPanelConstante(Ventana *ventana) {
         d.ui.fin->setText(texto(i.ultimoAno, i.ultimoSub));
     }
     d.AlAceptar([&] {
-        int tipo = TipoAnual;
-        for (int t = 0; t < 3; ++t)
-            if (botones[t]->isChecked()) tipo = t + 1;
+        const int tipo = TipoAnual + BotonElegido({d.ui.anual, d.ui.trimestral, d.ui.mensual});
         return AceptarPanelConstante(d.ventana(), De1252Q(d.ui.individuos->text()), tipo,
                                      De1252Q(d.ui.inicio->text()), De1252Q(d.ui.fin->text())) == 1;
     });

@@ -3,8 +3,6 @@
 
 #include "platform/qt/formulario.h"
 #include "platform/qt/texto_qt.h"
-#include "shell/ayuda.h"
-#include "shell/ventanas/dialogos.h"
 #include "store/tipos_datos.h"
 #include "store/ventanas/dialogo_panel.h"
 
@@ -54,24 +52,21 @@ bool DialogoPeriodos(Ventana *ventana, PropuestaTipoDatos &propuesta) {
 
 } // namespace
 
-void ElegirTipoDatos(Ventana *ventana) {
+void ElegirTipoDatos(Ventana *ventana, const DatosDialogo &) {
     DialogoConFormulario<Ui::TiposDatos> d(ventana);
-    QRadioButton *const botones[] = {d.ui.tipo0, d.ui.tipo1, d.ui.tipo2, d.ui.tipo3, d.ui.tipo4};
     d.ui.NombreProyecto->setText(QDe1252(NombreDialogoTipo()));
     d.ui.NombreProyecto->selectAll();
     PropuestaTipoDatos propuesta;
     // The dialog of the type comes back here when it is cancelled.
     d.AlAceptar([&] {
         propuesta.nombre = De1252Q(d.ui.NombreProyecto->text());
-        propuesta.tipo = SinTipoDatos;
-        for (int t = TipoSinPeriodicidad; t <= TipoPanel; ++t)
-            if (botones[t]->isChecked()) propuesta.tipo = t;
+        const int tipo = BotonElegido({d.ui.tipo0, d.ui.tipo1, d.ui.tipo2, d.ui.tipo3, d.ui.tipo4});
+        propuesta.tipo = tipo < 0 ? SinTipoDatos : tipo;
         if (AceptarNombreYTipo(d.ventana(), propuesta) == 0) return false;
         if (propuesta.tipo == TipoSinPeriodicidad) return DialogoObservaciones(d.ventana(), propuesta);
         if (propuesta.tipo == TipoPanel) return DialogoPanel(d.ventana(), propuesta);
         return DialogoPeriodos(d.ventana(), propuesta);
     });
-    QObject::connect(d.ui.Ayuda, &QPushButton::clicked, &d.dialogo,
-                     [&] { DialogoAyuda(d.ventana(), PaginaMuestra); });
+    AbreAyuda(d.dialogo, *d.ui.Ayuda, PaginaMuestra);
     d.Ejecutar();
 }

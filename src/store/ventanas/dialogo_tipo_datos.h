@@ -1,6 +1,6 @@
 // The dialog of data types and those that follow it.
 #pragma once
 
-#include "platform/plataforma.h"
+#include "platform/dialogos.h"
 
-void ElegirTipoDatos(Ventana *ventana);
+void ElegirTipoDatos(Ventana *ventana, const DatosDialogo &);

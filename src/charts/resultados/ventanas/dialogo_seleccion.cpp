@@ -3,10 +3,10 @@
 #include "charts/resultados/ventanas/dialogo_seleccion.h"
 
 #include "language/lote_sentencias.h"
+#include "platform/qt/dialogo_decimales.h"
 #include "platform/qt/formulario.h"
 #include "platform/qt/impresora_qt.h"
 #include "platform/qt/texto_qt.h"
-#include "shell/ventanas/dialogos.h"
 
 #include "ui_seleccion.h"
 

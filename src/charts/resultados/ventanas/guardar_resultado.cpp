@@ -12,13 +12,12 @@
 #include "platform/texto.h"
 
 #include <QBuffer>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QImage>
 #include <QRegularExpression>
-#include <QStandardPaths>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -82,31 +81,16 @@ bool GuardarImagen(const SalidaResultado &salida, const QString &ruta) {
            EscribirArchivo(Bytes(ruta), {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
-struct FormatoDeArchivo {
-    const char *terminacion;
-    const char *filtro; // Windows-1252
-    bool (*guardar)(const SalidaResultado &salida, const QString &ruta);
+// The forms in which a result is saved, in the order of Guardados.
+constexpr FormatoArchivo Formatos[] = {
+    {"txt", "Texto (*.txt)"},
+    {"pdf", "Documento PDF (*.pdf)"},
+    {"tsv", "Tabla para hojas de cálculo (*.tsv)"_w},
+    {"png", "Imagen PNG (*.png)"},
 };
-
-constexpr FormatoDeArchivo Formatos[] = {
-    {"txt", "Texto (*.txt)", GuardarTexto},
-    {"pdf", "Documento PDF (*.pdf)", GuardarPdf},
-    {"tsv", "Tabla para hojas de cálculo (*.tsv)"_w, GuardarTabla},
-    {"png", "Imagen PNG (*.png)", GuardarImagen},
-};
-
-// The format that the ending of a name tells, null for none of ours.
-const FormatoDeArchivo *FormatoDelNombre(const QString &ruta) {
-    const QString terminacion = QFileInfo(ruta).suffix().toLower();
-    for (const FormatoDeArchivo &f : Formatos)
-        if (terminacion == QLatin1String(f.terminacion)) return &f;
-    return nullptr;
-}
-
-// A name such as "klein 1.5" has no ending of ours: the format chosen gives it one.
-QString ConTerminacion(const QString &ruta, const FormatoDeArchivo &elegido) {
-    return FormatoDelNombre(ruta) != nullptr ? ruta : ruta + u'.' + QLatin1String(elegido.terminacion);
-}
+using RutinaDeGuardar = bool (*)(const SalidaResultado &salida, const QString &ruta);
+constexpr RutinaDeGuardar Guardados[] = {GuardarTexto, GuardarPdf, GuardarTabla, GuardarImagen};
+static_assert(std::size(Guardados) == std::size(Formatos));
 
 } // namespace
 
@@ -137,32 +121,18 @@ std::string TablaDeResultado(const SalidaResultado &salida) {
 }
 
 bool GuardarResultado(const SalidaResultado &salida, const QString &ruta) {
-    const FormatoDeArchivo *formato = FormatoDelNombre(ruta);
-    return formato != nullptr ? formato->guardar(salida, ruta) : GuardarTexto(salida, ruta);
+    const QString terminacion = QFileInfo(ruta).suffix().toLower();
+    for (std::size_t i = 0; i < std::size(Formatos); ++i)
+        if (terminacion == QLatin1String(Formatos[i].terminacion)) return Guardados[i](salida, ruta);
+    return GuardarTexto(salida, ruta);
 }
 
 void DialogoGuardarResultado(QWidget *padre, const SalidaResultado &salida) {
-    QStringList filtros;
-    for (const FormatoDeArchivo &f : Formatos) filtros << QDe1252(f.filtro);
-    QFileDialog dialogo(padre, QStringLiteral("Guardar como"),
-                        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
-                        filtros.join(QStringLiteral(";;")));
-    dialogo.setAcceptMode(QFileDialog::AcceptSave);
-    dialogo.setOption(QFileDialog::DontConfirmOverwrite); // the name isn't whole yet when it would look
     static const QRegularExpression NoEnNombres(QStringLiteral("[^\\w ()-]+"),
                                                 QRegularExpression::UseUnicodePropertiesOption);
-    dialogo.selectFile(QDe1252(salida.titulo).remove(NoEnNombres));
-    dialogo.resize(DentroDeLaPantalla(dialogo, dialogo.sizeHint()));
-    while (Modal(dialogo) == QDialog::Accepted && !dialogo.selectedFiles().isEmpty()) {
-        const auto elegido = std::max(filtros.indexOf(dialogo.selectedNameFilter()), qsizetype{0});
-        const QString ruta = ConTerminacion(dialogo.selectedFiles().constFirst(), Formatos[elegido]);
-        const std::string yaExiste =
-            De1252Q(QFileInfo(ruta).fileName()) + " ya existe. ¿Desea reemplazarlo?"_w;
-        if (QFileInfo::exists(ruta) && MostrarCaja(AVentana(&dialogo), yaExiste, "Guardar como",
-                                                   IconoPregunta, BotonesSiNo) != RespuestaSi)
-            continue;
-        if (!GuardarResultado(salida, ruta))
-            MostrarMensaje(AVentana(padre), "No se ha podido guardar el archivo");
-        return;
-    }
+    const std::string nombre = De1252Q(QDe1252(salida.titulo).remove(NoEnNombres));
+    std::string ruta;
+    if (!ElegirArchivo(AVentana(padre), {true, "Guardar como", Formatos, nombre}, ruta)) return;
+    if (!GuardarResultado(salida, QString::fromStdString(ruta)))
+        MostrarMensaje(AVentana(padre), "No se ha podido guardar el archivo");
 }

@@ -1,0 +1,54 @@
+// The desktop's chooser of files.
+#include "platform/qt/elegir_archivo_qt.h"
+
+#include "platform/qt/texto_qt.h"
+#include "platform/qt/ventana_qt.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <algorithm>
+
+namespace {
+
+// A name such as "klein 1.5" has no ending of ours: the format chosen gives it one.
+QString ConTerminacion(const QString &ruta, std::span<const FormatoArchivo> formatos, qsizetype elegido) {
+    const QString terminacion = QFileInfo(ruta).suffix().toLower();
+    const bool nuestra =
+        formatos.empty() || std::any_of(formatos.begin(), formatos.end(), [&](const FormatoArchivo &f) {
+            return terminacion == QLatin1String(f.terminacion);
+        });
+    return nuestra ? ruta
+                   : ruta + u'.' + QLatin1String(formatos[static_cast<std::size_t>(elegido)].terminacion);
+}
+
+} // namespace
+
+bool ElegirArchivoQt(Ventana *ventana, const PeticionArchivo &peticion, std::string &ruta) {
+    QStringList filtros;
+    for (const FormatoArchivo &f : peticion.formatos) filtros << QDe1252(f.filtro);
+    QFileDialog dialogo(DeVentana(ventana), QDe1252(peticion.titulo),
+                        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+                        filtros.join(QStringLiteral(";;")));
+    dialogo.setAcceptMode(peticion.guardar ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    if (!peticion.guardar) dialogo.setFileMode(QFileDialog::ExistingFile);
+    dialogo.setOption(QFileDialog::DontConfirmOverwrite); // the name isn't whole yet when it would look
+    dialogo.selectFile(QDe1252(peticion.nombre));
+    dialogo.resize(DentroDeLaPantalla(dialogo, dialogo.sizeHint()));
+    while (Modal(dialogo) == QDialog::Accepted && !dialogo.selectedFiles().isEmpty()) {
+        QString elegida = dialogo.selectedFiles().constFirst();
+        if (peticion.guardar) {
+            const auto filtro = std::max(filtros.indexOf(dialogo.selectedNameFilter()), qsizetype{0});
+            elegida = ConTerminacion(elegida, peticion.formatos, filtro);
+            const std::string yaExiste =
+                De1252Q(QFileInfo(elegida).fileName()) + " ya existe. ¿Desea reemplazarlo?"_w;
+            if (QFileInfo::exists(elegida) && MostrarCaja(AVentana(&dialogo), yaExiste, peticion.titulo,
+                                                          IconoPregunta, BotonesSiNo) != RespuestaSi)
+                continue;
+        }
+        ruta = elegida.toStdString();
+        return true;
+    }
+    return false;
+}
