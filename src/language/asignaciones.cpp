@@ -91,7 +91,7 @@ int AsignarSerie(LineasSentencia &lineas, int &posicion, Ventana *ventana, int p
 }
 
 int AsignarEscalar(LineasSentencia &lineas, int &posicion, Ventana *ventana, int primera, int ultima) {
-    if (EvaluarFormula(lineas, posicion, primera, ultima) != 1) return 0;
+    if (EvaluarPrimeraFila(lineas, posicion, primera, ultima) != 1) return 0;
     if (GuardarEscalar() == 0) return 1;
     MostrarMensaje(ventana, "Error en la generación de escalares"_w);
     return 0;
@@ -101,7 +101,7 @@ int Calcular(LineasSentencia &lineas, int &posicion, Ventana *ventana, int prime
     SaltarBlancos(lineas[0], posicion);
     if (posicion >= Tamano(lineas[0])) return MensajeNumerado(ventana, 39, " : Faltan datos");
     AgruparPrioridades(lineas[0], posicion, Tamano(lineas[0]));
-    if (EvaluarFormula(lineas, posicion, primera, ultima) != 1) return 0;
+    if (EvaluarPrimeraFila(lineas, posicion, primera, ultima) != 1) return 0;
     MostrarMensaje(ventana, Formatear(" %8.4lf ", ValorSuperior()), "Resultado");
     return 1;
 }
@@ -125,7 +125,8 @@ int EjecutarAsignacion(LineasSentencia &lineas, int &posicion, Ventana *ventana,
     case OrdenSER: return AsignarSerie(lineas, posicion, ventana, primera, ultima);
     case OrdenESC: return AsignarEscalar(lineas, posicion, ventana, primera, ultima);
     default:
-        return EvaluarFormula(lineas, posicion, primera, ultima) == 1 ? GuardarObservacion(periodo, ventana)
-                                                                      : 0;
+        return EvaluarPrimeraFila(lineas, posicion, primera, ultima) == 1
+                   ? GuardarObservacion(periodo, ventana)
+                   : 0;
     }
 }

@@ -162,9 +162,13 @@ int ElementoLogico(std::string_view palabra, LineasSentencia &lineas, int &posic
 int ElementoSerie(int serie, const std::string &texto, int &posicion) {
     if (!ApilarSerie(serie)) return 6;
     if (TrasOperando()) return 7;
-    if (CaracterEn(texto, posicion) == '(' && !AplicarRetardo(serie, texto, posicion)) return 8;
+    int retardo = 0;
+    if (CaracterEn(texto, posicion) == '(') {
+        if (!AplicarRetardo(serie, texto, posicion)) return 8;
+        retardo = Evaluador.ValorRetardo;
+    }
     SaltarBlancos(texto, posicion);
-    if (CaracterEn(texto, posicion) == '[' && !AplicarPeriodo(texto, posicion)) return 88;
+    if (CaracterEn(texto, posicion) == '[' && !AplicarPeriodo(serie, retardo, texto, posicion)) return 88;
     return OperandoHecho();
 }
 
@@ -285,15 +289,47 @@ int EvaluarTrozo(LineasSentencia &lineas, int desde, int hasta) {
     return r;
 }
 
-int EvaluarFormula(LineasSentencia &lineas, int &posicion, int primera, int ultima) {
+namespace {
+
+// True when no word of the formula is a function that mixes rows. The words are taken as loosely as can be: a name of a
+// function inside a text that is no formula costs time and nothing else.
+bool FilasIndependientes(const std::string &texto, int posicion) {
+    const std::size_t largo = texto.size();
+    for (std::size_t i = static_cast<std::size_t>(std::max(posicion, 0)); i < largo;) {
+        const std::size_t inicio = i;
+        while (i < largo && texto[i] >= 'A' && texto[i] <= 'Z') ++i;
+        if (i > inicio) {
+            const FuncionSerie *f = BuscarFuncionSerie(std::string_view(texto).substr(inicio, i - inicio));
+            if (f != nullptr && MezclaFilas(*f)) return false;
+        } else {
+            ++i;
+        }
+    }
+    return true;
+}
+
+int EvaluarFilas(LineasSentencia &lineas, int &posicion, int primera, int ultima, bool soloPrimera) {
     Evaluador.PrimeraEval = primera;
     Evaluador.UltimaEval = ultima;
+    Evaluador.UltimaCalculada = ultima;
     if (primera < 0 || ultima < 0 || ArchivoTrabajo.NumObs > MaxObservaciones) return 1;
     const std::string &texto = LineaDelNivel(lineas);
     // A sample without data ends at row 100,000.
     if (primera >= MaxObservaciones || ultima >= MaxObservaciones)
         return MensajePunto(Evaluador.ventana, texto, 88);
+    if (soloPrimera && primera < ultima && FilasIndependientes(texto, posicion))
+        Evaluador.UltimaCalculada = primera;
     if (EvaluarNivel(lineas, posicion) == 0) return 0;
     // An empty parenthesis counts as an operand and leaves none.
     return Evaluador.profundidad > 0 ? 1 : MensajePunto(Evaluador.ventana, texto, 1119);
+}
+
+} // namespace
+
+int EvaluarFormula(LineasSentencia &lineas, int &posicion, int primera, int ultima) {
+    return EvaluarFilas(lineas, posicion, primera, ultima, false);
+}
+
+int EvaluarPrimeraFila(LineasSentencia &lineas, int &posicion, int primera, int ultima) {
+    return EvaluarFilas(lineas, posicion, primera, ultima, true);
 }

@@ -13,7 +13,7 @@
 // evaluated. They belong to a batch, so that no statement allocates.
 using LineasSentencia = std::array<std::string, MaxNiveles>;
 
-// One column of the evaluation stack. Only the rows PrimeraEval to UltimaEval are written and read.
+// One column of the evaluation stack. Only the rows PrimeraEval to UltimaCalculada are written and read.
 struct ColumnaPila {
     double valor[MaxObservaciones];
     std::uint8_t presente[MaxObservaciones];
@@ -30,10 +30,11 @@ struct EstadoEvaluador {
     std::array<std::array<char, 7>, MaxFuncionesPendientes> FuncionesPendientes;
     std::int32_t numFunciones;
     std::int32_t EstadoElemento;
-    char OperadorLogico[4];    // the last AND or OR seen; one for the whole statement
-    std::int32_t MarcaRetardo; // 1 once a lag was applied in this statement
-    std::int32_t ValorRetardo; // the last lag applied, negative for past values
-    std::int32_t PrimeraEval, UltimaEval;
+    char OperadorLogico[4];               // the last AND or OR seen; one for the whole statement
+    std::int32_t MarcaRetardo;            // 1 once a lag was applied in this statement
+    std::int32_t ValorRetardo;            // the last lag applied, negative for past values
+    std::int32_t PrimeraEval, UltimaEval; // observation bounds of this evaluation
+    std::int32_t UltimaCalculada;         // last row that is computed: UltimaEval, or PrimeraEval alone
     // The names that the running assignment writes to: set by the parse of the statement, or by the procedures that
     // compute with formulas, before the store operation is called.
     char CodigoSerieDestino[AnchoCodigo];
@@ -60,6 +61,10 @@ void CerrarPilaColumnas();
 // tables, or a formula that leaves nothing on the stack, fails with point 88 or 1119.
 int EvaluarFormula(LineasSentencia &lineas, int &posicion, int primera, int ultima);
 
+// The same for who takes the value of the row `primera` alone (ValorSuperior): a formula whose rows don't depend on each
+// other is computed on that row only. Result, messages and bounds are those of EvaluarFormula.
+int EvaluarPrimeraFila(LineasSentencia &lineas, int &posicion, int primera, int ultima);
+
 // The top column. Only after an EvaluarFormula that gave 1 and left something (profundidad above 0).
 ColumnaPila &ColumnaSuperior();
 
@@ -70,7 +75,7 @@ double ValorSuperior();
 // `desde` up to `hasta` (not included) and not beyond the end.
 void AgruparPrioridades(std::string &texto, int desde, int hasta);
 
-// Pushes a constant column, or the values and flags of a series, in the rows PrimeraEval to UltimaEval of Evaluador.
+// Pushes a constant column, or the values and flags of a series, in the rows PrimeraEval to UltimaCalculada.
 // False when the stack is full (50 columns) or not open.
 bool ApilarNumero(double valor);
 bool ApilarSerie(int serie);

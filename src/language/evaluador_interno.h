@@ -26,6 +26,11 @@ struct FilasEvaluacion {
 };
 
 inline FilasEvaluacion FilasDeEvaluacion() {
+    return {std::max(Evaluador.PrimeraEval, 0), std::min(Evaluador.UltimaCalculada, MaxObservaciones - 1)};
+}
+
+// The rows of the sample, in which periods are looked up, computed or not.
+inline FilasEvaluacion FilasDeMuestra() {
     return {std::max(Evaluador.PrimeraEval, 0), std::min(Evaluador.UltimaEval, MaxObservaciones - 1)};
 }
 
@@ -45,8 +50,9 @@ inline ColumnaPila &Columna(int k) {
 // The lag of a series that was pushed just now; `posicion` is on the "(". False when it is no lag.
 bool AplicarRetardo(int serie, const std::string &texto, int &posicion);
 
-// The period of the series on top; `posicion` is on the "[". False when there is no such row in the sample.
-bool AplicarPeriodo(const std::string &texto, int &posicion);
+// The period of the series on top, pushed with the lag `retardo` (0 for none); `posicion` is on the "[". False when there
+// is no such row in the sample.
+bool AplicarPeriodo(int serie, int retardo, const std::string &texto, int &posicion);
 
 // Element of a matrix, `posicion` where its "[" should be. 1, or the number of the failure.
 int ApilarElementoMatriz(int matriz, const std::string &texto, int &posicion);
@@ -77,6 +83,9 @@ struct FuncionSerie;
 
 // The function of this name, or null.
 const FuncionSerie *BuscarFuncionSerie(std::string_view nombre);
+
+// True when a row of its result depends on other rows: totals, and what goes on from row to row.
+bool MezclaFilas(const FuncionSerie &funcion);
 
 // Reads the arguments of a function from `posicion`, where its "(" stands if it has one, and applies it. 0, with
 // `posicion` on the closing ")" of the call, or the number of the failure.

@@ -109,7 +109,7 @@ int EvaluarFila(LineasSentencia &lineas, int i, int retardo, std::string_view re
     linea.assign("OBS ").append(serie).append("[").append(TextoPeriodo(i)).append("] = ");
     int posicion = static_cast<int>(linea.size());
     linea.append(serie).append("[").append(TextoPeriodo(i - retardo)).append("] ").append(resto);
-    return EvaluarFormula(lineas, posicion, primera, ultima);
+    return EvaluarPrimeraFila(lineas, posicion, primera, ultima);
 }
 
 } // namespace

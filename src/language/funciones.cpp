@@ -15,7 +15,8 @@ using RutinaDeColumna = void (*)(ColumnaPila &a, const ColumnaPila &b, int desde
 enum ClasesFuncion {
     FuncionDeFila,    // each row by itself
     FuncionPositiva,  // the same, and 0.0 at or below zero
-    FuncionDeColumna, // row after row, or the sample as a whole
+    FuncionDeColumna, // each row by itself, of two columns
+    FuncionSeguida,   // row after row, each from the one before
     FuncionTotal,     // one value for the sample; its argument sees series whatever SeriesPermitidas says
     FuncionDeProbabilidad, // Probabilidad of each row, of the kind that the fifth letter of the name tells
 };
@@ -155,15 +156,15 @@ constexpr FuncionSerie Funciones[] = {
     {"ABS", 1, FuncionDeFila, Absoluto, nullptr},
     {"NOT", 1, FuncionDeFila, Negacion, nullptr},
     {"POT", 2, FuncionDeColumna, nullptr, Potencia},
-    {"TEND", 2, FuncionDeColumna, nullptr, Tendencia},
-    {"PROG", 2, FuncionDeColumna, nullptr, Progresion},
+    {"TEND", 2, FuncionSeguida, nullptr, Tendencia},
+    {"PROG", 2, FuncionSeguida, nullptr, Progresion},
     {"SUMSER", 1, FuncionTotal, nullptr, Suma},
     {"MEDSER", 1, FuncionTotal, nullptr, Media},
     {"DESSER", 1, FuncionTotal, nullptr, Desviacion},
     {"MAXSER", 1, FuncionTotal, nullptr, Maximo},
     {"MINSER", 1, FuncionTotal, nullptr, Minimo},
-    {"RND", 0, FuncionDeColumna, nullptr, Uniformes},
-    {"RNDN", 0, FuncionDeColumna, nullptr, Normales},
+    {"RND", 0, FuncionSeguida, nullptr, Uniformes},
+    {"RNDN", 0, FuncionSeguida, nullptr, Normales},
     {"PROBT", 2, FuncionDeProbabilidad, nullptr, nullptr},
     {"PROBF", 3, FuncionDeProbabilidad, nullptr, nullptr},
     {"PROBN", 1, FuncionDeProbabilidad, nullptr, nullptr},
@@ -288,6 +289,10 @@ const FuncionSerie *BuscarFuncionSerie(std::string_view nombre) {
     for (const FuncionSerie &f : Funciones)
         if (f.nombre == nombre) return &f;
     return nullptr;
+}
+
+bool MezclaFilas(const FuncionSerie &funcion) {
+    return funcion.clase == FuncionTotal || funcion.clase == FuncionSeguida;
 }
 
 int AplicarFuncionSerie(const FuncionSerie &funcion, LineasSentencia &lineas, int &posicion) {

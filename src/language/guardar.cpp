@@ -57,15 +57,6 @@ void LimpiarRetardo(int serie, int primera, int ultima) {
     }
 }
 
-// First row from `desde` to `hasta` whose text reads as this number, or -1. Two equal texts read as equal numbers, so
-// this is also the first row that bears the text.
-int FilaDeValor(double valor, int desde, int hasta) {
-    const double *valores = ArchivoTrabajo.ValoresPeriodo;
-    const double *fin = valores + std::clamp(hasta + 1, desde, MaxObservaciones);
-    const double *fila = std::find(valores + desde, fin, valor);
-    return fila == fin ? -1 : static_cast<int>(fila - valores);
-}
-
 int GuardarEnPeriodo(std::string_view periodo, bool fueraDeMuestra) {
     if (SinEfecto()) return 1;
     if (Rechazada(Evaluador.CodigoSerieDestino)) return 0;
@@ -74,10 +65,10 @@ int GuardarEnPeriodo(std::string_view periodo, bool fueraDeMuestra) {
     const int primera = std::min(Evaluador.PrimeraEval, UltimaFila);
     const int ultima = std::min(Evaluador.UltimaEval, UltimaFila);
     const double numero = LeerDecimal(periodo);
-    int fila = FilaDeValor(numero, primera, ultima);
+    int fila = FilaDeValorPeriodo(numero, primera, ultima);
     const int escalar = fila < 0 ? BuscarEscalar(periodo) : -1;
-    if (escalar >= 0) fila = FilaDeValor(TablaEscalares.registro[escalar].Valor, primera, ultima);
-    if (fila < 0 && fueraDeMuestra) fila = FilaDeValor(numero, 0, ArchivoTrabajo.NumObs - 1);
+    if (escalar >= 0) fila = FilaDeValorPeriodo(TablaEscalares.registro[escalar].Valor, primera, ultima);
+    if (fila < 0 && fueraDeMuestra) fila = FilaDeValorPeriodo(numero, 0, ArchivoTrabajo.NumObs - 1);
     if (fila < 0) return 1;
     // The value is that of the first row of the bounds, for every row, and it is stored as present even where the
     // formula had it missing.

@@ -3,6 +3,7 @@
 
 #include "platform/texto.h"
 #include "store/archivo.h"
+#include "store/periodos.h"
 
 #include <algorithm>
 
@@ -63,11 +64,13 @@ int MensajeNumerado(Ventana *ventana, int punto, std::string_view texto) {
 int ProcesarLote(Ventana *ventana, ControlTexto *control, int origen, std::string_view texto, int primera,
                  int ultima) {
     Lote.detenido = 1;
+    ultima = FinDeCalculo(ultima);
     Evaluador.ventana = ventana;
     LimpiarEvaluador();
     Lote.NingunaSentenciaHecha = 1;
     Evaluador.PrimeraEval = primera;
     Evaluador.UltimaEval = ultima;
+    Evaluador.UltimaCalculada = ultima;
     if (ArchivoTrabajo.TipoDatos >= SinTipoDatos) {
         MostrarMensaje(ventana, "Tipo de datos no válidos"_w);
         return 0;

@@ -1,7 +1,7 @@
 // The stack of columns, and the operands that are pushed on it.
 //
 // An operand is a column of all the rows of the work file: a number or a scalar is the same value in each. But
-// nothing reads a row outside PrimeraEval to UltimaEval: operators, functions, period access and the stores keep
+// nothing reads a row outside PrimeraEval to UltimaCalculada: operators, functions, period access and the stores keep
 // inside, and a lag, which follows directly behind the push of its series, reads the rows that it shifts in from the
 // store. So a push fills these rows only, and the columns are never cleared.
 #include "language/evaluador_interno.h"
@@ -51,22 +51,23 @@ int AcotarRetardo(double retardo) {
 // The values of the series, shifted. The rows that nothing is shifted into get 0.0; a lead empties one row more than
 // it needs to. The flags stay: a missing value stays missing at its own row, with the value that was shifted there,
 // and the row that received its 0.0 shows it as a present value.
-void DesplazarSerie(ColumnaPila &c, int serie, int retardo) {
-    const auto &valores = ArchivoTrabajo.ValoresObs;
-    const FilasEvaluacion f = FilasDeCarga();
+double ValorDesplazado(int serie, int retardo, int fila) {
     const int primeraLlena = retardo < 0 ? -retardo : 0;
     const int primeraVacia = retardo > 0 ? MaxObservaciones - 1 - retardo : MaxObservaciones;
-    for (int i = f.desde; i <= f.hasta; ++i)
-        c.valor[i] = i < primeraLlena || i >= primeraVacia ? 0.0 : valores[i + retardo][serie];
+    return fila < primeraLlena || fila >= primeraVacia ? 0.0
+                                                       : ArchivoTrabajo.ValoresObs[fila + retardo][serie];
+}
+
+void DesplazarSerie(ColumnaPila &c, int serie, int retardo) {
+    const FilasEvaluacion f = FilasDeCarga();
+    for (int i = f.desde; i <= f.hasta; ++i) c.valor[i] = ValorDesplazado(serie, retardo, i);
 }
 
 // First row of the sample whose period has this number, or -1. A text of a period that equals the text of the formula
 // has the same number, so comparing the numbers alone finds the first row where either is equal.
 int FilaDePeriodo(double periodo) {
-    const FilasEvaluacion f = FilasDeEvaluacion();
-    for (int i = f.desde; i <= f.hasta; ++i)
-        if (ArchivoTrabajo.ValoresPeriodo[i] == periodo) return i;
-    return -1;
+    const FilasEvaluacion f = FilasDeMuestra();
+    return FilaDeValorPeriodo(periodo, f.desde, f.hasta);
 }
 
 } // namespace
@@ -116,7 +117,7 @@ bool AplicarRetardo(int serie, const std::string &texto, int &posicion) {
     return true;
 }
 
-bool AplicarPeriodo(const std::string &texto, int &posicion) {
+bool AplicarPeriodo(int serie, int retardo, const std::string &texto, int &posicion) {
     ++posicion;
     const std::string_view token = SiguienteToken(texto, posicion);
     int fila = FilaDePeriodo(LeerDecimal(token));
@@ -127,7 +128,7 @@ bool AplicarPeriodo(const std::string &texto, int &posicion) {
     if (fila < 0) return false;
     // The flags stay as they are: a row where the series is missing stays missing.
     ColumnaPila &c = Columna(0);
-    const double valor = c.valor[fila];
+    const double valor = ValorDesplazado(serie, retardo, fila); // the row may be one that isn't computed
     const FilasEvaluacion f = FilasDeEvaluacion();
     for (int i = f.desde; i <= f.hasta; ++i) c.valor[i] = valor;
     if (CaracterEn(texto, posicion) != ']') return false;

@@ -32,7 +32,7 @@ int EjecutarControl(Orden &o) {
 int EjecutarMUEST(Orden &o) {
     MuestraDeSentencia(o.lineas[0]);
     o.primera = Muestra.InicioMuestra;
-    o.ultima = Muestra.FinMuestra;
+    o.ultima = FinDeCalculo(Muestra.FinMuestra);
     return 1;
 }
 

@@ -162,7 +162,7 @@ int AplicarFuncionMatriz(std::string_view nombre, double &resultado, int &posici
     resultado = 0.0;
     if (nombre == "NOBS") {
         // The size of the whole sample, whatever rows the formula works on.
-        resultado = static_cast<double>(Muestra.FinMuestra) - Muestra.InicioMuestra + 1.0;
+        resultado = static_cast<double>(FinDeCalculo(Muestra.FinMuestra)) - Muestra.InicioMuestra + 1.0;
         FormulaMatriz.UltimoElemento = ElementoOperando;
         return 1;
     }

@@ -13,12 +13,27 @@ TablaDeEcuaciones TablaEcuaciones;
 
 void PonerTextoPeriodo(int fila, std::string_view texto) {
     PonerCampo(ArchivoTrabajo.TextosPeriodo[fila], texto, AnchoPeriodo);
-    ArchivoTrabajo.ValoresPeriodo[fila] = LeerDecimal(ArchivoTrabajo.TextosPeriodo[fila]);
+    CabeceraArchivo &a = ArchivoTrabajo;
+    a.ValoresPeriodo[fila] = LeerDecimal(a.TextosPeriodo[fila]);
+    if (fila > a.PeriodosCrecientes) return;
+    const bool crece = fila == 0 || a.ValoresPeriodo[fila] > a.ValoresPeriodo[fila - 1];
+    a.PeriodosCrecientes = crece ? fila + 1 : fila;
 }
 
 std::string_view TextoPeriodo(int fila) {
     if (fila < 0 || fila >= MaxObservaciones) return {};
     return Recortado(ArchivoTrabajo.TextosPeriodo[fila]);
+}
+
+int FilaDeValorPeriodo(double valor, int desde, int hasta) {
+    const double *valores = ArchivoTrabajo.ValoresPeriodo;
+    const int inicio = std::clamp(desde, 0, MaxObservaciones);
+    const int fin = std::clamp(hasta + 1, inicio, MaxObservaciones);
+    const int ordenadas = std::clamp<int>(ArchivoTrabajo.PeriodosCrecientes, inicio, fin);
+    const double *primera = std::lower_bound(valores + inicio, valores + ordenadas, valor);
+    if (primera == valores + ordenadas || *primera != valor)
+        primera = std::find(valores + ordenadas, valores + fin, valor);
+    return primera == valores + fin ? -1 : static_cast<int>(primera - valores);
 }
 
 namespace {

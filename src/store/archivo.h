@@ -40,6 +40,7 @@ struct CabeceraArchivo {
     std::int16_t UltimaObs[MaxSeries];
     std::int32_t ConEtiquetas;
     double ValoresPeriodo[MaxObservaciones]; // the number that each text of TextosPeriodo begins with
+    std::int32_t PeriodosCrecientes;         // rows from 0 on whose numbers rise strictly
     // Rows of each slot that may hold something: from this one on value and flag are 0. Whoever writes an observation keeps
     // it (PonerObservacion, MarcarFilas), so that clearing and copying a short series doesn't touch all 4,000 rows.
     std::int32_t FilasEscritas[MaxSeries];
@@ -64,6 +65,10 @@ inline void PonerObservacion(int fila, int serie, double valor, std::int32_t pre
 // text without blanks at its sides, empty for a row outside 0 to 3,999.
 void PonerTextoPeriodo(int fila, std::string_view texto);
 std::string_view TextoPeriodo(int fila);
+
+// First row from `desde` to `hasta` whose text reads as this number, or -1. Two equal texts read as equal numbers, so this
+// is also the first row that bears a text of this number. Bounds outside the table count as its ends.
+int FilaDeValorPeriodo(double valor, int desde, int hasta);
 
 // Slot of the series (among the NumSeries in use), or -1. The text is padded before it is compared, here and below.
 int BuscarSerie(std::string_view codigo);

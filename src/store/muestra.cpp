@@ -197,6 +197,10 @@ std::string TextoDeLimite(int ano, int sub, const std::string &escrito) {
 
 } // namespace
 
+int FinDeCalculo(int ultima) {
+    return ultima < MaxObservaciones ? ultima : FilasEnUso() - 1;
+}
+
 void ActualizarMuestra() {
     const bool faltaInicio = Muestra.AnoInicial == 0;
     const bool faltaFin = Muestra.AnoFinal == 0;

@@ -52,6 +52,10 @@ extern EstadoDeMuestra Muestra;
 // beyond row 0 the end is 100,000: whoever uses the bounds checks them.
 void ActualizarMuestra();
 
+// The end of a sample for whoever computes: a bound behind the tables, as a sample without data has, counts as the last row
+// of the work file. A series that was declared and holds nothing yet must not stop everything else.
+int FinDeCalculo(int ultima);
+
 // MUEST: reads two periods from the whole statement line, keeps them as limits, then ActualizarMuestra.
 void MuestraDeSentencia(std::string_view linea);
 

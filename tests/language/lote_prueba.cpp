@@ -403,26 +403,80 @@ TEST(Lote, CualquierTextoTermina) {
     }
 }
 
-// Series with nothing beyond row 0 leave the end of the sample at 100,000.
-TEST(Lote, MuestraFueraDeLasTablas) {
-    const char *const textos[] = {"SER Z = X",       "ESC A = X",         "CAL X",
-                                  "OBS X[1995] = X", "SER X = X(-1) * 2", "SER FICTIC X",
-                                  "SER Z = TEND",    "ESC A = SUMSER(X)", "SER Z = {M}",
-                                  "MUEST 1995 1999", "ESC A = X[1995]"};
-    for (const char *texto : textos) {
-        SCOPED_TRACE(texto);
-        EmpezarConDatos(TipoAnual, "1990#1999");
-        PonerSerie("X", {5});
-        PonerMatriz("M", {1, 2}, 2, 1);
-        ActualizarMuestra();
-        Muestra.FinRegresion = 100000;
-        ProcesarLote(nullptr, nullptr, 246, texto, Muestra.InicioMuestra, Muestra.FinMuestra);
-        ProcesarLote(nullptr, nullptr, 246, texto, 100000, 100000);
-        ProcesarLote(nullptr, nullptr, 246, texto, -1, -1);
+// Series with nothing beyond row 0 leave the end of the sample at 100,000, which counts as the last row: a series that holds
+// no values yet doesn't stop everything else. Bounds that begin outside the tables change nothing.
+struct CasoSinFin {
+    const char *texto;
+    const char *caja;                      // text of the one box, null for none
+    std::vector<std::pair<int, double>> x; // rows of X that hold a value besides row 0
+    std::vector<std::pair<const char *, double>> escalares;
+    int filasZ; // rows of the series Z that are present, -1 without it
+};
+
+const std::vector<CasoSinFin> SinFin = {
+    {"CAL 2 + 3", "   5.0000 ", {}, {}, -1},
+    {"SER Z = X", nullptr, {}, {}, 1},
+    {"SER Z = 3", nullptr, {}, {}, 10},
+    {"SER Z = TEND", nullptr, {}, {}, 10},
+    {"SER Z = {M}", nullptr, {}, {}, 2},
+    {"ESC A = X", nullptr, {}, {{"A", 5}}, -1},
+    {"ESC A = SUMSER(X)", nullptr, {}, {{"A", 5}}, -1},
+    {"ESC A = NOBS", nullptr, {}, {{"A", 10}}, -1},
+    {"ESC A = X[1990]", nullptr, {}, {{"A", 5}}, -1},
+    {"OBS X[1995] = X", nullptr, {{5, 5}}, {}, -1},
+    {"SER X = X(-1) * 2",
+     nullptr,
+     {{1, 10}, {2, 20}, {3, 40}, {4, 80}, {5, 160}, {6, 320}, {7, 640}, {8, 1280}, {9, 2560}},
+     {},
+     -1},
+    {"SER FICTIC X", nullptr, {}, {}, -1},
+    {"MUEST 1995 1999", nullptr, {}, {}, -1},
+};
+
+void EmpezarSinFin() {
+    EmpezarConDatos(TipoAnual, "1990#1999");
+    PonerSerie("X", {5});
+    PonerMatriz("M", {1, 2}, 2, 1);
+    ActualizarMuestra();
+    Muestra.FinRegresion = 100000;
+}
+
+TEST(Lote, UnaMuestraSinFinAcabaConElArchivo) {
+    for (const CasoSinFin &c : SinFin) {
+        SCOPED_TRACE(c.texto);
+        EmpezarSinFin();
+        ASSERT_EQ(Muestra.FinMuestra, 100000);
+        ProcesarLote(nullptr, nullptr, 246, c.texto, Muestra.InicioMuestra, Muestra.FinMuestra);
+        EXPECT_EQ(Lote.detenido, 0);
+        ASSERT_EQ(Prueba.cajas.size(), c.caja != nullptr ? 1u : 0u);
+        if (c.caja != nullptr) {
+            EXPECT_EQ(Prueba.cajas[0].texto, c.caja);
+        }
+        std::vector<double> esperada(MaxObservaciones, std::nan(""));
+        esperada[0] = 5;
+        for (const auto &[fila, valor] : c.x) esperada[static_cast<std::size_t>(fila)] = valor;
         const std::vector<double> x = ValoresDe("X", MaxObservaciones);
-        EXPECT_EQ(x[0], 5.0);
-        EXPECT_TRUE(std::all_of(x.begin() + 1, x.end(), [](double v) { return std::isnan(v); }));
+        for (std::size_t i = 0; i < x.size(); ++i)
+            EXPECT_TRUE(x[i] == esperada[i] || (std::isnan(x[i]) && std::isnan(esperada[i])))
+                << i << ": " << x[i];
+        for (const auto &[codigo, valor] : c.escalares) EXPECT_EQ(EscalarDe(codigo), valor);
+        const std::vector<double> z = ValoresDe("Z", MaxObservaciones);
+        EXPECT_EQ(BuscarSerie("Z") >= 0, c.filasZ >= 0);
+        EXPECT_EQ(std::count_if(z.begin(), z.end(), [](double v) { return !std::isnan(v); }),
+                  std::max(c.filasZ, 0));
     }
+}
+
+TEST(Lote, LimitesFueraDeLasTablas) {
+    for (const CasoSinFin &c : SinFin)
+        for (const int fila : {100000, -1}) {
+            SCOPED_TRACE(c.texto);
+            EmpezarSinFin();
+            ProcesarLote(nullptr, nullptr, 246, c.texto, fila, fila);
+            const std::vector<double> x = ValoresDe("X", MaxObservaciones);
+            EXPECT_EQ(x[0], 5.0);
+            EXPECT_TRUE(std::all_of(x.begin() + 1, x.end(), [](double v) { return std::isnan(v); }));
+        }
 }
 
 } // namespace
