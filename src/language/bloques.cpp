@@ -10,7 +10,9 @@
 #include "store/periodos.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
+#include <iterator>
 
 EstadoDeBloques Bloques;
 
@@ -31,9 +33,14 @@ constexpr const char *Cierres[NumTiposDeBloque] = {"FINREPITE", "FINMIENTRAS", "
 // The next line that isn't empty, as it stands; `inicio` receives its offset and `posicion` moves to its end. False
 // when there is none.
 bool LeerLineaCruda(std::string_view cuerpo, int &posicion, int &inicio, std::string_view &linea) {
-    const std::size_t desde = cuerpo.find_first_not_of(" \t\r\n", static_cast<std::size_t>(posicion));
-    if (desde == std::string_view::npos) return false;
-    const std::size_t hasta = std::min(cuerpo.find_first_of("\r\n", desde), cuerpo.size());
+    const auto finDeLinea = [](char c) { return c == '\r' || c == '\n'; };
+    std::size_t desde = static_cast<std::size_t>(posicion);
+    while (desde < cuerpo.size() &&
+           (cuerpo[desde] == ' ' || cuerpo[desde] == '\t' || finDeLinea(cuerpo[desde])))
+        ++desde;
+    if (desde >= cuerpo.size()) return false;
+    std::size_t hasta = desde;
+    while (hasta < cuerpo.size() && !finDeLinea(cuerpo[hasta])) ++hasta;
     linea = cuerpo.substr(desde, hasta - desde);
     linea = linea.substr(0, linea.find_last_not_of(' ') + 1);
     inicio = static_cast<int>(desde);
@@ -78,6 +85,13 @@ void Sustituir(LlamadaBloque &b) {
 
 void PonerContador(LlamadaBloque &b, double contador) {
     b.contador = contador;
+    // The same as " %f "; a whole number needs no more than its figures.
+    if (std::fabs(contador) < 1e15 && contador == std::trunc(contador) && !std::signbit(contador)) {
+        char cifras[24];
+        const auto fin = std::to_chars(cifras, std::end(cifras), static_cast<long long>(contador)).ptr;
+        b.textoContador.assign(" ").append(cifras, fin).append(".000000 ");
+        return;
+    }
     b.textoContador = Formatear(" %f ", contador);
 }
 

@@ -6,6 +6,9 @@
 #include "platform/texto.h"
 #include "store/archivo.h"
 
+#include <algorithm>
+#include <array>
+
 EstadoEvaluador Evaluador;
 
 void LimpiarEvaluador() {
@@ -24,20 +27,42 @@ void LimpiarEvaluador() {
 // ---------------------------------------------------------------------------------------------------------------
 // Tokens
 
-bool EsCaracterFormula(char c) {
-    if (c == ' ') return true;
-    // Compared as char on purpose: bytes above 127 are no text of a formula, whatever the sign of char.
-    if (c < '(' || c > '|') return false;
-    switch (c) {
-    case ',':
-    case ';':
-    case '[':
-    case '\\':
-    case ']':
-    case '_':
-    case '`': return false;
-    default: return true;
+namespace {
+
+// What each character can be; 1 shifted by the kind.
+enum ClasesDeCaracter : std::uint8_t { DeFormula = 1, DeToken = 2, DeOperador = 4, DeSigno = 8 };
+
+// From "(" to "|" without , ; [ \\ ] _ and the backquote, and the blank: bytes above 127 are no text of a formula. A code can
+// begin with "_", which is no text of a formula otherwise. An operator is a token by itself: "@" isn't among them, so it
+// needs blanks; the byte 191 has no operator behind it and ends as an unknown word.
+consteval std::array<std::uint8_t, 256> ClasificarCaracteres() {
+    constexpr std::string_view FueraDeFormula = ",;[\\]_`", Operadores = "+-/*:=><?|\xBF",
+                               Signos = "()[]'$+*/-";
+    std::array<std::uint8_t, 256> clases{};
+    for (int i = 0; i < 256; ++i) {
+        const char c = static_cast<char>(i);
+        const auto esta = [c](std::string_view conjunto) {
+            return conjunto.find(c) != std::string_view::npos;
+        };
+        std::uint8_t &clase = clases[static_cast<std::size_t>(i)];
+        if (c == ' ' || (i >= '(' && i <= '|' && !esta(FueraDeFormula))) clase |= DeFormula | DeToken;
+        if (c == '_') clase |= DeToken;
+        if (esta(Operadores)) clase |= DeOperador;
+        if (esta(Signos)) clase |= DeSigno;
     }
+    return clases;
+}
+
+constexpr std::array<std::uint8_t, 256> Clases = ClasificarCaracteres();
+
+bool EsDe(char c, ClasesDeCaracter clase) {
+    return (Clases[static_cast<unsigned char>(c)] & clase) != 0;
+}
+
+} // namespace
+
+bool EsCaracterFormula(char c) {
+    return EsDe(c, DeFormula);
 }
 
 int ParentesisCierre(const std::string &texto, int abre) {
@@ -56,47 +81,15 @@ bool EsDelimitador(char c) {
 }
 
 bool EsSigno(char c) {
-    switch (c) {
-    case '(':
-    case ')':
-    case '[':
-    case ']':
-    case '\'':
-    case '$':
-    case '+':
-    case '*':
-    case '/':
-    case '-': return true;
-    default: return false;
-    }
+    return EsDe(c, DeSigno);
 }
 
 namespace {
 
 constexpr int Bien = 1; // result of an element that was dealt with; any other is the number of a failure
 
-// A code can begin with "_", which is no text of a formula otherwise.
 bool EsDeToken(char c) {
-    return EsCaracterFormula(c) || c == '_';
-}
-
-// The characters that are a token by themselves. "@" isn't among them, so it needs blanks; the byte 191 has no
-// operator behind it and ends as an unknown word.
-bool EsCaracterOperador(char c) {
-    switch (c) {
-    case '+':
-    case '-':
-    case '/':
-    case '*':
-    case ':':
-    case '=':
-    case '>':
-    case '<':
-    case '?':
-    case '|':
-    case '\xBF': return true;
-    default: return false;
-    }
+    return EsDe(c, DeToken);
 }
 
 } // namespace
@@ -106,10 +99,10 @@ std::string_view SiguienteToken(const std::string &texto, int &posicion) {
     const int inicio = posicion;
     const char primero = CaracterEn(texto, inicio);
     if (primero == '(') return "(";
-    if (EsCaracterOperador(primero)) {
+    if (EsDe(primero, DeOperador)) {
         ++posicion;
     } else {
-        for (char c = primero; EsDeToken(c) && c != ' ' && c != '(' && c != ')' && !EsCaracterOperador(c);)
+        for (char c = primero; EsDeToken(c) && c != ' ' && c != '(' && c != ')' && !EsDe(c, DeOperador);)
             c = CaracterEn(texto, ++posicion);
     }
     const std::string_view token = std::string_view(texto).substr(

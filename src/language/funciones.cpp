@@ -3,6 +3,7 @@
 
 #include "matrix/probabilidad.h"
 #include "platform/aleatorios.h"
+#include "platform/indice_palabras.h"
 #include "store/archivo.h"
 
 #include <cmath>
@@ -286,9 +287,9 @@ bool BucleDeProbabilidad(const FuncionSerie &f) {
 } // namespace
 
 const FuncionSerie *BuscarFuncionSerie(std::string_view nombre) {
-    for (const FuncionSerie &f : Funciones)
-        if (f.nombre == nombre) return &f;
-    return nullptr;
+    static constexpr auto Indice = IndexarPalabras(Funciones, [](const FuncionSerie &f) { return f.nombre; });
+    const int lugar = BuscarPalabra(Indice, nombre);
+    return lugar >= 0 ? &Funciones[lugar] : nullptr;
 }
 
 bool MezclaFilas(const FuncionSerie &funcion) {

@@ -60,7 +60,7 @@ bool EsSigno(char c) {
 }
 
 bool EsMultiplicativo(char c) {
-    return c != '\0' && std::strchr("*/:'$", c) != nullptr;
+    return c == '*' || c == '/' || c == ':' || c == '\'' || c == '$';
 }
 
 // "(" directly behind the character at `inicio`, ")" directly in front of the one at `fin`.

@@ -36,20 +36,40 @@ void CortarLinea(const std::string &texto, int fin, int &posicion, std::string &
     linea.erase(linea.find_last_not_of(' ') + 1);
 }
 
-// Only the totals count, not the order: ")(" passes.
-bool Equilibrado(const std::string &linea, char abre, char cierra) {
-    return std::count(linea.begin(), linea.end(), abre) == std::count(linea.begin(), linea.end(), cierra);
+// What one look at a line tells. Only the totals count, not the order: ")(" passes.
+struct AspectoDeLinea {
+    int parentesis, corchetes; // opened less closed
+    bool conDobles;            // an operator of two characters may be there
+};
+
+AspectoDeLinea Mirar(std::string_view linea) {
+    AspectoDeLinea a{};
+    char anterior = '\0';
+    for (const char c : linea) {
+        switch (c) {
+        case '(': ++a.parentesis; break;
+        case ')': --a.parentesis; break;
+        case '[': ++a.corchetes; break;
+        case ']': --a.corchetes; break;
+        case '*': a.conDobles |= anterior == '*'; break;
+        case '=':
+        case '>': a.conDobles |= anterior == '<' || anterior == '>'; break;
+        default: break;
+        }
+        anterior = c;
+    }
+    return a;
 }
 
 // Makes each operator of two characters one character and a blank, for both formula evaluators, and capitals of a
 // to z. The order of the passes decides what "<>=" becomes.
-void NormalizarLinea(std::string &linea) {
+void NormalizarLinea(std::string &linea, bool conDobles) {
     struct Reescritura {
         const char *operador;
         char caracter;
     };
     static constexpr Reescritura Reescrituras[] = {{"**", ':'}, {">=", '?'}, {"<=", '@'}, {"<>", '|'}};
-    if (linea.size() > 2) {
+    if (conDobles && linea.size() > 2) {
         for (const Reescritura &r : Reescrituras) {
             for (std::size_t i = linea.find(r.operador); i != std::string::npos;
                  i = linea.find(r.operador, i)) {
@@ -72,15 +92,16 @@ int Desconocida(Ventana *ventana, std::string_view palabra) {
 
 int RevisarYRepartir(int origen, Orden &o) {
     std::string &linea = o.lineas[0];
-    if (!Equilibrado(linea, '(', ')')) {
+    const AspectoDeLinea aspecto = Mirar(linea);
+    if (aspecto.parentesis != 0) {
         MostrarMensaje(o.ventana, "Número inadecuado de paréntesis"_w);
         return 0;
     }
-    if (!Equilibrado(linea, '[', ']')) {
+    if (aspecto.corchetes != 0) {
         MostrarMensaje(o.ventana, "Número inadecuado de corchetes"_w);
         return 0;
     }
-    NormalizarLinea(linea);
+    NormalizarLinea(linea, aspecto.conDobles);
     const std::size_t fin = std::min(linea.find_first_of(" ("), linea.size());
     const std::string_view palabra = std::string_view(linea).substr(0, fin);
     o.detras = static_cast<int>(fin);

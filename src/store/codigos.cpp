@@ -1,5 +1,6 @@
 // The names of series, matrices and scalars: which texts can be one, and the reserved words.
 #include "platform/campos_texto.h"
+#include "platform/indice_palabras.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 
@@ -19,9 +20,9 @@ constexpr std::string_view FuncionesSerie[] = {
     "PROBN", "PROBC",  "SUMSER", "MEDSER", "DESSER", "MAXSER", "MINSER", "RND",  "RNDN",  "NOT",
     "-LOG",  "-RCUAD", "-LN",    "-ABS",   "-EXP",   "-POT",   "-TEND",  "-PROG"};
 
-template <std::size_t N> bool EstaEn(const std::string_view (&tabla)[N], std::string_view palabra) {
-    return std::find(std::begin(tabla), std::end(tabla), palabra) != std::end(tabla);
-}
+constexpr auto LaPalabra = [](std::string_view p) { return p; };
+constexpr auto IndiceMatriz = IndexarPalabras(FuncionesMatriz, LaPalabra);
+constexpr auto IndiceSerie = IndexarPalabras(FuncionesSerie, LaPalabra);
 
 bool EsLetra(char c) {
     return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
@@ -39,11 +40,11 @@ bool CaracterDeCodigo(char c, bool primero) {
 } // namespace
 
 bool EsFuncionSerie(std::string_view palabra) {
-    return EstaEn(FuncionesSerie, palabra);
+    return BuscarPalabra(IndiceSerie, palabra) >= 0;
 }
 
 bool EsFuncionMatriz(std::string_view palabra) {
-    return EstaEn(FuncionesMatriz, palabra);
+    return BuscarPalabra(IndiceMatriz, palabra) >= 0;
 }
 
 int CodigoValido(std::string_view texto, Codigo codigo) {

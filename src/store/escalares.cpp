@@ -1,18 +1,16 @@
 // The table of scalars.
 #include "platform/campos_texto.h"
 #include "store/archivo.h"
-
-#include <cstring>
+#include "store/codigo_buscado.h"
 
 TablaDeEscalares TablaEscalares;
 
 namespace {
 
 int BuscarEntre(std::string_view codigo, int cuantos) {
-    Codigo buscado;
-    PonerCampo(buscado, codigo, AnchoCodigo);
+    const CodigoBuscado buscado = PrepararCodigo(codigo);
     for (int e = 0; e < cuantos; ++e)
-        if (std::memcmp(TablaEscalares.registro[e].Codigo, buscado, AnchoCodigo) == 0) return e;
+        if (EsCodigo(TablaEscalares.registro[e].Codigo, buscado)) return e;
     return -1;
 }
 

@@ -1,6 +1,7 @@
 // The table of matrices and their blocks.
 #include "platform/campos_texto.h"
 #include "store/archivo.h"
+#include "store/codigo_buscado.h"
 
 #include <algorithm>
 #include <cstring>
@@ -74,10 +75,9 @@ int BajarMatriz(Ventana *ventana, int j, bool ultima) {
 } // namespace
 
 int BuscarMatriz(std::string_view codigo) {
-    ::Codigo buscado;
-    PonerCampo(buscado, codigo, AnchoCodigo);
+    const CodigoBuscado buscado = PrepararCodigo(codigo);
     for (int m = 0; m < TablaMatrices.numero; ++m)
-        if (std::memcmp(TablaMatrices.registro[m].Codigo, buscado, AnchoCodigo) == 0) return m;
+        if (EsCodigo(TablaMatrices.registro[m].Codigo, buscado)) return m;
     return -1;
 }
 
@@ -95,7 +95,8 @@ void SoltarMatriz(int matriz) {
 }
 
 void SoltarTodasMatrices() {
-    for (int m = 0; m < MaxMatrices; ++m) SoltarMatriz(m);
+    for (int m = 0; m < MaxMatrices; ++m)
+        if (TablaMatrices.EstadoBloque[m] == BloqueFijado) SoltarMatriz(m);
 }
 
 ResultadoGuardarMatriz GuardarMatriz(std::string_view codigo, const double *datos, int filas, int columnas) {

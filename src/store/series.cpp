@@ -1,6 +1,7 @@
 // The table of series: lookups, slots, deletion and compaction.
 #include "platform/campos_texto.h"
 #include "store/archivo.h"
+#include "store/codigo_buscado.h"
 
 #include <cstring>
 
@@ -12,11 +13,11 @@ bool EnBlanco(const Codigo &codigo) {
 }
 
 int BuscarEntre(std::string_view codigo, int cuantas) {
-    Codigo buscado;
-    PonerCampo(buscado, codigo, AnchoCodigo);
-    if (EnBlanco(buscado)) return -1; // a blank code is an empty slot, never a series
+    static const CodigoBuscado Blanco = PrepararCodigo("");
+    const CodigoBuscado buscado = PrepararCodigo(codigo);
+    if (EsCodigo(Blanco.texto, buscado)) return -1; // a blank code is an empty slot, never a series
     for (int s = 0; s < cuantas; ++s)
-        if (std::memcmp(ArchivoTrabajo.Codigos[s], buscado, AnchoCodigo) == 0) return s;
+        if (EsCodigo(ArchivoTrabajo.Codigos[s], buscado)) return s;
     return -1;
 }
 
