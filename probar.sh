@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds Tabira and passes its tests, plain and under the sanitizers.
 #   ./probar.sh            the tests
-#   ./probar.sh --fuzz     the fuzzers, 30 seconds each
+#   ./probar.sh --fuzz [SECONDS]   the fuzzers, each for so long (30)
 #   ./probar.sh --estilo   clang-format and clang-tidy over the sources
 #   ./probar.sh --bench    the benchmarks
 set -euo pipefail
@@ -39,12 +39,16 @@ fuzz() {
     preparar_compilacion
     instalar clang libclang-rt-dev
     compilar fuzz
-    local objetivo
-    for objetivo in sentencias ascii; do
-        decir "30 segundos de entradas al azar: $objetivo"
+    local objetivo segundos=${1:-30} opciones
+    [[ $segundos =~ ^[1-9][0-9]*$ ]] || rendirse "--fuzz quiere un número de segundos, no '$segundos'"
+    for objetivo in $(sed -nE 's/^foreach\(objetivo (.*)\)$/\1/p' tests/fuzz/CMakeLists.txt); do
+        decir "$segundos segundos de entradas al azar: $objetivo"
         mkdir -p "build/fuzz/corpus_$objetivo"
-        UBSAN_OPTIONS=print_stacktrace=1 "build/fuzz/tests/fuzz/fuzz_$objetivo" -max_total_time=30 -timeout=10 \
-            -rss_limit_mb=2048 -verbosity=0 -print_final_stats=1 -artifact_prefix=build/fuzz/ \
+        # Without -len_control the inputs would stay short for hours.
+        opciones=(-max_total_time="$segundos" -timeout=10 -rss_limit_mb=2048 -verbosity=0 -print_final_stats=1
+            -len_control=0 -max_len=4096 -artifact_prefix=build/fuzz/)
+        [ ! -f "tests/fuzz/diccionario_$objetivo.txt" ] || opciones+=(-dict="tests/fuzz/diccionario_$objetivo.txt")
+        UBSAN_OPTIONS=print_stacktrace=1 "build/fuzz/tests/fuzz/fuzz_$objetivo" "${opciones[@]}" \
             "build/fuzz/corpus_$objetivo" tests/fuzz/semillas_"$objetivo" ||
             rendirse "fuzz_$objetivo encontró un fallo: la entrada está en build/fuzz/"
     done
@@ -73,6 +77,7 @@ bench() {
 
 case "${1:-}" in
 "") pruebas ;;
---fuzz | --estilo | --bench) "${1#--}" ;;
+--fuzz) fuzz "${2:-}" ;;
+--estilo | --bench) "${1#--}" ;;
 *) rendirse "opción desconocida: $1 (--fuzz, --estilo, --bench, o ninguna)" ;;
 esac
