@@ -1,6 +1,7 @@
 // The parser of the equation: dependent series, regressors, generated series, and the range that lags bring.
 #include "estimation/ecuacion.h"
 
+#include "estimation/lector.h"
 #include "estimation/ponderacion.h"
 #include "estimation/white.h"
 #include "language/lote_sentencias.h"
@@ -12,60 +13,12 @@
 #include <algorithm>
 #include <cstdlib>
 
-// ----- Tokens
-
 namespace {
 
-constexpr int AnchoTexto = 25; // characters of a regressor as it is shown
 constexpr int AnchoTextoEcuacion = 100;
 constexpr int MinimoObservaciones = 3;
 
-bool EsCaracterEcuacion(char c) {
-    return EsCaracterFormula(c) || std::string_view("_[]").find(c) != std::string_view::npos;
-}
-
-int Largo(const Lector &lector) {
-    return static_cast<int>(lector.texto->size());
-}
-
-} // namespace
-
-bool AlFinal(Lector &lector) {
-    SaltarBlancos(*lector.texto, lector.posicion);
-    return lector.posicion >= Largo(lector);
-}
-
-bool ExtraerToken(Lector &lector, std::string &token) {
-    token.clear();
-    if (AlFinal(lector)) return true;
-    const auto desde = lector.texto->begin() + lector.posicion;
-    // The rest of a text that was found good is good.
-    if (!lector.comprobado && !std::all_of(desde, lector.texto->end(), EsCaracterEcuacion)) {
-        MensajePunto(lector.ventana, "Caracter no válido"_w, 121);
-        return false;
-    }
-    lector.comprobado = true;
-    auto hasta = std::find_if(desde, lector.texto->end(), EsDelimitador);
-    if (hasta == desde) ++hasta;
-    token.assign(desde, hasta);
-    lector.posicion += static_cast<int>(token.size());
-    if (token.size() < AnchoCodigo) return true;
-    MensajePunto(lector.ventana, "Nombre demasiado largo", 121);
-    return false;
-}
-
 // ----- Columns
-
-void AnadirRegresor(Estimacion &e, std::string_view columna, std::string_view texto) {
-    e.columnas.emplace_back(columna);
-    e.textos.emplace_back(texto.substr(0, AnchoTexto));
-}
-
-int MatrizDelRango(Estimacion &e, std::string_view destino, const std::string &llaves) {
-    return MatrizDeFormula(e, destino, llaves, Muestra.InicioRegresion, Muestra.FinRegresion);
-}
-
-namespace {
 
 int &CuentaSeries(const Estimacion &e) {
     return UltimaRegresion.SeriesRegresion[e.codigo];
@@ -83,7 +36,7 @@ void AnadirSerie(Estimacion &e, const std::string &columna, const std::string &t
 // Evaluates the text over the sample into the next _TMRn, whose name goes to `nombre`.
 int GenerarRegresor(Estimacion &e, const std::string &texto, std::string &nombre) {
     nombre = Formatear("_TMR%d", e.numeroGenerada++);
-    switch (SerieDeFormula(e, nombre, texto)) {
+    switch (SerieDeFormula(CadenaDe(e), nombre, texto)) {
     case FormulaErronea: return MensajePunto(e.ventana, SecuenciaNoValida, 851);
     case FormulaSinGuardar: return MensajePunto(e.ventana, FaltanSeries, 862);
     default: return 1;
@@ -178,8 +131,13 @@ int LeerRegresores(Estimacion &e, Lector &lector) {
 
 // ----- The two matrices
 
+// The matrix from the brace list over the range of the regression. False after the evaluator's message.
+bool MatrizDelRango(const Estimacion &e, std::string_view destino, const std::string &llaves) {
+    return MatrizDeFormula(CadenaDe(e), destino, llaves) == FormulaGuardada;
+}
+
 int ConstruirDependiente(Estimacion &e) {
-    if (MatrizDelRango(e, "_YDEP", "{" + e.dependiente + "} ") == 1) return 1;
+    if (MatrizDelRango(e, "_YDEP", "{" + e.dependiente + "} ")) return 1;
     return MensajePunto(e.ventana, Formatear("%s: [%s]", SecuenciaNoValida, e.dependiente.c_str()), 363);
 }
 
@@ -199,7 +157,7 @@ int ConstruirRegresores(Estimacion &e) {
     std::string llaves = "{ ";
     for (const std::string &columna : e.columnas) llaves += columna + " ";
     llaves += "} ";
-    if (MatrizDelRango(e, "_XIND", llaves) == 1) return 1;
+    if (MatrizDelRango(e, "_XIND", llaves)) return 1;
     return MensajePunto(e.ventana, Formatear("%s: [%s]", SecuenciaNoValida, llaves.c_str()), 651);
 }
 

@@ -1,9 +1,8 @@
-// What the files of this folder share while one regression runs: its working set, and the one protocol by which a
-// formula text becomes a matrix, a scalar or a series.
+// What the files of this folder share while one regression runs: its working set, and how it runs its formulas.
 #pragma once
 
 #include "estimation/regresion.h"
-#include "language/evaluador.h"
+#include "language/cadena.h"
 
 #include <string>
 #include <string_view>
@@ -21,8 +20,6 @@ struct Estimacion {
     int numeroGenerada = 1;            // of the next _TMRn
     int retardoMayor = 0;              // the most negative lag
     int adelantoMayor = 0;             // the largest lead
-    bool productosCruzados = false;    // PC of White's test
-    bool verAuxiliar = false;          // RA of White's test
 
     // The estimation.
     int observaciones = 0; // N, rows of _YDEP
@@ -33,25 +30,11 @@ struct Estimacion {
     double saltos = 0.0;    // sum of squares of the differences of successive residuals
 };
 
-inline constexpr const char *SecuenciaNoValida = "Secuencia no válida"_w;
-inline constexpr const char *FaltanSeries = "Borre algunas series";
+// Adds a column under the name of the brace list and the text to show.
+void AnadirRegresor(Estimacion &e, std::string_view columna, std::string_view texto);
 
-// How a formula that is to be stored ended. The evaluator has shown its message for FormulaErronea; for
-// FormulaSinGuardar only a full table of scalars has shown one.
-enum FinesDeFormula { FormulaErronea, FormulaSinGuardar, FormulaGuardada };
-
-// Each runs `texto` one level above the present one with a clear evaluator, and puts the level back. At the last
-// level, or when the formula fails: FormulaErronea, 0 for the matrix.
-//
-// A matrix; the rows matter to a text in braces only. 1 or 0.
-int MatrizDeFormula(Estimacion &e, std::string_view destino, const std::string &texto, int primera,
-                    int ultima);
-// A scalar. It takes the first row of the range and nothing else, so only that row is evaluated. `causa` receives what
-// GuardarEscalar answered.
-FinesDeFormula EscalarDeFormula(Estimacion &e, std::string_view destino, const std::string &texto,
-                                int &causa);
-// A series over the range of the regression.
-FinesDeFormula SerieDeFormula(Estimacion &e, std::string_view destino, const std::string &texto);
+// The chain over the range of the regression at this moment, with the names of its code.
+Cadena CadenaDe(const Estimacion &e, std::span<const DatoCadena> datos = {});
 
 // Elements of a matrix, by rows, with its block locked; null when there is no such matrix. The place is valid until the
 // matrix is stored anew or deleted, locked or not.

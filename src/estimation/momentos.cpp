@@ -20,7 +20,7 @@ bool Guardar(std::string_view matriz, const double *datos, int filas, int column
 
 // Runs the formula "_TMF4" into the matrix where a sum begins.
 int EmpezarSuma(Estimacion &e, std::string_view destino, int punto) {
-    if (MatrizDeFormula(e, destino, "_TMF4", Muestra.InicioRegresion, Muestra.InicioRegresion) == 1) return 1;
+    if (MatrizDeFormula(CadenaDe(e), destino, "_TMF4") == FormulaGuardada) return 1;
     return MensajePunto(e.ventana, SecuenciaNoValida, punto);
 }
 

@@ -12,7 +12,7 @@ int LeerPonderacion(Estimacion &e, const std::string &texto, int &posicion) {
     posicion = std::min(cierre + 1, static_cast<int>(texto.size()));
     if (UltimoNivel()) return MensajePunto(e.ventana, FaltanSeries, 8621);
     UltimaRegresion.TextoPonderacion = formula;
-    switch (SerieDeFormula(e, "_VORD", formula)) {
+    switch (SerieDeFormula(CadenaDe(e), "_VORD", formula)) {
     case FormulaErronea: return MensajePunto(e.ventana, formula, 8511);
     case FormulaSinGuardar: return MensajePunto(e.ventana, FaltanSeries, 8628);
     default: UltimaRegresion.Ponderada = 1; return 1;

@@ -11,8 +11,10 @@
 #include "store/temporales.h"
 
 RegistroRegresion UltimaRegresion;
+RegistroContraste UltimoContraste;
 
 void IniciarRegresion() {
+    UltimoContraste = {};
     UltimaRegresion = {};
     UltimaRegresion.MetodoRegresion = OrdenMC;
     UltimaRegresion.TipoCovarianza = CovarianzaNormal;
@@ -34,6 +36,7 @@ void Informar(Estimacion &e) {
 int Estimar(Estimacion &e, int posicion) {
     if (LeerEcuacion(e, posicion) == 0 || EjecutarPasos(e) == 0 || CompletarRegresion(e) == 0) return 0;
     SoltarTodasMatrices();
+    if (e.codigo == OrdenMGN) return 1; // MGD reports both
     if (e.codigo != OrdenMC && e.codigo != OrdenMCP) return ParteSinEnsamblar(e);
     Informar(e);
     return 1;
@@ -50,11 +53,16 @@ int EstimarRegresion(LineasSentencia &lineas, int &posicion, Ventana *ventana, i
     e.codigo = codigo;
     const int bien = Estimar(e, posicion);
     SoltarTodasMatrices();
-    BorrarTemporales(ventana, codigo);
+    if (bien == 0 || codigo != OrdenMGN) BorrarTemporales(ventana, codigo);
     if (codigo == OrdenCR) {
         // Its own lags may have moved the range, which the next test needs as MC left it.
         Muestra.InicioRegresion = primera;
         Muestra.FinRegresion = ultima;
     }
     return bien;
+}
+
+int BorrarTemporales(Ventana *ventana, int codigo) {
+    return BorrarTemporales(ventana, codigo,
+                            {UltimaRegresion.NumRegresores, UltimaRegresion.SeriesRegresion});
 }

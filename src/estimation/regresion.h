@@ -2,6 +2,7 @@
 #pragma once
 
 #include "language/evaluador.h"
+#include "store/ordenes.h"
 
 #include <string>
 #include <vector>
@@ -24,10 +25,10 @@ struct RegistroRegresion {
     int RetardosCovarianza;
     int Ponderada;
     std::string TextoPonderacion;
-    std::string TextoEcuacion;      // at most 100 characters
-    std::string SentenciaRegresion; // the whole line
-    int RegresorRetardado;          // place of the regressor with the shortest lag, or -1
-    int SeriesRegresion[14];        // series regressors by CodigoOrden
+    std::string TextoEcuacion;       // at most 100 characters
+    std::string SentenciaRegresion;  // the whole line
+    int RegresorRetardado;           // place of the regressor with the shortest lag, or -1
+    int SeriesRegresion[NumOrdenes]; // series regressors by CodigoOrden
     // The list of the run being shown, for the report.
     std::vector<std::string> TextosRegresores;
     int NumTextos;
@@ -36,9 +37,25 @@ struct RegistroRegresion {
 
 extern RegistroRegresion UltimaRegresion;
 
-// No last regression, default kind 8, no regressors.
+// What a test notes for its report, beside what it leaves in the store.
+struct RegistroContraste {
+    int primeraDenominador,
+        ultimaDenominador; // rows of the two parts of Goldfeld and Quandt's ordered sample
+    int primeraNumerador, ultimaNumerador;
+    std::string ordenacion; // the ordering variable as entered
+    int verRegresion;       // RA was given
+    int productosCruzados;  // PC was given
+};
+
+extern RegistroContraste UltimoContraste;
+
+// No last regression, default kind 8, no regressors; no last test.
 void IniciarRegresion();
 
 // Runs the statement of code 8 to 13 from `posicion` of lineas[NivelLinea], behind the first word and its blanks. The
-// range is Muestra.InicioRegresion to FinRegresion. 1, or 0 after a message.
+// range is Muestra.InicioRegresion to FinRegresion. 1, or 0 after a message. The temporaries of the code are deleted,
+// but for those of an MGN that ended well: the MGD of the same test reads them, and deletes both.
 int EstimarRegresion(LineasSentencia &lineas, int &posicion, Ventana *ventana, int &codigo);
+
+// Deletes the temporaries of a command, with the counts of the last regression. Result 0.
+int BorrarTemporales(Ventana *ventana, int codigo);

@@ -1,7 +1,7 @@
 // The equation of White's test: squared residuals on regressors, their squares and products.
 #include "estimation/white.h"
 
-#include "estimation/ecuacion.h"
+#include "estimation/lector.h"
 #include "language/lote_sentencias.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
@@ -16,19 +16,20 @@ constexpr double ToleranciaIguales = 5e-05; // columns that differ by no more ar
 
 // PC or RA first; behind PC only RA.
 int LeerOpciones(Estimacion &e, const std::string &linea, int posicion) {
+    UltimoContraste.productosCruzados = UltimoContraste.verRegresion = 0;
     Lector lector{&linea, posicion, e.ventana};
     std::string token;
     if (!ExtraerToken(lector, token)) return 0;
     if (token.empty()) return 1;
     if (token != "PC" && token != "RA")
         return MensajePunto(e.ventana, Formatear("%s: [%s]", SecuenciaNoValida, token.c_str()), 1635);
-    e.productosCruzados = token == "PC";
-    e.verAuxiliar = token == "RA";
+    UltimoContraste.productosCruzados = token == "PC" ? 1 : 0;
+    UltimoContraste.verRegresion = token == "RA" ? 1 : 0;
     if (!ExtraerToken(lector, token)) return 0;
     if (token.empty()) return 1;
-    if (token != "RA" || e.verAuxiliar)
+    if (token != "RA" || UltimoContraste.verRegresion != 0)
         return MensajePunto(e.ventana, Formatear("%s: [%s]", SecuenciaNoValida, token.c_str()), 1634);
-    e.verAuxiliar = true;
+    UltimoContraste.verRegresion = 1;
     return 1;
 }
 
@@ -52,7 +53,7 @@ int GenerarCuadrados(Estimacion &e) {
 // A product of two columns of the list as the next series _TMPn, added to the list.
 int AnadirProducto(Estimacion &e, std::size_t i, std::size_t j, int &numero) {
     const std::string nombre = Formatear("_TMP%d", numero++);
-    switch (SerieDeFormula(e, nombre, e.columnas[i] + "*" + e.columnas[j])) {
+    switch (SerieDeFormula(CadenaDe(e), nombre, e.columnas[i] + "*" + e.columnas[j])) {
     case FormulaErronea: return MensajePunto(e.ventana, SecuenciaNoValida, 851);
     case FormulaSinGuardar: return MensajePunto(e.ventana, FaltanSeries, 862);
     default: break;
@@ -113,7 +114,7 @@ int AmpliarRegresores(Estimacion &e) {
     int numero = 1;
     for (std::size_t i = 0; i < originales; ++i)
         if (!esNumero(i) && AnadirProducto(e, i, i, numero) == 0) return 0;
-    for (std::size_t i = 0; e.productosCruzados && i < originales; ++i)
+    for (std::size_t i = 0; UltimoContraste.productosCruzados != 0 && i < originales; ++i)
         for (std::size_t j = i + 1; !esNumero(i) && j < originales; ++j)
             if (!esNumero(j) && AnadirProducto(e, i, j, numero) == 0) return 0;
     QuitarRepetidas(e);

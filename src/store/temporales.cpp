@@ -1,12 +1,11 @@
 // The names of a regression's results, and the deletion of what a command computed with.
 #include "store/temporales.h"
 
-#include "estimation/regresion.h"
-#include "language/lote_sentencias.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
+#include "store/ordenes.h"
 
-#include <span>
+#include <string>
 
 namespace {
 
@@ -45,65 +44,46 @@ constexpr const char *NombresFamilia[NumFamilias][NumSufijos] = {
 
 enum ClasesTemporal { TemporalMatriz, TemporalEscalar, TemporalSerie };
 
-// Codes that a row of the table applies to, as bits.
-constexpr unsigned Bit(int codigo) {
-    return 1u << codigo;
+// Codes that a row of the table applies to: one CodigoOrden, or a group of the regressions.
+constexpr int Todos = -1;
+constexpr int Auxiliares = -2; // those of a test, of which nothing stays
+
+bool Corresponde(int codigos, int codigo) {
+    if (codigos == Auxiliares) return codigo != OrdenMC && codigo != OrdenMCP;
+    return codigos == Todos || codigos == codigo;
 }
-constexpr unsigned Auxiliares = Bit(OrdenCR) | Bit(OrdenMGN) | Bit(OrdenMGD) | Bit(OrdenCWH);
-constexpr unsigned Todos = Auxiliares | Bit(OrdenMC) | Bit(OrdenMCP);
 
 // base + (suffix of the code) + cola
 struct Temporal {
     ClasesTemporal clase;
-    unsigned codigos;
+    int codigos;
     const char *base;
     bool conSufijo;
     const char *cola = "";
 };
 
 constexpr Temporal MatricesYEscalares[] = {
-    {TemporalMatriz, Todos, "_YDEP", false},
-    {TemporalMatriz, Todos, "_XIND", false},
-    {TemporalMatriz, Todos, "_YAJU1", false},
-    {TemporalMatriz, Todos, "_DTE", true},
-    {TemporalMatriz, Todos, "_DTE", true, "1"},
-    {TemporalMatriz, Todos, "_RESM", false},
-    {TemporalMatriz, Todos, "_SCR1", false},
-    {TemporalMatriz, Auxiliares, "_BETA", true},
-    {TemporalMatriz, Auxiliares, "_COV", true},
-    {TemporalMatriz, Bit(OrdenMCP), "_TMP2", false},
-    {TemporalMatriz, Bit(OrdenMCP), "_TMP3", false},
-    {TemporalMatriz, Bit(OrdenMCP), "_TMP4", false},
-    {TemporalMatriz, Bit(OrdenMCP), "_TMP5", false},
-    {TemporalMatriz, Bit(OrdenMCP), "_TMP6", false},
-    {TemporalEscalar, Todos, "_MTR", true},
-    {TemporalEscalar, Todos, "_MVD", true},
-    {TemporalEscalar, Todos, "_STVD", true},
-    {TemporalEscalar, Todos, "_LV", true},
-    {TemporalEscalar, Todos, "_AIC", true},
-    {TemporalEscalar, Todos, "_SCVD", true},
-    {TemporalEscalar, Todos, "_DTVD", true},
-    {TemporalEscalar, Todos, "_DCR", true},
-    {TemporalEscalar, Todos, "_RC", true},
-    {TemporalEscalar, Todos, "_RCC", true},
-    {TemporalEscalar, Todos, "_EA1", true},
-    {TemporalEscalar, Todos, "_ANREG", true},
-    {TemporalEscalar, Todos, "_TMF7", false},
-    {TemporalEscalar, Auxiliares, "_NREG", true},
-    {TemporalEscalar, Auxiliares, "_SCR", true},
-    {TemporalEscalar, Auxiliares, "_NORE", true},
-    {TemporalEscalar, Auxiliares, "_FORLA", true},
-    {TemporalEscalar, Auxiliares, "_DTR", true},
-    {TemporalEscalar, Auxiliares, "_ESTF", true},
-    {TemporalEscalar, Auxiliares, "_DW", true},
-    {TemporalEscalar, Bit(OrdenCWH), "_TM11", false},
-    {TemporalEscalar, Bit(OrdenCWH), "_TM12", false},
-    {TemporalEscalar, Bit(OrdenCWH), "_TM13", false},
-    {TemporalEscalar, Bit(OrdenCR), "_EST5", false},
-    {TemporalEscalar, Bit(OrdenMGD), "_ESTFG", false},
-    {TemporalEscalar, Bit(OrdenMGD), "_TMPD", false},
-    {TemporalEscalar, Bit(OrdenMGD), "_TMPN", false},
-    {TemporalEscalar, Bit(OrdenMCP), "_TMP7", false},
+    {TemporalMatriz, Todos, "_YDEP", false},       {TemporalMatriz, Todos, "_XIND", false},
+    {TemporalMatriz, Todos, "_YAJU1", false},      {TemporalMatriz, Todos, "_DTE", true},
+    {TemporalMatriz, Todos, "_DTE", true, "1"},    {TemporalMatriz, Todos, "_RESM", false},
+    {TemporalMatriz, Todos, "_SCR1", false},       {TemporalMatriz, Auxiliares, "_BETA", true},
+    {TemporalMatriz, Auxiliares, "_COV", true},    {TemporalMatriz, OrdenMCP, "_TMP2", false},
+    {TemporalMatriz, OrdenMCP, "_TMP3", false},    {TemporalMatriz, OrdenMCP, "_TMP4", false},
+    {TemporalMatriz, OrdenMCP, "_TMP5", false},    {TemporalMatriz, OrdenMCP, "_TMP6", false},
+    {TemporalEscalar, Todos, "_MTR", true},        {TemporalEscalar, Todos, "_MVD", true},
+    {TemporalEscalar, Todos, "_STVD", true},       {TemporalEscalar, Todos, "_LV", true},
+    {TemporalEscalar, Todos, "_AIC", true},        {TemporalEscalar, Todos, "_SCVD", true},
+    {TemporalEscalar, Todos, "_DTVD", true},       {TemporalEscalar, Todos, "_DCR", true},
+    {TemporalEscalar, Todos, "_RC", true},         {TemporalEscalar, Todos, "_RCC", true},
+    {TemporalEscalar, Todos, "_EA1", true},        {TemporalEscalar, Todos, "_ANREG", true},
+    {TemporalEscalar, Todos, "_TMF7", false},      {TemporalEscalar, Auxiliares, "_NREG", true},
+    {TemporalEscalar, Auxiliares, "_SCR", true},   {TemporalEscalar, Auxiliares, "_NORE", true},
+    {TemporalEscalar, Auxiliares, "_FORLA", true}, {TemporalEscalar, Auxiliares, "_DTR", true},
+    {TemporalEscalar, Auxiliares, "_ESTF", true},  {TemporalEscalar, Auxiliares, "_DW", true},
+    {TemporalEscalar, OrdenCWH, "_TM11", false},   {TemporalEscalar, OrdenCWH, "_TM12", false},
+    {TemporalEscalar, OrdenCWH, "_TM13", false},   {TemporalEscalar, OrdenCR, "_EST5", false},
+    {TemporalEscalar, OrdenMGD, "_ESTFG", false},  {TemporalEscalar, OrdenMGD, "_TMPD", false},
+    {TemporalEscalar, OrdenMGD, "_TMPN", false},   {TemporalEscalar, OrdenMCP, "_TMP7", false},
 };
 
 // Of an auxiliary regression nothing stays, the standard errors as a series (_DTER2) included.
@@ -151,7 +131,7 @@ void BorrarNumeradas(const char *base, int hasta, bool &borradas) {
 // False when a matrix couldn't be deleted; its message was shown.
 bool BorrarLista(std::span<const Temporal> lista, Ventana *ventana, int codigo, bool &borradas) {
     for (const Temporal &t : lista) {
-        if ((t.codigos & Bit(codigo)) == 0) continue;
+        if (!Corresponde(t.codigos, codigo)) continue;
         const std::string nombre =
             std::string(t.base) + (t.conSufijo ? TextosSufijo[SufijoDe(codigo)] : "") + t.cola;
         if (t.clase == TemporalMatriz && !BorrarSiExisteMatriz(ventana, nombre)) return false;
@@ -161,13 +141,18 @@ bool BorrarLista(std::span<const Temporal> lista, Ventana *ventana, int codigo, 
     return true;
 }
 
-bool BorrarPasada(Ventana *ventana, int codigo) {
+int SeriesDe(const CuentasTemporales &cuentas, int codigo) {
+    const std::size_t i = static_cast<std::size_t>(codigo);
+    return i < cuentas.series.size() ? cuentas.series[i] : 0;
+}
+
+bool BorrarPasada(Ventana *ventana, int codigo, const CuentasTemporales &cuentas) {
     bool borradas = false;
     if (!BorrarLista(MatricesYEscalares, ventana, codigo, borradas)) return false;
-    if (codigo == OrdenMGN) BorrarNumeradas("_TMP", UltimaRegresion.NumRegresores + 2, borradas);
-    if (codigo == OrdenCWH) BorrarNumeradas("_TMP", 3 * UltimaRegresion.SeriesRegresion[OrdenCWH], borradas);
+    if (codigo == OrdenMGN) BorrarNumeradas("_TMP", cuentas.regresores + 2, borradas);
+    if (codigo == OrdenCWH) BorrarNumeradas("_TMP", 3 * SeriesDe(cuentas, OrdenCWH), borradas);
     BorrarSiExisteSerie("_RESCUAD", borradas);
-    BorrarNumeradas("_TMR", UltimaRegresion.SeriesRegresion[codigo], borradas);
+    BorrarNumeradas("_TMR", SeriesDe(cuentas, codigo), borradas);
     if (!BorrarLista(SeriesDeResultados, ventana, codigo, borradas)) return false;
     if (borradas) {
         CompactarSeries();
@@ -195,15 +180,20 @@ const char *NombreFamilia(Familias familia, int codigo) {
     return NombresFamilia[familia][SufijoDe(codigo)];
 }
 
-int BorrarTemporales(Ventana *ventana, int codigo) {
+Familias FamiliaDeNombre(std::string_view nombre) {
+    int f = 0;
+    while (f < NumFamilias && nombre != NombresFamilia[f][SinSufijo] + 1) ++f;
+    return static_cast<Familias>(f);
+}
+
+int BorrarTemporales(Ventana *ventana, int codigo, const CuentasTemporales &cuentas) {
     if (codigo == OrdenCRA) {
         BorrarContrasteRangos();
         return 0;
     }
     if (codigo < OrdenMC || codigo > OrdenMCP) return 0;
-    // The denominator clears the numerator's names too.
-    if (codigo == OrdenMGD && !BorrarPasada(ventana, OrdenMGN)) return 0;
-    if (!BorrarPasada(ventana, codigo)) return 0;
+    if (codigo == OrdenMGD && !BorrarPasada(ventana, OrdenMGN, cuentas)) return 0;
+    if (!BorrarPasada(ventana, codigo, cuentas)) return 0;
     bool ninguna = false;
     BorrarLista(MatricesDelCalculo, ventana, codigo, ninguna);
     return 0;

@@ -113,6 +113,56 @@ TEST(GoldfeldQuandt, HeredaLaCuentaDelUltimoMC) {
     EXPECT_GE(BuscarSerie("_RESGN"), 0);
 }
 
+// What the test of both will read stays behind the numerator's regression; the denominator's clears both.
+TEST(GoldfeldQuandt, LoDelNumeradorQuedaHastaElDenominador) {
+    EmpezarRegresion();
+    ASSERT_TRUE(Procesar("MC Y 1 X Z"));
+    ASSERT_TRUE(Procesar("MGN Y 1 X"));
+    EXPECT_TRUE(Prueba.resultados.empty());
+    for (const char *e : {"_SCRGN", "_NOREGN", "_MTRGN"}) EXPECT_GE(BuscarEscalar(e), 0) << e;
+    EXPECT_GE(BuscarSerie("_RESGN"), 0);
+    Procesar("MGD Y 1 X");
+    for (const char *e : {"_SCRGN", "_NOREGN", "_SCRGD", "_NOREGD", "_ESTFG"})
+        EXPECT_EQ(BuscarEscalar(e), -1) << e;
+    EXPECT_EQ(BuscarSerie("_RESGN"), -1);
+    EXPECT_GE(BuscarEscalar("_SCR"), 0);
+    // A numerator that fails leaves nothing.
+    EXPECT_FALSE(Procesar("MGN Y X X"));
+    for (const char *m : {"_YDEP", "_XIND", "_TMF5", "_TMF6"}) EXPECT_EQ(BuscarMatriz(m), -1) << m;
+}
+
+TEST(GoldfeldQuandt, ElCocienteDeLasVarianzas) {
+    static const struct {
+        int den[2], num[2]; // rows
+        int n, m;           // sizes; without degrees of freedom the quotient is 0
+    } Casos[] = {{{0, 7}, {10, 19}, 8, 10},
+                 {{12, 19}, {0, 9}, 8, 10},
+                 {{0, 2}, {10, 19}, 0, 0},
+                 {{0, 7}, {17, 19}, 0, 0}};
+    for (const auto &caso : Casos) {
+        EmpezarRegresion();
+        ASSERT_TRUE(Procesar("MC Y 1 X Z"));
+        UltimoContraste.primeraDenominador = caso.den[0];
+        UltimoContraste.ultimaDenominador = caso.den[1];
+        UltimoContraste.primeraNumerador = caso.num[0];
+        UltimoContraste.ultimaNumerador = caso.num[1];
+        Corrida n, d;
+        Muestra.InicioRegresion = caso.num[0];
+        Muestra.FinRegresion = caso.num[1];
+        Correr(n, OrdenMGN, "Y 1 X");
+        Muestra.InicioRegresion = caso.den[0];
+        Muestra.FinRegresion = caso.den[1];
+        Correr(d, OrdenMGD, "Y 1 X");
+        ASSERT_TRUE(n.estimada && d.estimada) << Unir(TextosDeCajas());
+        const double a = EscalarDe("_SCRGD") / (caso.n - 3), b = EscalarDe("_SCRGN") / (caso.m - 3);
+        const double f = caso.n == 0 ? 0.0 : b / a;
+        const int glNumerador = caso.num[1] - caso.num[0] + 1 - 3,
+                  glDenominador = caso.den[1] - caso.den[0] + 1 - 3;
+        EXPECT_EQ(EscalarDe("_ESTFG"),
+                  Prob(Formatear("PROBF(%f,%d,%d)", f, glNumerador, glDenominador).c_str()));
+    }
+}
+
 // ----- White
 
 struct CasoWhite {

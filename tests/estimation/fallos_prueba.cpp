@@ -81,7 +81,6 @@ INSTANTIATE_TEST_SUITE_P(
         Fallo{"", "MC (CH) Y 1 X", {"No ensamblada"}}, Fallo{"", "MC (CA 2) Y 1 X", {"No ensamblada"}},
         Fallo{"MC Y 1 X Z", "CR Y 1 X", {"No ensamblada"}},
         Fallo{"MC Y 1 X Z", "CR Y 1 QQ", {"Serie no válida: [QQ][CR Y 1 QQ]. Pto 664"}},
-        Fallo{"MC Y 1 X Z", "MGN Y 1 X", {"No ensamblada"}},
         Fallo{"MC Y 1 X Z", "MGD Y 1 X", {"No ensamblada"}}, Fallo{"MC Y 1 X Z", "CWH", {"No ensamblada"}},
         Fallo{"MC Y 1 X Z", "CWH PC", {"No ensamblada"}}, Fallo{"MC Y 1 X Z", "CWH RA", {"No ensamblada"}},
         Fallo{"MC Y 1 X Z", "CWH PC RA", {"No ensamblada"}},

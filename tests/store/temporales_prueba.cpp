@@ -63,6 +63,39 @@ TEST(NombreFamilia, BaseYSufijoPorCodigo) {
     for (const auto &c : Casos) EXPECT_STREQ(NombreFamilia(c.familia, c.codigo), c.nombre) << c.codigo;
 }
 
+TEST(FamiliaDeNombre, SinElSubrayado) {
+    EXPECT_EQ(FamiliaDeNombre("BETA"), FamBETA);
+    EXPECT_EQ(FamiliaDeNombre("SCR"), FamSCR);
+    EXPECT_EQ(FamiliaDeNombre("RES"), FamRES);
+    for (const char *ajeno : {"", "_SCR", "SCRR", "SC", "gl"})
+        EXPECT_EQ(FamiliaDeNombre(ajeno), NumFamilias) << ajeno;
+}
+
+// Every code of a statement has a place among the counts, and those that are no regressions have no temporaries.
+TEST(BorrarTemporales, TodosLosCodigos) {
+    for (int codigo = 0; codigo < NumOrdenes; ++codigo) {
+        Empezar();
+        UltimaRegresion.SeriesRegresion[codigo] = 2;
+        PonerSerie("Y", {1, 2, 3});
+        for (const char *serie : {"_TMR1", "_TMR2", "_TMR3"}) PonerSerie(serie, {1});
+        BorrarTemporales(nullptr, codigo);
+        const bool regresion = codigo >= 8 && codigo <= 13;
+        EXPECT_EQ(SeriesQueQuedan(), regresion ? "Y _TMR3 " : "Y _TMR1 _TMR2 _TMR3 ") << codigo;
+        UltimaRegresion.SeriesRegresion[codigo] = 0;
+    }
+}
+
+// A code behind the end of the counts has left no numbered series.
+TEST(BorrarTemporales, CuentasCortas) {
+    Empezar();
+    for (const char *serie : {"_TMR1", "_TMR2", "_RESCUAD"}) PonerSerie(serie, {1});
+    const int cuentas[] = {5, 5, 5, 5, 5, 5, 5, 5, 1};
+    BorrarTemporales(nullptr, OrdenCR, {3, cuentas});
+    EXPECT_EQ(SeriesQueQuedan(), "_TMR1 _TMR2 ");
+    BorrarTemporales(nullptr, OrdenMC, {3, cuentas});
+    EXPECT_EQ(SeriesQueQuedan(), "_TMR2 ");
+}
+
 TEST(BorrarTemporales, NombresPorCodigo) {
     const struct {
         int codigo;
