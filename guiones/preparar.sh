@@ -40,7 +40,7 @@ al_menos() {
 
 # What building takes.
 preparar_compilacion() {
-    instalar g++ cmake ninja-build libeigen3-dev libboost-dev qt6-base-dev qt6-translations-l10n fonts-dejavu-core "$@"
+    instalar g++ cmake ninja-build libeigen3-dev libboost-dev libsqlite3-dev qt6-base-dev qt6-translations-l10n fonts-dejavu-core "$@"
     al_menos CMake "$(cmake --version | sed -n '1s/[^0-9]*//p')" 3.25
     al_menos g++ "$(g++ -dumpfullversion)" 12
 }

@@ -1,10 +1,13 @@
 // Reading and writing whole files.
 #include "platform/archivos.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <fcntl.h>
 #include <filesystem>
 #include <memory>
+#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -15,12 +18,16 @@ struct CerrarAlSalir {
 };
 using Flujo = std::unique_ptr<std::FILE, CerrarAlSalir>;
 
-bool LeerTodo(std::FILE *f, std::string &contenido) {
+bool LeerTodo(std::FILE *f, std::string &contenido, std::size_t maximo) {
     contenido.clear();
+    // A hint only: a pipe has no size, and a file may grow.
+    struct stat estado {};
+    if (fstat(fileno(f), &estado) == 0 && estado.st_size > 0)
+        contenido.reserve(std::min(static_cast<std::size_t>(estado.st_size), maximo));
     char trozo[65536];
     std::size_t n = 0;
     while ((n = std::fread(trozo, 1, sizeof trozo, f)) > 0) {
-        if (contenido.size() + n > MaxBytesArchivo) return false;
+        if (contenido.size() + n > maximo) return false;
         contenido.append(trozo, n);
     }
     return std::ferror(f) == 0;
@@ -28,13 +35,13 @@ bool LeerTodo(std::FILE *f, std::string &contenido) {
 
 } // namespace
 
-bool LeerArchivo(const std::string &ruta, std::string &contenido) {
+bool LeerArchivo(const std::string &ruta, std::string &contenido, std::size_t maximo) {
     const Flujo f(std::fopen(ruta.c_str(), "rb"));
-    return f != nullptr && LeerTodo(f.get(), contenido);
+    return f != nullptr && LeerTodo(f.get(), contenido, maximo);
 }
 
 bool LeerEntradaEstandar(std::string &contenido) {
-    return LeerTodo(stdin, contenido);
+    return LeerTodo(stdin, contenido, MaxBytesArchivo);
 }
 
 namespace {
@@ -51,6 +58,14 @@ std::FILE *AbrirJunto(const std::filesystem::path &destino, std::string &nombre)
         if (f == nullptr && errno != EEXIST) break;
     }
     return f;
+}
+
+// Makes a rename in the folder outlive a loss of power. Where folders can't be synced the file is as safe as it gets.
+void SincronizarCarpeta(const std::filesystem::path &carpeta) {
+    const int f = open(carpeta.empty() ? "." : carpeta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (f < 0) return;
+    fsync(f);
+    close(f);
 }
 
 } // namespace
@@ -77,6 +92,7 @@ bool EscribirArchivo(const std::string &ruta, std::string_view contenido) {
             std::filesystem::permissions(nuevo, permisos, error);
         std::filesystem::rename(nuevo, destino, error);
         bien = !error;
+        if (bien) SincronizarCarpeta(destino.parent_path());
     }
     if (!bien) std::filesystem::remove(nuevo, error);
     return bien;

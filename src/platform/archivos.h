@@ -8,9 +8,9 @@
 // What is longer is not read: ten times what the widest file of data takes, and the end of a device that has none.
 inline constexpr std::size_t MaxBytesArchivo = std::size_t{128} << 20;
 
-// Reads a whole file ("-" is no special name here). False when it can't be opened or read, or is longer than
-// MaxBytesArchivo.
-bool LeerArchivo(const std::string &ruta, std::string &contenido);
+// Reads a whole file ("-" is no special name here). False when it can't be opened or read, or is longer than `maximo`
+// bytes.
+bool LeerArchivo(const std::string &ruta, std::string &contenido, std::size_t maximo = MaxBytesArchivo);
 
 // Reads standard input to its end, in the same way.
 bool LeerEntradaEstandar(std::string &contenido);

@@ -180,8 +180,12 @@ ResultadoGuardarMatriz GuardarMatriz(std::string_view codigo, const double *dato
 // a message of its own ("No hay suficiente Memoria. P21" and the like), the table left as far as it got.
 int BorrarMatriz(Ventana *ventana, int matriz);
 
+// Appends a matrix to a table with fewer than 30, in an unlocked full block, and returns its filas * columnas elements
+// (at most 40,001) to be filled; null without memory.
+double *AnadirMatriz(TablaDeMatrices &tabla, std::string_view codigo, int filas, int columnas);
+
 // Frees every block; at the end of the program.
-void LiberarMatrices();
+void LiberarMatrices(TablaDeMatrices &tabla = TablaMatrices);
 
 // One working matrix outside the tables: editing area of the matrix editor, and the carrier when matrices move.
 struct MatrizDeTrabajo {

@@ -13,21 +13,27 @@ MatrizDeTrabajo BufferMatriz;
 namespace {
 
 // A block for `elementos` doubles. What it holds beyond the elements of its matrix is never read, so it isn't cleared.
-bool ReservarBloque(int matriz, int elementos) {
+bool ReservarBloque(TablaDeMatrices &tabla, int matriz, int elementos) {
     double *bloque = new (std::nothrow) double[static_cast<std::size_t>(std::max(elementos, 1))];
     if (bloque == nullptr) return false;
-    TablaMatrices.bloque[matriz] = bloque;
-    TablaMatrices.capacidad[matriz] = std::max(elementos, 1);
-    TablaMatrices.EstadoBloque[matriz] = BloqueSuelto;
+    tabla.bloque[matriz] = bloque;
+    tabla.capacidad[matriz] = std::max(elementos, 1);
+    tabla.EstadoBloque[matriz] = BloqueSuelto;
     return true;
 }
 
-void LiberarBloque(int matriz) {
-    delete[] TablaMatrices.bloque[matriz];
-    TablaMatrices.bloque[matriz] = nullptr;
-    TablaMatrices.capacidad[matriz] = 0;
-    TablaMatrices.registro[matriz].Datos = nullptr;
-    TablaMatrices.EstadoBloque[matriz] = SinBloque;
+void LiberarBloque(TablaDeMatrices &tabla, int matriz) {
+    delete[] tabla.bloque[matriz];
+    tabla.bloque[matriz] = nullptr;
+    tabla.capacidad[matriz] = 0;
+    tabla.registro[matriz].Datos = nullptr;
+    tabla.EstadoBloque[matriz] = SinBloque;
+}
+
+void PonerRegistro(RegistroMatriz &r, std::string_view codigo, int filas, int columnas) {
+    PonerCampo(r.Codigo, codigo, AnchoCodigo);
+    r.Filas = static_cast<std::int16_t>(filas);
+    r.Columnas = static_cast<std::int16_t>(columnas);
 }
 
 // Elements of the matrix; never more than its block holds, whatever a damaged record says.
@@ -68,7 +74,7 @@ int BajarMatriz(Ventana *ventana, int j, bool ultima) {
     TablaMatrices.capacidad[j - 1] = std::max(Elementos(j), 1);
     TablaMatrices.EstadoBloque[j - 1] = BloqueSuelto;
     TablaMatrices.bloque[j] = nullptr;
-    LiberarBloque(j);
+    LiberarBloque(TablaMatrices, j);
     return 1;
 }
 
@@ -108,31 +114,38 @@ ResultadoGuardarMatriz GuardarMatriz(std::string_view codigo, const double *dato
     // kept its block through a reset goes on with the old block, unless that one was of a smaller matrix.
     const int minimo = nueva ? filas * columnas : ElementosBloque;
     if (TablaMatrices.capacidad[m] < minimo || TablaMatrices.EstadoBloque[m] == SinBloque) {
-        LiberarBloque(m);
-        if (!ReservarBloque(m, ElementosBloque)) return MatrizSinMemoria;
+        LiberarBloque(TablaMatrices, m);
+        if (!ReservarBloque(TablaMatrices, m, ElementosBloque)) return MatrizSinMemoria;
     }
     FijarMatriz(m);
     RegistroMatriz &r = TablaMatrices.registro[m];
     std::copy_n(datos, filas * columnas, r.Datos);
-    PonerCampo(r.Codigo, codigo, AnchoCodigo);
-    r.Filas = static_cast<std::int16_t>(filas);
-    r.Columnas = static_cast<std::int16_t>(columnas);
+    PonerRegistro(r, codigo, filas, columnas);
     if (nueva) ++TablaMatrices.numero;
     SoltarMatriz(m);
     return MatrizGuardada;
 }
 
+double *AnadirMatriz(TablaDeMatrices &tabla, std::string_view codigo, int filas, int columnas) {
+    const int m = tabla.numero;
+    LiberarBloque(tabla, m);
+    if (!ReservarBloque(tabla, m, ElementosBloque)) return nullptr;
+    PonerRegistro(tabla.registro[m], codigo, filas, columnas);
+    ++tabla.numero;
+    return tabla.bloque[m];
+}
+
 int BorrarMatriz(Ventana *ventana, int matriz) {
-    LiberarBloque(matriz);
+    LiberarBloque(TablaMatrices, matriz);
     for (int j = matriz + 1; j < TablaMatrices.numero; ++j)
         if (BajarMatriz(ventana, j, j + 1 == TablaMatrices.numero) == 0) return 0;
     --TablaMatrices.numero;
     return 1;
 }
 
-void LiberarMatrices() {
-    for (int m = 0; m < MaxMatrices; ++m) LiberarBloque(m);
-    TablaMatrices.numero = 0;
+void LiberarMatrices(TablaDeMatrices &tabla) {
+    for (int m = 0; m < MaxMatrices; ++m) LiberarBloque(tabla, m);
+    tabla.numero = 0;
 }
 
 void LimpiarBufferMatriz() {
