@@ -68,7 +68,7 @@ bool HayAlgo(int fila) {
 
 // Rows that are written. Behind the observations of the work file values can stand, too: an import or a deletion of
 // observations leaves them there.
-int FilasEscritas() {
+int FilasDelFichero() {
     int n = MaxObservaciones;
     const int minimo = std::clamp(static_cast<int>(ArchivoTrabajo.NumObs), 0, MaxObservaciones);
     while (n > minimo && !HayAlgo(n - 1)) --n;
@@ -224,7 +224,7 @@ void EscribirVistas(Tablas *t, int lugares) {
 
 bool EscribirFicheroTrabajo(const std::string &ruta) {
     const TablasAbiertas t = CrearTablas(MarcaTrabajo);
-    const int filas = FilasEscritas();
+    const int filas = FilasDelFichero();
     const int lugares = LugaresEscritos();
     if (t == nullptr || !EscribirCabecera(t.get(), filas, lugares) || !EscribirSeries(t.get(), lugares) ||
         !EscribirObservaciones(t.get(), filas, lugares) || !EscribirMatrices(t.get()) ||

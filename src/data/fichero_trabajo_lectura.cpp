@@ -5,6 +5,7 @@
 #include "store/archivo.h"
 #include "store/periodos.h"
 
+#include <bit>
 #include <cstring>
 #include <limits>
 #include <memory>
@@ -127,6 +128,7 @@ bool LeerObservaciones(Tablas *t, CabeceraArchivo &a, MedidasDeFichero medidas) 
             bool presente = false;
             bien = LeerValorDeFila(f, ColumnasAntesDeSeries + s, a.ValoresObs[i][s], presente);
             a.PresenciaObs[i][s] = presente ? 1 : 0;
+            if (presente || std::bit_cast<std::uint64_t>(a.ValoresObs[i][s]) != 0) a.FilasEscritas[s] = i + 1;
         }
         return bien;
     });

@@ -56,7 +56,8 @@ void ReordenarFilas(const std::vector<int> &orden, int inicio) {
         std::copy_n(&valores[i * series], series, a.ValoresObs[fila]);
         if (a.ConEtiquetas != 0)
             std::copy_n(&etiquetas[i * AnchoEtiqueta], AnchoEtiqueta, a.EtiquetasObs[fila]);
-    }
+    } // A value from above can stand in any row of the sample now.
+    for (int s = 0; s < a.NumSeries; ++s) MarcarFilas(s, inicio + static_cast<int>(orden.size()));
 }
 
 void QuitarFila(int observacion) {

@@ -91,13 +91,11 @@ TEST_F(FicheroTrabajo, DescripcionesDelPanel) {
 // tables come back as they were all the same.
 TEST_F(FicheroTrabajo, LoQueQuedaFueraDeLoContado) {
     TrabajoPequeno(1);
-    ArchivoTrabajo.ValoresObs[3][0] = 7.5; // missing
-    ArchivoTrabajo.ValoresObs[20][1] = 3;  // behind the ten observations
-    ArchivoTrabajo.PresenciaObs[20][1] = 1;
+    PonerObservacion(3, 0, 7.5, 0); // missing
+    PonerObservacion(20, 1, 3, 1);  // behind the ten observations
     PonerCodigoSerie(5, "nueva");
-    ArchivoTrabajo.ValoresObs[0][5] = -0.0;
-    ArchivoTrabajo.ValoresObs[1][5] = -0.0;
-    ArchivoTrabajo.PresenciaObs[1][5] = 1;
+    PonerObservacion(0, 5, -0.0, 0);
+    PonerObservacion(1, 5, -0.0, 1);
     IdaYVuelta();
     EXPECT_EQ(Consulta(Ruta("a.TR2"), "SELECT max(fila) FROM observaciones"), "21");
     PonerCampo(ArchivoTrabajo.EtiquetasObs[MaxObservaciones - 1], "x", AnchoEtiqueta);

@@ -110,8 +110,7 @@ TEST(Observaciones, EliminarLlegaAlFinalDeLasTablas) {
         SCOPED_TRACE(observacion);
         EmpezarConDatos(TipoSinPeriodicidad, "");
         for (const int fila : {3997, 3998, 3999}) {
-            ArchivoTrabajo.ValoresObs[fila][99] = fila;
-            ArchivoTrabajo.PresenciaObs[fila][99] = 1;
+            PonerObservacion(fila, 99, fila, 1);
             PonerCampo(ArchivoTrabajo.EtiquetasObs[fila], std::to_string(fila), AnchoEtiqueta);
         }
         ASSERT_TRUE(EliminarObservacion(nullptr, observacion));
@@ -210,7 +209,7 @@ TEST(Observaciones, SinEtiquetasNoSeMuevenYLasBanderasTampoco) {
 TEST(Observaciones, SoloLaMuestraYSoloLasSeriesContadas) {
     EmpezarConDatos(TipoSinPeriodicidad, "");
     PonerSerie("A", {9, 8, 7, 6, 5, 4});
-    ArchivoTrabajo.ValoresObs[2][1] = 77; // a slot that isn't counted
+    PonerObservacion(2, 1, 77, 0); // a slot that isn't counted
     ASSERT_TRUE(Sentencia("MUEST 2 4"));
     ASSERT_EQ(AceptarOrdenacion(nullptr, "A", false), OrdenacionHecha);
     const int primera = Muestra.InicioMuestra, ultima = Muestra.FinMuestra;

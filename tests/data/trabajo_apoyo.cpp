@@ -100,9 +100,8 @@ void LlenarTrabajo(unsigned semilla, bool panel) {
     for (int i = 0; i < MaxObservaciones; ++i) {
         PonerCampo(a.EtiquetasObs[i], Formatear(" \x80%d", i), AnchoEtiqueta);
         for (int s = 0; s < MaxSeries; ++s) {
-            a.ValoresObs[i][s] = Numero(azar);
-            a.PresenciaObs[i][s] = azar() % 8 != 0 ? 1 : 0;
-            if (azar() % 16 == 0) a.ValoresObs[i][s] = 0.0;
+            const double valor = azar() % 16 == 0 ? 0.0 : Numero(azar);
+            PonerObservacion(i, s, valor, azar() % 8 != 0 ? 1 : 0);
         }
     }
     LlenarMatrices(azar);
