@@ -8,6 +8,14 @@ constexpr FilaDeImpresion Filas[] = {
     {ImprimirInforme, ConSusDatos<&ImprimirTextoInforme>},
     {ImprimirMatrices, ConSusDatos<&ListarMatrices>},
     {ImprimirSeries, ConSusDatos<&ListarSeries>},
+    {ImprimirTablaAutocorrelacion, ConSusDatos<&ImprimirTextoInforme>},
+    {ImprimirHipotesis, ConSusDatos<&ImprimirTextoInforme>},
+    {ImprimirCovarianza, ConSusDatos<&ImprimirTextoInforme>},
+    {ImprimirValores, ConSusDatos<&ImprimirTextoInforme>},
+    {ImprimirDescriptivos, ConSusDatos<&ImprimirTextoInforme>},
+    {ImprimirVarianza, ConSusDatos<&ImprimirTextoInforme>},
+    {ImprimirPrediccion, ConSusDatos<&ImprimirTextoInforme>},
+    {ImprimirNormalidad, ConSusDatos<&ImprimirTextoInforme>},
     {ImprimirPantalla, ConSusDatos<&ListarPantalla>},
 };
 

@@ -81,9 +81,9 @@ void PonerClase(SalidaResultado &salida, int codigo) {
     const ClaseDeInforme &clase = ClaseDe(codigo);
     salida.Clase = codigo;
     salida.finalesSinRegla = clase.finalesSinRegla;
-    salida.titulosImpresos.clear();
+    salida.papel.titulos.clear();
     for (const char *titulo : clase.impresos)
-        if (titulo != nullptr) salida.titulosImpresos.emplace_back(titulo);
+        if (titulo != nullptr) salida.papel.titulos.emplace_back(titulo);
 }
 
 void MostrarSalida(Ventana *ventana, int clase, ProductorDeInforme producir) {

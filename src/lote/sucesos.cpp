@@ -48,35 +48,37 @@ void PonerLineasJson(std::string &json, const char *clave, const TextoSalida &li
     json += ']';
 }
 
-bool EsFilaDeCoeficientes(const SalidaResultado &salida, int linea) {
-    return salida.tablas != nullptr &&
-           std::any_of(salida.tablas->begin(), salida.tablas->end(),
-                       [&](const TablaCoeficientes &t) { return linea >= t.primera && linea <= t.ultima; });
+// The table that a line is a row of, null for none.
+const TablaCoeficientes *TablaDeLaLinea(const SalidaResultado &salida, int linea) {
+    if (salida.tablas == nullptr) return nullptr;
+    const auto t =
+        std::find_if(salida.tablas->begin(), salida.tablas->end(),
+                     [&](const TablaCoeficientes &c) { return linea >= c.primera && linea <= c.ultima; });
+    return t != salida.tablas->end() ? &*t : nullptr;
 }
 
-// One line between the side rules of the block, cut as the window cuts it. The rows of the coefficient table get
-// their vertical rules where the fields leave a blank.
-void EscribirEnBloque(std::string_view linea, bool coeficientes) {
-    std::string texto(linea.substr(0, AnchoBloqueSalida));
-    texto.resize(AnchoBloqueSalida, ' ');
-    for (const std::size_t c : BlancosEntreColumnas)
-        if (coeficientes && texto[c] == ' ') texto[c] = '|';
+// One line between the side rules of a block so wide, cut as the window cuts it. The rows of a table get their vertical
+// rules where the fields leave a blank.
+void EscribirEnBloque(std::string_view linea, std::size_t ancho, const TablaCoeficientes *tabla) {
+    std::string texto(linea.substr(0, ancho));
+    texto.resize(ancho, ' ');
+    if (tabla != nullptr)
+        for (const std::size_t c : tabla->reglas->blancos)
+            if (texto[c] == ' ') texto[c] = '|';
     EscribirLinea("| " + Utf8De1252(texto) + " |");
-}
-
-void EscribirRegla() {
-    EscribirLinea("+" + std::string(AnchoBloqueSalida + 2, '-') + "+");
 }
 
 // The block with the rules of the result window.
 void EscribirBloque(const SalidaResultado &salida) {
-    EscribirRegla();
+    const auto ancho = static_cast<std::size_t>(FormaDe(salida).columnas);
+    const std::string regla = "+" + std::string(ancho + 2, '-') + "+";
+    EscribirLinea(regla);
     for (int i = 0; i < static_cast<int>(salida.lineas->size()); ++i) {
-        EscribirEnBloque((*salida.lineas)[static_cast<std::size_t>(i)].texto,
-                         EsFilaDeCoeficientes(salida, i));
-        if (ReglaDetras(salida, i)) EscribirRegla();
+        EscribirEnBloque((*salida.lineas)[static_cast<std::size_t>(i)].texto, ancho,
+                         TablaDeLaLinea(salida, i));
+        if (ReglaDetras(salida, i)) EscribirLinea(regla);
     }
-    EscribirRegla();
+    EscribirLinea(regla);
 }
 
 Respuesta RespuestaPara(Botones botones) {

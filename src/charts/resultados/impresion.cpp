@@ -1,8 +1,9 @@
 // Print jobs.
 #include "charts/resultados/impresion.h"
 
+#include "charts/resultados/forma_ventana.h"
+
 #include <algorithm>
-#include <iterator>
 
 namespace {
 
@@ -17,14 +18,6 @@ struct EstadoImpresion {
 };
 
 EstadoImpresion Impresion;
-
-// What a window of each kind prints, by TiposDeSalida. The result window proper goes by its content.
-constexpr int SinImpresion = -1;
-constexpr int ClaseDeVentana[] = {ImprimirInforme,    ImprimirHipotesis,  ImprimirTablaAutocorrelacion,
-                                  ImprimirNormalidad, ImprimirPrediccion, ImprimirDescriptivos,
-                                  ImprimirHistograma, SinImpresion,       SinImpresion,
-                                  SinImpresion};
-constexpr int ClaseDeContenido[] = {ImprimirInforme, ImprimirCovarianza, ImprimirValores, ImprimirVarianza};
 
 RutinaDeImpresion RutinaDe(int clase) {
     const auto fila = std::find_if(TablaImpresion.begin(), TablaImpresion.end(),
@@ -88,12 +81,7 @@ int ImprimirSalida(Ventana *ventana, std::string_view titulo, int clase, const v
 }
 
 int ImprimirResultado(Ventana *ventana, const SalidaResultado &salida) {
-    int clase = ClaseDeVentana[salida.tipo];
-    if (salida.tipo == SalidaRegresion) {
-        const auto contenido = static_cast<std::size_t>(salida.Contenido);
-        clase = contenido < std::size(ClaseDeContenido) ? ClaseDeContenido[contenido] : SinImpresion;
-    }
-    return ImprimirSalida(ventana, salida.titulo, clase, &salida);
+    return ImprimirSalida(ventana, salida.titulo, FormaDe(salida).claseImpresion, &salida);
 }
 
 DispositivoImpresion *NuevaPaginaImpresion(Ventana *ventana, int primera) {

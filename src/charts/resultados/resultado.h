@@ -4,6 +4,8 @@
 #include "platform/plataforma.h"
 #include "store/limites.h"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 #include <vector>
@@ -33,9 +35,30 @@ enum TiposDeSalida {
     SalidaRelacion
 };
 
-// First and last line, from 0, of the coefficient rows of a regression block, with the title row in front.
+// Where thin vertical rules stand in a table. With the stock font of 8 by 16: units from the left edge of the window as
+// it opens; in a wider window they move with the block. With any other font: the characters of a row, from 0, that
+// its fields leave blank.
+struct ReglasVerticales {
+    std::array<int, 4> conFuenteBase;
+    std::array<std::size_t, 4> blancos;
+};
+inline constexpr ReglasVerticales ReglasDeCoeficientes = {{160, 290, 410, 510}, {15, 30, 45, 54}};
+// The third one runs through the mean squares, as the units are given.
+inline constexpr ReglasVerticales ReglasDeVarianza = {{156, 250, 410, 510}, {14, 25, 35, 49}};
+
+// First and last line, from 0, of the rows of a table, with the title row in front.
 struct TablaCoeficientes {
     int titulo, primera, ultima;
+    const ReglasVerticales *reglas = &ReglasDeCoeficientes;
+};
+
+// What paper shows otherwise than the window. Each kind has its own titles; here stands what a result knows better.
+struct PapelDeSalida {
+    std::vector<std::string_view> titulos = {}; // a row each
+    const char *pagina = nullptr;       // behind the first title, with the number of the page; null for none
+    const TextoSalida *fijas = nullptr; // in the block above the lines of every page, instead of the window's
+    const TextoSalida *alAbrir =
+        nullptr; // as many as the lines: what a line reads when a new page begins with it
 };
 
 // A result window as it is handed to the outside.
@@ -49,5 +72,7 @@ struct SalidaResultado {
     const std::vector<TablaCoeficientes> *tablas; // where thin vertical rules stand, or null
     std::string_view tabla = {}; // the result for a spreadsheet: tabulators, all digits; may be empty
     int finalesSinRegla = 0;     // so many lines at the end have no rule between them, whatever their kinds
-    std::vector<std::string_view> titulosImpresos = {}; // centred on paper, a row each; none: `titulo`
+    PapelDeSalida papel = {};
+    int (*graficos)(Ventana *ventana) =
+        nullptr; // what "&Gráficos" opens; null: nothing. The result is not used
 };

@@ -1,19 +1,9 @@
 // The result window without the window: what stands on its surface, and how it scrolls.
 #pragma once
 
+#include "charts/resultados/forma_ventana.h"
 #include "charts/resultados/resultado.h"
 #include "platform/superficie.h"
-
-#include <array>
-#include <cstddef>
-
-inline constexpr int AnchoBloqueSalida = 70; // characters of a line that are shown
-inline constexpr int ColumnasVentanaResultado =
-    77; // width of the client area when the window opens, in characters
-inline constexpr int TopeBarraResultado = 4000; // the vertical bar runs from 0 to here
-
-// The characters of a row of the coefficient table with which a field begins, and which its numbers leave blank.
-inline constexpr std::array<std::size_t, 4> BlancosEntreColumnas = {15, 30, 45, 54};
 
 // State of an open result window.
 struct EstadoVentanaResultado {
@@ -30,17 +20,20 @@ bool ReglaDetras(const SalidaResultado &salida, int linea);
 
 // Where a block of lines stands on a surface, in device units.
 struct BloqueTexto {
-    int izquierda, derecha; // side rules
-    int superior;           // rule at the top
-    int limite;             // no line begins below this
+    int izquierda, derecha;     // side rules
+    int superior;               // rule at the top
+    int limite;                 // no line begins below this
+    int filasVacias = 0;        // inside, above the first and below the last line
+    int maximo = 0;             // lines, not counting the fixed ones; 0: as many as fit
+    bool titulosDentro = false; // the fixed lines stand centred
 };
 
-// The two side rules of a block of 70 characters on a surface of this width.
-BloqueTexto BloqueCentrado(const Superficie &s, int superior, int limite);
+// The two side rules of the block of a result on a surface of this width.
+BloqueTexto BloqueDe(const FormaVentana &forma, const Superficie &s, int superior, int limite);
 
 // Draws the fixed lines, then the others from `desde` on as far as they fit, with the rules between kinds, those around
-// the block, and the thin vertical rules of the coefficient tables. Lines are cut at 70 characters. `filas` receives
-// the rows used. Returns the number of the line behind the last one drawn.
+// the block, and the thin vertical rules of the tables. Lines are cut at the width of the block. `filas` receives the
+// rows used. Returns the number of the line behind the last one drawn.
 int PintarBloque(Superficie &s, const BloqueTexto &bloque, const SalidaResultado &salida, int desde,
                  int &filas);
 
@@ -51,7 +44,7 @@ void PintarResultado(Superficie &s, EstadoVentanaResultado &estado, const Salida
 enum Desplazamientos { LineaArriba, LineaAbajo, PaginaArriba, PaginaAbajo, DesplazarA };
 
 // Moves the first line, held between 0 and the last line of the text, and takes Fila back to 0. The window is then to
-// be painted anew.
+// be painted anew. A window without a bar stays where it is.
 void DesplazarResultado(EstadoVentanaResultado &estado, const SalidaResultado &salida, Desplazamientos que,
                         int posicion = 0);
 

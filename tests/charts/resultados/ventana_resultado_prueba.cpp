@@ -273,4 +273,99 @@ TEST(VentanaResultado, TeclasYRueda) {
     }
 }
 
+// ----- The other kinds of window
+
+SalidaResultado SalidaDeTipo(TiposDeSalida tipo, const TextoSalida &lineas) {
+    SalidaResultado salida = SalidaDePrueba(0, lineas);
+    salida.tipo = tipo;
+    return salida;
+}
+
+struct CasoForma {
+    TiposDeSalida tipo;
+    int ancho, izquierda, derecha; // of the surface, and the side rules
+    int grosor;
+    bool marco;
+    int vacias; // rows
+    std::size_t caracteres;
+};
+
+TEST(VentanaResultado, CadaClaseTieneSuBloque) {
+    const CasoForma Casos[] = {
+        // 85 characters behind one; held a character inside.
+        {SalidaHipotesis, 736, 8, 688, 3, true, 1, 85},
+        {SalidaHipotesis, 696, 8, 688, 3, true, 1, 85},
+        {SalidaHipotesis, 695, 8, 687, 3, true, 1, 85},
+        {SalidaHipotesis, 400, 8, 392, 3, true, 1, 85},
+        // 70 characters in the middle, held inside.
+        {SalidaAutocorrelacion, 616, 28, 588, 2, false, 0, 70},
+        {SalidaAutocorrelacion, 561, 0, 560, 2, false, 0, 70},
+        {SalidaAutocorrelacion, 400, 0, 400, 2, false, 0, 70},
+        {SalidaNormalidad, 616, 32, 592, 3, true, 0, 70},
+        {SalidaPrediccion, 616, 32, 592, 3, true, 0, 70},
+        {SalidaDescriptivos, 616, 32, 592, 3, true, 0, 70},
+    };
+    TextoSalida lineas = LineasDeGrupos({0, 1});
+    AnadirLinea(lineas, 1, std::string(100, 'x'));
+    for (const CasoForma &caso : Casos) {
+        SCOPED_TRACE(std::to_string(caso.tipo) + " " + std::to_string(caso.ancho));
+        const Ventanita v = Pintar(SalidaDeTipo(caso.tipo, lineas), 0, caso.ancho);
+        const int i = caso.izquierda, d = caso.derecha, n = caso.vacias, g = caso.grosor;
+        EXPECT_EQ(v.ordenes[0].clase == OrdenRectangulo, caso.marco);
+        EXPECT_EQ(Trazos(v.ordenes, true, g),
+                  (std::vector<Trazo>{{i, Regla(-1), d, Regla(-1), g},
+                                      {i, Regla(n + 1), d, Regla(n + 1), g},
+                                      {i, Regla(2 * n + 4), d, Regla(2 * n + 4), g}}));
+        EXPECT_EQ(Trazos(v.ordenes, false, g), (std::vector<Trazo>{{i, Regla(-1), i, Regla(2 * n + 4), g},
+                                                                   {d, Regla(-1), d, Regla(2 * n + 4), g}}));
+        EXPECT_EQ(Letreros(v.ordenes),
+                  (std::vector<Letrero>{{i + C, Renglon(n), "linea 0"},
+                                        {i + C, Renglon(n + 2), "linea 1"},
+                                        {i + C, Renglon(n + 3), std::string(caso.caracteres, 'x')}}));
+    }
+}
+
+TEST(VentanaResultado, CadaClaseTieneSuBarra) {
+    static constexpr struct {
+        TiposDeSalida tipo;
+        int tope;
+        bool conGraficos;
+    } Casos[] = {
+        {SalidaRegresion, 4000, false}, {SalidaHipotesis, 0, false},  {SalidaAutocorrelacion, 250, true},
+        {SalidaNormalidad, 0, false},   {SalidaPrediccion, 20, true}, {SalidaDescriptivos, 100, false},
+    };
+    const TextoSalida lineas = LineasDeGrupos(std::vector<int>(40, 0));
+    for (const auto &caso : Casos) {
+        SCOPED_TRACE(caso.tipo);
+        const SalidaResultado salida = SalidaDeTipo(caso.tipo, lineas);
+        EXPECT_EQ(FormaDe(salida).topeBarra, caso.tope);
+        EXPECT_EQ(FormaDe(salida).conGraficos, caso.conGraficos);
+        EstadoVentanaResultado estado{0, 0, 10, 7, C, H};
+        DesplazarResultado(estado, salida, LineaAbajo);
+        EXPECT_EQ(estado.LineaInicial, caso.tope > 0 ? 11 : 10) << "without a bar nothing moves";
+        EXPECT_EQ(estado.Fila, caso.tope > 0 ? 0 : 7);
+        // What can't be scrolled is drawn to the edge; the others stop above the bottom.
+        const std::size_t caben = Letreros(Pintar(salida, 0, Ancho, 400).ordenes).size();
+        EXPECT_EQ(caben, caso.tope > 0 ? 20u : static_cast<std::size_t>(24 - FormaDe(salida).filasVacias));
+    }
+    EXPECT_EQ(ColumnasAlAbrir(FormaDe(SalidaDeTipo(SalidaHipotesis, lineas))), 92);
+    EXPECT_EQ(ColumnasAlAbrir(FormaDe(SalidaDeTipo(SalidaRegresion, lineas))), 77);
+}
+
+// The analysis of variance has rules of its own over the lines of its sums.
+TEST(VentanaResultado, ReglasVerticalesDeLaVarianza) {
+    const TextoSalida lineas = LineasDeGrupos({0, 0, 1, 1, 1});
+    const std::vector<TablaCoeficientes> tablas = {{1, 2, 4, &ReglasDeVarianza}};
+    const auto x = [&](int c, int h) {
+        std::vector<int> r;
+        for (const Trazo &t :
+             Trazos(Pintar(SalidaDePrueba(8, lineas, &tablas), 0, 77 * c, 800, c, h).ordenes, false, 1))
+            r.push_back(t.x1);
+        return r;
+    };
+    EXPECT_EQ(x(8, 16), (std::vector<int>{156, 250, 410, 510}));
+    // Text begins at 40: in the middle of its characters 14, 25, 35 and 49.
+    EXPECT_EQ(x(8, 18), (std::vector<int>{156, 244, 324, 436}));
+}
+
 } // namespace

@@ -52,7 +52,7 @@ bool GuardarImagen(const SalidaResultado &salida, const QString &ruta) {
     const int alto = QFontMetrics(fuente).lineSpacing();
     const std::size_t fijas = salida.fijas != nullptr ? salida.fijas->size() : 0;
     const auto filas = static_cast<int>(salida.lineas->size() + fijas) * 2 + 8; // every line may bring a rule
-    constexpr int Ancho = AnchoCaracter * ColumnasVentanaResultado;
+    const int ancho = AnchoCaracter * ColumnasAlAbrir(FormaDe(salida));
     EstadoVentanaResultado estado{};
     estado.Clase = salida.Clase;
     estado.Contenido = salida.Contenido;
@@ -61,12 +61,12 @@ bool GuardarImagen(const SalidaResultado &salida, const QString &ruta) {
         QImage minima(1, 1, QImage::Format_RGB32);
         QPainter pintor(&minima);
         PintorSuperficie propio;
-        Superficie s = SuperficieDePintor(propio, pintor, fuente, Ancho, alto * filas);
+        Superficie s = SuperficieDePintor(propio, pintor, fuente, ancho, alto * filas);
         PintarResultado(s, estado, salida);
     }
     const int altura = alto * (estado.Fila + 4) + 50;
     if (altura > AlturaMaxima) return false;
-    QImage imagen(Ancho, altura, QImage::Format_RGB32);
+    QImage imagen(ancho, altura, QImage::Format_RGB32);
     imagen.fill(Qt::white);
     {
         QPainter pintor(&imagen);

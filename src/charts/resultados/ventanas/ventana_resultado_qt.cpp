@@ -38,17 +38,18 @@ public:
         setFocusPolicy(Qt::StrongFocus);
         setAccessibleName(QDe1252(salida.titulo));
         setFrameShape(QFrame::NoFrame);
-        verticalScrollBar()->setRange(0, TopeBarraResultado);
+        const int tope = FormaDe(salida).topeBarra;
+        verticalScrollBar()->setRange(0, tope);
         verticalScrollBar()->setSingleStep(1);
         verticalScrollBar()->setPageStep(5);
-        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+        setVerticalScrollBarPolicy(tope > 0 ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
         connect(verticalScrollBar(), &QScrollBar::valueChanged, this,
                 [this](int valor) { Mover([&] { DesplazarResultado(estado, salida, DesplazarA, valor); }); });
     }
 
     QSize TamanoInicial() const {
         const QFontMetrics m(fuente);
-        return {m.horizontalAdvance(u'0') * ColumnasVentanaResultado +
+        return {m.horizontalAdvance(u'0') * ColumnasAlAbrir(FormaDe(salida)) +
                     verticalScrollBar()->sizeHint().width(),
                 m.lineSpacing() * FilasDeLaVentana};
     }
@@ -138,11 +139,19 @@ void MostrarResultadoQt(Ventana *ventana, const SalidaResultado &salida) {
     barra->setObjectName(QStringLiteral("menuResultado"));
     QAction *imprimir = barra->addAction(QStringLiteral("&Imprimir"));
     imprimir->setObjectName(QStringLiteral("comando2006"));
-    QAction *salir = barra->addAction(QStringLiteral("&Salir"));
-    salir->setObjectName(QStringLiteral("comando2021"));
     QObject::connect(imprimir, &QAction::triggered, &dialogo,
                      [&] { ImprimirResultado(AVentana(&dialogo), salida); });
-    QObject::connect(salir, &QAction::triggered, &dialogo, &QDialog::accept);
+    if (FormaDe(salida).conGraficos) {
+        QAction *graficos = barra->addAction(QStringLiteral("&Gráficos"));
+        graficos->setObjectName(QStringLiteral("comandoGraficos"));
+        QObject::connect(graficos, &QAction::triggered, &dialogo, [&] {
+            if (salida.graficos != nullptr) salida.graficos(AVentana(&dialogo));
+        });
+    } else {
+        QAction *salir = barra->addAction(QStringLiteral("&Salir"));
+        salir->setObjectName(QStringLiteral("comando2021"));
+        QObject::connect(salir, &QAction::triggered, &dialogo, &QDialog::accept);
+    }
     disposicion->setMenuBar(barra);
     disposicion->addWidget(area);
     PonerNotaDeImpresion(dialogo);
