@@ -3,6 +3,10 @@
 #include "language/palabras.h"
 
 #include "estimation/regresion.h"
+#include "hypothesis/durbin_wallis.h"
+#include "hypothesis/goldfeld.h"
+#include "hypothesis/hipotesis_nula.h"
+#include "hypothesis/rangos.h"
 #include "store/periodos.h"
 
 namespace {
@@ -16,6 +20,15 @@ int RegresionPrincipal(Orden &o) {
     Muestra.InicioRegresion = o.primera;
     Muestra.FinRegresion = o.ultima;
     return Regresion(o);
+}
+
+// The tests, from behind their word or without it.
+template <int (*Contraste)(LineasSentencia &, int, Ventana *)> int Contrastar(Orden &o) {
+    return Contraste(o.lineas, o.detras, o.ventana);
+}
+
+template <int (*Contraste)(LineasSentencia &, Ventana *)> int Contrastar(Orden &o) {
+    return Contraste(o.lineas, o.ventana);
 }
 
 int PorEnsamblar(Orden &o) {
@@ -44,11 +57,11 @@ constexpr Palabra Tabla[] = {
     {"CWH", OrdenCWH, Siempre, DentroDeBloques, Regresion},
     {"MCP", OrdenMCP, Siempre, DentroDeBloques, RegresionPrincipal},
     {"OBS", OrdenOBS, Siempre, DentroDeBloques, EjecutarFormula},
-    {"CWA", OrdenCWA, Siempre, DentroDeBloques, PorEnsamblar},
-    {"CHN", OrdenCHN, Siempre, DentroDeBloques, PorEnsamblar},
-    {"CGQ", OrdenCGQ, Siempre, DentroDeBloques, PorEnsamblar},
-    {"CRA", OrdenCRA, Siempre, DentroDeBloques, PorEnsamblar},
-    {"CDU", OrdenCDU, Siempre, DentroDeBloques, PorEnsamblar},
+    {"CWA", OrdenCWA, Siempre, DentroDeBloques, Contrastar<ContrasteWallis>},
+    {"CHN", OrdenCHN, Siempre, DentroDeBloques, Contrastar<ContrasteHipotesisNula>},
+    {"CGQ", OrdenCGQ, Siempre, DentroDeBloques, Contrastar<ContrasteGoldfeldQuandt>},
+    {"CRA", OrdenCRA, Siempre, DentroDeBloques, Contrastar<ContrasteRangos>},
+    {"CDU", OrdenCDU, Siempre, DentroDeBloques, Contrastar<ContrasteDurbin>},
     {"VSR", OrdenVSR, Siempre, FueraDeBloques, EjecutarVSR},
 };
 
@@ -59,4 +72,5 @@ constinit const std::span<const Palabra> Palabras = Tabla;
 void IniciarProcedimientos() {
     IniciarLote();
     IniciarRegresion();
+    IniciarHipotesisNula();
 }

@@ -40,6 +40,9 @@ inline constexpr int MaxFilasTraspuestas = 100;    // rows of a matrix that its 
 inline constexpr int MaxInversa = 300;         // n times n above this can't be inverted: 17 is the largest n
 inline constexpr int MaxValoresFicticios = 99; // distinct values of SER FICTIC
 
+inline constexpr int MaxRestricciones = 11; // of a null hypothesis
+inline constexpr int AnchoRestriccion = 80; // characters of the text of one
+
 inline constexpr int MaxLineasSalida = 4000;    // lines of TextoSalida
 inline constexpr int AnchoLineaSalida = 100;    // characters of a line
 inline constexpr int AnchoRegistroAscii = 3071; // characters of a record of an ASCII file that are handled

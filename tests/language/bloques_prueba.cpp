@@ -331,7 +331,7 @@ const CasoMensaje Mensajes[] = {
      false},
     {"REPITE J DESDE 1 HASTA 2\nSER A = 1\nFINREPITE", {Punto89}, false},
     {"REPITE J DESDE 1 HASTA 2\nSI (J = 2) ENTONCES\nCDU\nFINSI\nFINREPITE",
-     {"No ensamblada", Punto89},
+     {"No se encuentra la matriz de covarianza", Punto89},
      false},
     {"REPITE J DESDE 3 HASTA 3\nESC S = POT(J,2)\nFINREPITE",
      {"Función desconocida [J]", "J. Pto 199", "Error en los calculos", "ESC S = POT(J,2). Pto 34", Punto89},

@@ -169,11 +169,12 @@ const CasoSentencia Sentencias[] = {
     // Not built yet.
     {"GRAF X", {"No ensamblada"}, false},
     {"HIST X", {"No ensamblada"}, false},
-    {"CHN", {"No ensamblada"}, false},
-    {"CGQ X", {"No ensamblada"}, false},
-    {"CRA X", {"No ensamblada"}, false},
-    {"CDU", {"No ensamblada"}, false},
-    {"CWA", {"No ensamblada"}, false},
+    // Tests, without a regression.
+    {"CHN", {"Introduzca factor restricciones: []. Pto 2663"}, false},
+    {"CGQ X", {"Indroduzca ponderación. Pto 1633"}, false},
+    {"CRA X", {"Realize primero una regresión. P11"}, false},
+    {"CDU", {"No se encuentra la matriz de covarianza"}, false},
+    {"CWA", {"Realize previamente una regresión"}, false},
     // Sample and decimals go on whatever they are given.
     {"MUEST", {}, true},
     {"MUEST 3000 4000", {}, true},
