@@ -2,6 +2,7 @@
 // formulas against a loop by hand, statements split into text, columns and store, and the batch runner as a process.
 #include "apoyo/cadena_formulas.h"
 #include "apoyo/plataforma_prueba.h"
+#include "hypothesis/dialogo_goldfeld.h"
 #include "language/asignaciones.h"
 #include "language/lote_sentencias.h"
 #include "store/archivo.h"
@@ -185,6 +186,25 @@ void AlmacenDeVuelta(benchmark::State &estado) {
     CerrarPilaColumnas();
 }
 
+// ----- Tests that sort
+
+void PrepararContraste() {
+    PrepararSeries(MaxObservaciones);
+    Procesar("MUEST 1 4000");
+    Ejecutar("MC Y 1 X1 X2 X3 X4 X5 X6 X7 X8 X9");
+}
+
+void Rangos(benchmark::State &estado) {
+    PrepararContraste();
+    for (auto _ : estado) Ejecutar("CRA X10");
+}
+
+// The dialog's way, which puts the sample back.
+void Goldfeld(benchmark::State &estado) {
+    PrepararContraste();
+    for (auto _ : estado) AceptarGoldfeld(nullptr, {"X10", "1", "1500", "2501", "4000", false});
+}
+
 // ----- The batch runner as a process
 
 long MemoriaDelProceso = 0; // kB, the largest run
@@ -245,6 +265,8 @@ int main(int numArgumentos, char **argumentos) {
     registrar("FormulasEnUnaFila", FormulasEnUnaFila, benchmark::kMicrosecond);
     registrar("FormulasEnLasFilas", FormulasEnLasFilas, benchmark::kMicrosecond);
     registrar("AlmacenDeVuelta", AlmacenDeVuelta, benchmark::kMicrosecond);
+    registrar("Rangos", Rangos, benchmark::kMillisecond);
+    registrar("Goldfeld", Goldfeld, benchmark::kMillisecond);
     registrar("ProcesoKlein", ProcesoKlein, benchmark::kMillisecond);
     benchmark::Initialize(&numArgumentos, argumentos);
     Recogedor recogedor;
@@ -265,6 +287,8 @@ int main(int numArgumentos, char **argumentos) {
     Razon("  its columns", columnas / 1e3, "us", "");
     Razon("  its store", almacen / 1e3, "us", "");
     Razon("  its text", (sentencia - columnas - almacen) / 1e3, "us", "below 5");
+    Razon("CRA, 4,000 observations", t("Rangos") / 1e6, "ms", "below 60");
+    Razon("CGQ, 4,000 observations, 10 regressors", t("Goldfeld") / 1e6, "ms", "below 60");
     Razon("tabira-lote on Klein's example, the whole process", t("ProcesoKlein") / 1e6, "ms", "below 20");
     Razon("  its memory", static_cast<double>(MemoriaDelProceso) / 1024.0, "MB", "below 64");
     return 0;

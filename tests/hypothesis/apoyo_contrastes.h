@@ -75,6 +75,7 @@ inline std::function<void()> AlMostrar;
 inline void MirarAlMostrar(std::function<void()> mirar) {
     static OperacionesPlataforma operaciones;
     static void (*mostrar)(Ventana *, const SalidaResultado &);
+    static Respuesta (*caja)(Ventana *, std::string_view, std::string_view, Icono, Botones);
     AlMostrar = std::move(mirar);
     if (&Plataforma() == &operaciones) return;
     operaciones = Plataforma();
@@ -82,6 +83,11 @@ inline void MirarAlMostrar(std::function<void()> mirar) {
     operaciones.mostrarResultado = [](Ventana *v, const SalidaResultado &s) {
         AlMostrar();
         mostrar(v, s);
+    };
+    caja = operaciones.caja;
+    operaciones.caja = [](Ventana *v, std::string_view texto, std::string_view titulo, Icono i, Botones b) {
+        if (texto == "No ensamblada") AlMostrar();
+        return caja(v, texto, titulo, i, b);
     };
     InstalarPlataforma(operaciones);
 }

@@ -114,3 +114,177 @@ TEST_P(SentenciaCGQ, SeRechaza) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Goldfeld, SentenciaCGQ, testing::ValuesIn(Rechazadas));
+
+// ----- The statistic
+
+namespace {
+
+struct CasoCGQ {
+    const char *regresion;
+    const char *texto;
+    int primeraDenominador, ultimaDenominador, primeraNumerador, ultimaNumerador; // rows
+    int ver;
+};
+
+const CasoCGQ Correctos[] = {
+    {"MC Y 1 X Z", "CGQ (O) 1 10 11 20", 0, 9, 10, 19, 0},
+    {"MC Y 1 X Z", "CGQ (O) RA 1 8 13 20", 0, 7, 12, 19, 1},
+    {"MC Y 1 X Z", "CGQ (O) 1 7 12 15", 0, 6, 11, 19, 0}, // the numerator goes to the end
+    {"MC Y 1 X Z", "cgq ( O ) 11 20 1 10", 10, 19, 0, 9, 0},
+    {"MC Y 1 X Z", "CGQ (O) 13 1 1 8", 12, 19, 0, 7, 0}, // so does the denominator
+    {"MC Y 1 X", "CGQ ((O*2)+1)  RA 1 5 16 20", 0, 4, 15, 19, 1},
+    {"MUEST 3 19\nMC Y 1 X\nMUEST 1 20", "CGQ (O) 1 6 10 17", 2, 7, 11, 18, 0},
+    {"MC Y X", "CGQ (O) 1 10 11 20", 0, 9, 10, 19, 0},
+};
+
+class Goldfeld : public testing::TestWithParam<CasoCGQ> {};
+
+// Rows of the sample as the described sort leaves them.
+std::vector<int> FilasOrdenadas(const std::vector<double> &o, int primera, int ultima) {
+    std::vector<int> filas;
+    for (int i = primera; i <= ultima; ++i) filas.push_back(i);
+    const auto clave = [&](int fila) { return o[static_cast<std::size_t>(fila)]; };
+    for (std::size_t i = 0; i + 1 < filas.size(); ++i)
+        for (std::size_t j = i + 1; j < filas.size(); ++j)
+            if (clave(filas[j]) < clave(filas[i])) std::swap(filas[i], filas[j]);
+    return filas;
+}
+
+long double ScrDeFilas(const std::vector<int> &ordenadas, int primera, int desde, int hasta) {
+    const auto tomar = [&](std::string_view codigo) {
+        const std::vector<double> todas = ValoresDe(codigo, 20);
+        std::vector<double> r;
+        for (int i = desde - primera; i <= hasta - primera; ++i)
+            r.push_back(codigo == "1"
+                            ? 1.0
+                            : todas[static_cast<std::size_t>(ordenadas[static_cast<std::size_t>(i)])]);
+        return r;
+    };
+    std::vector<std::vector<double>> x;
+    for (const std::string &regresor : UltimaRegresion.CodigosRegresores) x.push_back(tomar(regresor));
+    return Minimos(tomar("Y"), x).scr;
+}
+
+} // namespace
+
+TEST_P(Goldfeld, Estadistico) {
+    const CasoCGQ &c = GetParam();
+    EmpezarGoldfeld(c.regresion);
+    const int primera = Muestra.InicioRegresion, ultima = Muestra.FinRegresion;
+    const std::vector<int> filas = FilasOrdenadas(ValoresDe("O", 20), primera, ultima);
+    const long double denominador = ScrDeFilas(filas, primera, c.primeraDenominador, c.ultimaDenominador);
+    const long double numerador = ScrDeFilas(filas, primera, c.primeraNumerador, c.ultimaNumerador);
+    const double scr = EscalarDe("_SCR");
+    double scrDenominador = NAN, scrNumerador = NAN, p = NAN;
+    MirarAlMostrar([&] {
+        scrDenominador = EscalarDe("_SCRGD");
+        scrNumerador = EscalarDe("_SCRGN");
+        p = EscalarDe("_ESTFG");
+    });
+    EXPECT_FALSE(Procesar(c.texto)); // the batch stops behind it
+    EXPECT_EQ(Lote.NingunaSentenciaHecha, 1);
+    EXPECT_NEAR(scrDenominador, static_cast<double>(denominador), 1e-9 * static_cast<double>(denominador));
+    EXPECT_NEAR(scrNumerador, static_cast<double>(numerador), 1e-9 * static_cast<double>(numerador));
+    const int k = UltimaRegresion.NumRegresores;
+    const int glDenominador = c.ultimaDenominador - c.primeraDenominador + 1 - k;
+    const int glNumerador = c.ultimaNumerador - c.primeraNumerador + 1 - k;
+    const double f = static_cast<double>((numerador / glNumerador) / (denominador / glDenominador));
+    EXPECT_EQ(p, Formula(Formatear("PROBF(%f,%d.0,%d.0)", f, glNumerador, glDenominador)));
+    EXPECT_EQ(EscalarDe("_SCR"), scr);
+    EXPECT_EQ(UltimoContraste.verRegresion, c.ver);
+    EXPECT_EQ(UltimoContraste.primeraDenominador, c.primeraDenominador);
+    EXPECT_EQ(UltimoContraste.ultimaDenominador, c.ultimaDenominador);
+    EXPECT_EQ(UltimoContraste.primeraNumerador, c.primeraNumerador);
+    EXPECT_EQ(UltimoContraste.ultimaNumerador, c.ultimaNumerador);
+    EXPECT_EQ(TemporalesQueQuedan(), Textos{});
+    // The sample of the last regression stays at the denominator's.
+    EXPECT_EQ(Muestra.InicioRegresion, c.primeraDenominador);
+    EXPECT_EQ(Muestra.FinRegresion, c.ultimaDenominador);
+}
+
+INSTANTIATE_TEST_SUITE_P(Contraste, Goldfeld, testing::ValuesIn(Correctos));
+
+// Until the next MC.
+TEST(GoldfeldQuandt, DosVecesSeguidas) {
+    EmpezarGoldfeld();
+    Procesar("CGQ (O) 1 10 11 20");
+    Prueba.cajas.clear();
+    EXPECT_FALSE(Procesar("CGQ (O) 1 4 6 10"));
+    EXPECT_EQ(TextosDeCajas(), Textos{"La muestra ha variado: [9][19]. Pto 867"});
+    EmpezarGoldfeld();
+    Procesar("CGQ (O) 11 20 1 10");
+    Prueba.cajas.clear();
+    EXPECT_FALSE(Procesar("CGQ (O) 1 4 6 10"));
+    EXPECT_EQ(TextosDeCajas(), Textos{"La muestra ha variado. Pto 866"});
+}
+
+// ----- The copies
+
+namespace {
+
+Textos CajasTras(const std::function<void()> &preparar, const char *texto = "CGQ (O) 1 10 11 20") {
+    EmpezarGoldfeld();
+    preparar();
+    EXPECT_FALSE(Procesar(texto));
+    for (const CajaVista &caja : Prueba.cajas)
+        if (caja.texto.find("Pto") != std::string::npos) {
+            EXPECT_EQ(caja.titulo, "Proceso cancelado");
+        }
+    return TextosDeCajas();
+}
+
+void LlenarSeries(int hasta) {
+    while (ArchivoTrabajo.NumSeries < hasta) PonerSerie("S" + std::to_string(ArchivoTrabajo.NumSeries), {1});
+}
+
+} // namespace
+
+TEST(GoldfeldQuandt, LasCopiasQueFaltan) {
+    const auto nada = [] {};
+    EXPECT_EQ(CajasTras(nada, "CGQ (NADA+1) 1 10 11 20").back(), "NADA+1. Pto 8511");
+    EXPECT_EQ(CajasTras(nada, "CGQ ( ) 1 10 11 20").back(), " . Pto 8511");
+    EXPECT_EQ(CajasTras([] { LlenarSeries(99); }), Textos{"Borre algunas series. Pto 8629"});
+    EXPECT_EQ(CajasTras([] { LlenarSeries(98); }), Textos{"Borre algunas series. Pto 8679"});
+    EXPECT_EQ(CajasTras([] { LlenarSeries(97); }), Textos{"Borre algunas series. Pto 8625"});
+    EXPECT_EQ(CajasTras([] { LlenarSeries(95); }), Textos{"Borre algunas series. Pto 8625"});
+    EXPECT_EQ(CajasTras([] { PonerMatriz("_TMP2", {1}, 1, 1); }), Textos{"Borre algunas series. Pto 8679"});
+    EXPECT_EQ(CajasTras([] { EliminarSerie(BuscarSerie("Y")); }), Textos{"Realize una regresión. Pto 842"});
+    EXPECT_EQ(CajasTras([] { EliminarSerie(BuscarSerie("X")); }).back(),
+              "No existe la serie: [_TMP4][1]. Pto 865");
+    EXPECT_EQ(CajasTras([] { EliminarSerie(BuscarSerie("Z")); }).back(),
+              "No existe la serie: [_TMP5][2]. Pto 865");
+}
+
+TEST(GoldfeldQuandt, SinRegresion) {
+    EmpezarRegresion();
+    EXPECT_FALSE(Procesar("CGQ (X) 1 10 11 20"));
+    EXPECT_EQ(TextosDeCajas(), Textos{"Realize una regresión. Pto 842"});
+}
+
+// At the last level there is no line for the formula in the parentheses.
+TEST(GoldfeldQuandt, SinNiveles) {
+    EmpezarGoldfeld();
+    LineasSentencia lineas;
+    lineas[MaxNiveles - 1] = "CGQ (O) 1 10 11 20";
+    Evaluador.NivelLinea = MaxNiveles - 1;
+    EXPECT_EQ(ContrasteGoldfeldQuandt(lineas, 4, nullptr), 0);
+    EXPECT_EQ(TextosDeCajas(), Textos{"Borre algunas series. Pto 8622"});
+    LimpiarEvaluador();
+}
+
+// A missing value goes with its observation: here to the middle, which neither part takes.
+TEST(GoldfeldQuandt, UnValorQueFaltaVaConSuObservacion) {
+    EmpezarGoldfeld();
+    const int s = BuscarSerie("Z");
+    PonerObservacion(4, s, 0.0, 0); // O is 5 there: one of the four in the middle
+    Procesar("CGQ (O) 1 7 14 20");
+    for (const std::string &caja : TextosDeCajas())
+        EXPECT_EQ(caja.find("missing"), std::string::npos) << caja;
+    EmpezarGoldfeld();
+    PonerObservacion(13, BuscarSerie("Z"), 0.0, 0); // O is 0 there: the first of all
+    Procesar("CGQ (O) 1 7 14 20");
+    EXPECT_NE(std::find(Prueba.cajas.begin(), Prueba.cajas.end(),
+                        CajaVista{"Proceso cancelado", "Existen valores missing. Pto 62", IconoInformacion,
+                                  BotonesAceptar}),
+              Prueba.cajas.end());
+}

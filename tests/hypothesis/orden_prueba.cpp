@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <random>
 
@@ -43,6 +44,18 @@ TEST(Orden, ComoElDobleBucle) {
         {},           {7},         {1, 2}, {2, 1}, {1, 1}, {3, 3, 1}, {2, 2, 1, 1}, {5, 1, 5, 1, 5, 0},
         {4, 3, 2, 1}, {1, 2, 3, 4}};
     for (const auto &claves : casos) Comparar(claves);
+}
+
+// The rows that several turns share, and those that are left over at the end.
+TEST(Orden, ConCualquierNumero) {
+    std::mt19937 azar(4);
+    for (std::size_t n = 0; n <= 24; ++n) {
+        std::vector<double> claves(n);
+        for (double &c : claves) c = static_cast<double>(azar() % 9u) - 4;
+        Comparar(claves);
+        std::sort(claves.rbegin(), claves.rend());
+        Comparar(claves);
+    }
 }
 
 // Worked out by hand: the first 3 goes to the end of the ties when it changes places with the 1.
