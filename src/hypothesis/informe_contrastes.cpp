@@ -63,6 +63,14 @@ enum GruposHipotesis { GrupoCabecera, GrupoRestriccion, GrupoEstadistico };
 constexpr FormatoCabecera CabeceraDeHipotesis = {
     CabeceraDeContraste.dependiente, CabeceraDeContraste.regresores, CabeceraDeContraste.largoLista, "", 85};
 
+// The line is written with fields of its own rule; this is what the spreadsheet gets.
+constexpr LineaDeInforme LineaHipotesis[] = {
+    {GrupoEstadistico,
+     " Estadístico F(%3s,%3s) :%10s    Prob > F :%10s"_w,
+     {NumeroDado("Grados de libertad 1", 0, 3), DeEscalar("_NORE", "Grados de libertad 2", 0, 3),
+      DeEscalar("_FORLARH", "Estadístico F"_w), DeEscalar("_ESTFH", "Prob > F")}},
+};
+
 double ValorDe(const char *escalar) {
     const int e = BuscarEscalar(escalar);
     return e < 0 ? 0.0 : TablaEscalares.registro[e].Valor;
@@ -81,16 +89,18 @@ void VentanaHipotesisNula(Ventana *ventana) {
         AnadirLinea(lineas, GrupoRestriccion,
                     "  " + HipotesisNula.textosGuardados[static_cast<std::size_t>(i)]);
     AnadirLinea(lineas, GrupoEstadistico,
-                Formatear(" Estadístico F(%3s,%3s) :%10s    Prob > F :%10s"_w,
-                          NumeroFijo(HipotesisNula.q, 0, 3).c_str(),
+                Formatear(LineaHipotesis[0].formato, NumeroFijo(HipotesisNula.q, 0, 3).c_str(),
                           NumeroFijo(ValorDe("_NORE"), 0, 3).c_str(),
                           NumeroFijo(ValorDe("_FORLARH"), 4, 10).c_str(),
                           NumeroFijo(ValorDe("_ESTFH"), 4, 10).c_str()));
+    const double q[] = {static_cast<double>(HipotesisNula.q)};
+    const std::string tabla = TablaDeLineas(LineaHipotesis, OrdenCHN, q);
     const std::string titulo = "Contraste de significatividad: Hipótesis nula"_w;
     SalidaResultado salida = {};
     salida.tipo = SalidaHipotesis;
     salida.titulo = titulo;
     salida.Clase = OrdenCHN;
     salida.lineas = &lineas;
+    salida.tabla = tabla;
     MostrarVentanaResultado(ventana, salida);
 }

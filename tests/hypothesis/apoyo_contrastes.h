@@ -70,6 +70,7 @@ inline std::vector<double> Unos(std::size_t n) {
 // ----- The moment of the report
 
 inline std::function<void()> AlMostrar;
+inline std::string TablaMostrada; // for a spreadsheet, in UTF-8
 
 // From now on `mirar` runs when a result window is shown; the window is recorded as ever.
 inline void MirarAlMostrar(std::function<void()> mirar) {
@@ -82,6 +83,7 @@ inline void MirarAlMostrar(std::function<void()> mirar) {
     mostrar = operaciones.mostrarResultado;
     operaciones.mostrarResultado = [](Ventana *v, const SalidaResultado &s) {
         AlMostrar();
+        TablaMostrada = Utf8De1252(s.tabla);
         mostrar(v, s);
     };
     caja = operaciones.caja;

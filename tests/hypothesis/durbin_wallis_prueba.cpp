@@ -120,6 +120,8 @@ TEST(DurbinWallis, InformeDeDurbin) {
         {2, Formatear("    h de Durbin     0.9686         Prob > |N| :%10.4f", v.p)},
     };
     EXPECT_EQ(r.lineas, lineas);
+    EXPECT_TRUE(TablaMostrada.starts_with("h de Durbin\t0.9686")) << TablaMostrada;
+    EXPECT_NE(TablaMostrada.find("\nProb > |N|\t"), std::string::npos) << TablaMostrada;
 }
 
 TEST(DurbinWallis, RechazosDeDurbin) {
@@ -213,6 +215,7 @@ TEST(DurbinWallis, InformeDeWallis) {
         {2, Formatear("                     Wallis    :    %10.4f", d)},
     };
     EXPECT_EQ(r.lineas, lineas);
+    EXPECT_TRUE(TablaMostrada.starts_with("Wallis\t")) << TablaMostrada;
     EXPECT_EQ(Prueba.titulo, "Tabira");
 }
 

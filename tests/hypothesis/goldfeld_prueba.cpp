@@ -135,6 +135,8 @@ const CasoCGQ Correctos[] = {
     {"MC Y 1 X", "CGQ ((O*2)+1)  RA 1 5 16 20", 0, 4, 15, 19, 1},
     {"MUEST 3 19\nMC Y 1 X\nMUEST 1 20", "CGQ (O) 1 6 10 17", 2, 7, 11, 18, 0},
     {"MC Y X", "CGQ (O) 1 10 11 20", 0, 9, 10, 19, 0},
+    {"MC Y 1 X", "CGQ (O) 1 10 11 20 1234567890123", 0, 9, 10, 19,
+     0}, // what stands behind the four isn't read
 };
 
 class Goldfeld : public testing::TestWithParam<CasoCGQ> {};

@@ -82,6 +82,20 @@ TEST(HipotesisNula, EsLaFDeLaRegresionRestringida) {
     }());
 }
 
+TEST(HipotesisNula, SuTabla) {
+    EmpezarHipotesis();
+    const Vistos v = Contrastar("CHN IR 1\nCHN MR 1 BETA(3) = 0\nCHN FR 1");
+    double f = 0.0, p = 0.0;
+    ASSERT_EQ(
+        std::sscanf(TablaMostrada.c_str(),
+                    "Grados de libertad 1\t1\nGrados de libertad 2\t17\nEstadístico F\t%lf\nProb > F\t%lf\n",
+                    &f, &p),
+        2)
+        << TablaMostrada;
+    EXPECT_EQ(f, v.f);
+    EXPECT_EQ(p, v.p);
+}
+
 TEST(HipotesisNula, NadaQuedaDetras) {
     EmpezarHipotesis();
     const int matrices = TablaMatrices.numero, escalares = TablaEscalares.numero;

@@ -161,6 +161,13 @@ TEST(Rangos, SuInforme) {
         {1, Utf8De1252(Formatear("      Estadístico t( 18) :%10.4f    Prob > |t| :%10.4f"_w, v.t, v.p))},
     };
     EXPECT_EQ(r.lineas, lineas);
+    double t = 0.0, p = 0.0;
+    ASSERT_EQ(std::sscanf(TablaMostrada.c_str(),
+                          "Grados de libertad\t18\nEstadístico t\t%lf\nProb > |t|\t%lf\n", &t, &p),
+              2)
+        << TablaMostrada;
+    EXPECT_EQ(t, v.t);
+    EXPECT_EQ(p, v.p);
 }
 
 TEST(Rangos, TrasMCPNoSeMuestra) {
