@@ -39,12 +39,19 @@ bool LeerMatriz(std::string_view nombre, const double *&datos, int &numero) {
     return true;
 }
 
-int ReunirDatos(DatosBloque &d, Ventana *ventana) {
+// White's list is the widened one; the others are shown with the names of the last regression.
+std::string DependienteDe(int codigo) {
     const RegistroRegresion &u = UltimaRegresion;
-    // White's list is the widened one; the others are shown with the names of the last regression.
-    const bool propia = d.codigo == OrdenCWH;
-    d.dependiente = Recortado(propia ? u.DependienteMostrado : u.CodigoDependiente);
-    d.nombres = propia ? &u.TextosRegresores : &u.CodigosRegresores;
+    return std::string(Recortado(codigo == OrdenCWH ? u.DependienteMostrado : u.CodigoDependiente));
+}
+
+const std::vector<std::string> &NombresDe(int codigo) {
+    return codigo == OrdenCWH ? UltimaRegresion.TextosRegresores : UltimaRegresion.CodigosRegresores;
+}
+
+int ReunirDatos(DatosBloque &d, Ventana *ventana) {
+    d.dependiente = DependienteDe(d.codigo);
+    d.nombres = &NombresDe(d.codigo);
     const int y = BuscarMatriz("_YDEP");
     if (y < 0) return MensajePunto(ventana, "Secuencia no Válida"_w, 86);
     d.observaciones = TablaMatrices.registro[y].Filas;
@@ -59,8 +66,12 @@ int ReunirDatos(DatosBloque &d, Ventana *ventana) {
 }
 
 // The values of a regression stand in their series from the first observation of the range on.
+int FilaDelRango(const ParteMuestra *parte, int i) {
+    return (parte != nullptr ? parte->fila : Muestra.InicioRegresion) + i;
+}
+
 double EnSerie(const DatosBloque &d, int serie, int i) {
-    const int fila = (d.parte != nullptr ? d.parte->fila : Muestra.InicioRegresion) + i;
+    const int fila = FilaDelRango(d.parte, i);
     return fila >= 0 && fila < MaxObservaciones ? ArchivoTrabajo.ValoresObs[fila][serie] : 0.0;
 }
 
@@ -161,10 +172,9 @@ std::string DeMatriz(Familias familia, int codigo, int i) {
     return i < r.Filas * r.Columnas ? NumeroExacto(r.Datos[i]) : std::string();
 }
 
-// Value i of a series of the results, which begins at the first observation of the range.
-std::string DeSerie(Familias familia, int codigo, int i) {
+// Value of a series of the results at a row, empty when there is none.
+std::string DeSerie(Familias familia, int codigo, int fila) {
     const int s = BuscarSerie(NombreFamilia(familia, codigo));
-    const int fila = Muestra.InicioRegresion + i;
     const bool hay =
         s >= 0 && fila >= 0 && fila < MaxObservaciones && ArchivoTrabajo.PresenciaObs[fila][s] == 1;
     return hay ? NumeroExacto(ArchivoTrabajo.ValoresObs[fila][s]) : std::string();
@@ -185,20 +195,24 @@ int BloqueRegresion(TextoSalida &texto, std::vector<TablaCoeficientes> &tablas, 
                                                      : MensajePunto(ventana, "Secuencia no válida"_w, 871);
 }
 
-std::string TablaRegresion(int codigo) {
-    const RegistroRegresion &u = UltimaRegresion;
-    std::string t = "Variable Dep.\t" + std::string(Recortado(u.CodigoDependiente)) + "\n";
-    t += "Muestra\t" + std::string(TextoPeriodo(Muestra.InicioRegresion)) + "\t" +
-         std::string(TextoPeriodo(Muestra.FinRegresion)) + "\n";
-    if (const int y = BuscarMatriz("_YDEP"); y >= 0)
-        t += "Nº Observaciones\t"_w + std::to_string(TablaMatrices.registro[y].Filas) + "\n";
+std::string TablaRegresion(int codigo, const ParteMuestra *parte) {
+    const std::vector<std::string> &nombres = NombresDe(codigo);
+    std::string t = "Variable Dep.\t" + DependienteDe(codigo) + "\n";
+    if (parte != nullptr) {
+        t += Formatear("Muestra Orde.\t%d\t%d\nNº Observaciones\t%d\n"_w, parte->primera, parte->ultima,
+                       parte->ultima - parte->primera + 1);
+    } else {
+        t += "Muestra\t" + std::string(TextoPeriodo(Muestra.InicioRegresion)) + "\t" +
+             std::string(TextoPeriodo(Muestra.FinRegresion)) + "\n";
+        if (const int y = BuscarMatriz("_YDEP"); y >= 0)
+            t += "Nº Observaciones\t"_w + std::to_string(TablaMatrices.registro[y].Filas) + "\n";
+    }
     t += "\n";
     t += "Regresores\tCoeficiente\tDesv. Típica\tEstadís. t\tProb>|t|\n"_w;
-    for (std::size_t n = 0; n < u.CodigosRegresores.size(); ++n) {
-        const int i = static_cast<int>(n);
-        t += u.CodigosRegresores[n] + "\t" + DeMatriz(FamBETA, codigo, i) + "\t" +
-             DeMatriz(FamDTE, codigo, i) + "\t" + DeSerie(FamDIV, codigo, i) + "\t" +
-             DeSerie(FamPROBT, codigo, i) + "\n";
+    for (std::size_t n = 0; n < nombres.size(); ++n) {
+        const int i = static_cast<int>(n), fila = FilaDelRango(parte, i);
+        t += nombres[n] + "\t" + DeMatriz(FamBETA, codigo, i) + "\t" + DeMatriz(FamDTE, codigo, i) + "\t" +
+             DeSerie(FamDIV, codigo, fila) + "\t" + DeSerie(FamPROBT, codigo, fila) + "\n";
     }
     t += "\n";
     return t + TablaDeLineas(Estadisticos, codigo);

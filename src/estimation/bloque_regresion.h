@@ -21,5 +21,5 @@ int BloqueRegresion(TextoSalida &texto, std::vector<TablaCoeficientes> &tablas, 
                     const ParteMuestra *parte);
 
 // The coefficients with their statistics, then the statistics of the whole: fields parted by tabulators, numbers with all
-// their digits. `codigo` selects the results; those that are gone are left out.
-std::string TablaRegresion(int codigo);
+// their digits. Code and part select the results as above; those that are gone are left out.
+std::string TablaRegresion(int codigo, const ParteMuestra *parte = nullptr);

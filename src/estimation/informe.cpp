@@ -1,6 +1,7 @@
 // The kinds of report, and the way of each to its window.
 #include "estimation/informe.h"
 
+#include "estimation/informes_contraste.h"
 #include "estimation/regresion.h"
 #include "language/lote_sentencias.h"
 #include "platform/texto.h"
@@ -106,10 +107,27 @@ void MostrarSalida(Ventana *ventana, int clase, ProductorDeInforme producir) {
     MostrarVentanaResultado(ventana, salida);
 }
 
+namespace {
+
+int InformeDeRegresion(InformeProducido &informe, Ventana *ventana, int codigo) {
+    if (BloqueRegresion(informe.lineas, informe.tablas, ventana, codigo, nullptr) == 0) return 0;
+    informe.tabla = TablaRegresion(codigo);
+    return 1;
+}
+
+constexpr struct {
+    int codigo;
+    ProductorDeInforme producir;
+} InformesDeContraste[] = {
+    {OrdenCR, InformeModeloRestringido},
+    {OrdenMGD, InformeGoldfeldQuandt},
+    {OrdenCWH, InformeWhite},
+};
+
+} // namespace
+
 void MostrarRegresion(Ventana *ventana, int codigo) {
-    MostrarSalida(ventana, codigo, [](InformeProducido &informe, Ventana *v, int c) {
-        if (BloqueRegresion(informe.lineas, informe.tablas, v, c, nullptr) == 0) return 0;
-        informe.tabla = TablaRegresion(c);
-        return 1;
-    });
+    for (const auto &i : InformesDeContraste)
+        if (i.codigo == codigo) return MostrarSalida(ventana, codigo, i.producir);
+    MostrarSalida(ventana, codigo, InformeDeRegresion);
 }

@@ -28,5 +28,6 @@ using ProductorDeInforme = int (*)(InformeProducido &informe, Ventana *ventana, 
 // set and the user answers yes to "¿Desea ver la regresion?". A report that can't be filled opens no window.
 void MostrarSalida(Ventana *ventana, int clase, ProductorDeInforme producir);
 
-// MostrarSalida with the block of the regression that has just run.
+// MostrarSalida of what has just run: the block of a regression, or the report of the test that it belongs to (9 CR, 11
+// CGQ with both regressions, 12 CWH).
 void MostrarRegresion(Ventana *ventana, int codigo);

@@ -2,6 +2,8 @@
 #include "lote/acciones.h"
 
 #include "charts/resultados/seleccion.h"
+#include "estimation/listados_regresion.h"
+#include "estimation/regresion.h"
 #include "language/lote_sentencias.h"
 #include "lote/corrida.h"
 #include "lote/impresora.h"
@@ -39,7 +41,7 @@ struct Accion {
     FormatoAscii formato;
     int numero;           // a choice or a count, by action
     std::string elemento; // behind the first ":" of the value, in the characters of the core
-    bool pendiente;       // announced in this form and not available yet
+    bool deRegresion;     // a listing of the last regression, not of series or matrices
 };
 
 // What a menu command refuses while no data type was chosen; the text is the command's.
@@ -59,7 +61,8 @@ bool HayTipoDeDatos() {
 constexpr std::string_view NombresLista[] = {"series", "matrices", "escalares"};
 constexpr std::string_view NombresElemento[] = {"serie", "matriz", "escalar"};
 constexpr std::string_view NombresListado[] = {"series", "matrices"}; // in the order of ModosSeleccion
-constexpr std::string_view ListadosPendientes[] = {"covarianza", "valores", "varianza"};
+constexpr std::string_view ListadosDeRegresion[] = {"covarianza", "valores",
+                                                    "varianza"}; // by ListadosRegresion
 constexpr std::string_view NombresRespuesta[] = {"si", "no", "cancelar"};
 
 template <std::size_t N>
@@ -102,8 +105,8 @@ bool LeerElemento(const std::string &valor, Accion &accion) {
 }
 
 bool LeerListado(const std::string &valor, Accion &accion) {
-    accion.pendiente = Elegir(ListadosPendientes, valor, accion.numero);
-    if (accion.pendiente) return true;
+    accion.deRegresion = Elegir(ListadosDeRegresion, valor, accion.numero);
+    if (accion.deRegresion) return true;
     const std::size_t dosPuntos = valor.find(':');
     if (dosPuntos == std::string::npos) return false;
     accion.elemento = Texto1252DeUtf8(std::string_view(valor).substr(dosPuntos + 1));
@@ -211,10 +214,13 @@ bool HacerUltimaRegresion(const Accion &) {
     return true;
 }
 
-// The listings are a command of the editor, which opens with this guard.
+// The listings are a command of the editor, which opens with this guard, or of the dialogs of the regressions.
 bool HacerListado(const Accion &accion) {
     if (!HayTipoDeDatos("Tipo de datos no válido"_w)) return false;
     ActualizarMuestra();
+    if (accion.deRegresion)
+        return PedirListado(nullptr, static_cast<ListadosRegresion>(accion.numero),
+                            UltimaRegresion.SentenciaRegresion, UltimaRegresion.MetodoRegresion);
     EstadoSeleccion seleccion = IniciarSeleccion(static_cast<ModosSeleccion>(accion.numero));
     bool bien = true;
     std::string_view resto = accion.elemento;
@@ -280,7 +286,8 @@ constexpr FilaDeAccion TablaAcciones[] = {
     {"--imprimir", "F.pdf", LeerRuta, HacerImprimir, "lo que se imprima después va a este documento"},
     {"--imprimir-salidas", nullptr, nullptr, HacerImprimirSalidas,
      "imprime también cada ventana de resultados"},
-    {"--listado", "series:X,Y|matrices:A,B", LeerListado, HacerListado, "imprime series o matrices"},
+    {"--listado", "series:X,Y|matrices:A,B", LeerListado, HacerListado,
+     "imprime series o matrices; covarianza, valores, varianza: de la regresión"},
     {"--volcado", nullptr, nullptr, HacerVolcado, "muestra el contenido del archivo de trabajo"},
     {"--abrir", "ARCHIVO", nullptr, nullptr, nullptr},
     {"--guardar", "ARCHIVO", nullptr, nullptr, nullptr},
@@ -340,10 +347,6 @@ bool LeerLinea(const std::vector<std::string> &argumentos, std::vector<Accion> &
         accion.valor = argumentos[i];
         if (!fila->leer(accion.valor, accion)) {
             queja = "valor incorrecto de " + nombre + ": '" + accion.valor + "'";
-            return false;
-        }
-        if (accion.pendiente) {
-            queja = "la acción " + nombre + " " + accion.valor + " no está disponible todavía";
             return false;
         }
     }

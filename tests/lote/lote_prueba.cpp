@@ -110,10 +110,8 @@ TEST(Lote, LineasQueNoSePuedenLeer) {
         {{"--borrar", "serie:"}, "valor incorrecto de --borrar"},
         {{"--grafico", "residuos"}, "la acción --grafico no está disponible todavía"},
         {{"--abrir", "x.tr2"}, "la acción --abrir no está disponible todavía"},
-        {{"--listado", "covarianza"}, "la acción --listado covarianza no está disponible todavía"},
-        {{"--listado", "valores"}, "la acción --listado valores no está disponible todavía"},
-        {{"--listado", "varianza"}, "la acción --listado varianza no está disponible todavía"},
         {{"--listado", "series"}, "valor incorrecto de --listado"},
+        {{"--listado", "residuos"}, "valor incorrecto de --listado"},
         {{"--listado", "escalares:A"}, "valor incorrecto de --listado"},
         {{"--imprimir", ""}, "valor incorrecto de --imprimir"},
         {{"dos\nlíneas\r\t\x01"}, "acción desconocida: 'dos líneas   '"},
@@ -372,23 +370,90 @@ TEST(Lote, EntradasDisparatadas) {
     }
 }
 
-// One observation only: the automatic sample then ends at row 100,000, beyond every table.
+// One observation only: the automatic sample then ends at row 100,000, beyond every table. What computes row by row stops
+// at the last one; a regression and a matrix are refused.
 TEST(Lote, MuestraSinDatos) {
     const std::string carpeta = CarpetaNueva("datos");
     EscribirBytes(carpeta + "/una.csv", "X,Y\n1,2\n");
-    const char *Sentencias[] = {"SER Z = X + 1", "ESC A = X", "MC Y 1 X", "MAT M = {X Y}", "OBS X[2] = 3"};
-    for (const char *s : Sentencias) {
-        SCOPED_TRACE(s);
-        const auto r = Correr({"--json", "--tipo", "sin", "--importar", "una.csv", "--sentencia", s},
-                              {.carpeta = carpeta, .entrada = {}});
-        EXPECT_EQ(r.estado, 1) << r.salida;
-        EXPECT_FALSE(SucesosDe(r, "caja").empty());
+    static constexpr struct {
+        const char *sentencia;
+        bool pasa;
+    } Sentencias[] = {{"SER Z = X + 1", true},
+                      {"ESC A = X", true},
+                      {"MC Y 1 X", false},
+                      {"MAT M = {X Y}", false},
+                      {"OBS X[2] = 3", true}};
+    for (const auto &s : Sentencias) {
+        SCOPED_TRACE(s.sentencia);
+        const auto r =
+            Correr({"--json", "--tipo", "sin", "--importar", "una.csv", "--sentencia", s.sentencia},
+                   {.carpeta = carpeta, .entrada = {}});
+        EXPECT_EQ(r.estado, s.pasa ? 0 : 1) << r.salida;
+        EXPECT_EQ(SucesosDe(r, "caja").empty(), s.pasa);
     }
     const auto r = Correr({"--json", "--tipo", "sin", "--importar", "una.csv", "--muestra-actual",
                            "--exportar", "v.csv", "--volcado"},
                           {.carpeta = carpeta, .entrada = {}});
     EXPECT_EQ(r.estado, 0) << r.salida << r.errores;
     EXPECT_EQ(SucesosDe(r, "volcado").at(0)["muestra"], json({0, 100000}));
+}
+
+// The listings of the last regression.
+TEST(Lote, ListadosDeLaRegresion) {
+    static constexpr struct {
+        const char *cual, *titulo;
+        int contenido;
+        std::size_t lineas, fijas;
+        const char *enPapel; // first line
+    } Casos[] = {
+        // Four regressors; 21 observations, since one has a lag.
+        {"covarianza", "Matriz de covarianza", 1, 10, 0,
+         "Matriz de covarianza de los estimadores      Página.:   1"},
+        {"valores", "Valores observados", 2, 21, 2,
+         "MC CONSUMO 1 BENEF BENEF(-1) SALARIOS              Página.:  1"},
+        {"varianza", "Análisis de la varianza", 3, 5, 0, "Análisis de la varianza de la regresión"},
+    };
+    for (const auto &caso : Casos) {
+        SCOPED_TRACE(caso.cual);
+        const auto r = Correr(Mas(Mas({"--json", "--imprimir-salidas"}, Klein), {"--listado", caso.cual}));
+        EXPECT_EQ(r.estado, 0) << r.errores;
+        const auto salidas = SucesosDe(r, "salida"), impresiones = SucesosDe(r, "impresion");
+        ASSERT_EQ(salidas.size(), 2u) << "the report, then the listing";
+        const json &s = salidas.back();
+        EXPECT_EQ(s["ventana"], "resultado");
+        EXPECT_EQ(s["titulo"], caso.titulo);
+        EXPECT_EQ(s["clase"], 8);
+        EXPECT_EQ(s["contenido"], caso.contenido);
+        EXPECT_EQ(s["lineas"].size(), caso.lineas);
+        EXPECT_EQ(s.contains("fijas") ? s["fijas"].size() : 0, caso.fijas);
+        ASSERT_EQ(impresiones.size(), 2u);
+        EXPECT_EQ(impresiones.back()["titulo"], caso.titulo);
+        EXPECT_EQ(impresiones.back()["paginas"].at(0).at(0), caso.enPapel);
+    }
+}
+
+TEST(Lote, ListadosDeLaRegresionQueSeNiegan) {
+    const std::vector<std::string> Datos = {"--json", "--tipo", "anual:1920:1941", "--importar", "klein.csv"};
+    const struct {
+        std::vector<std::string> antes;
+        const char *cual, *titulo, *texto;
+    } Casos[] = {
+        {{"--json"}, "covarianza", "Proceso cancelado", "Tipo de datos no válido"},
+        {Datos, "covarianza", "Aviso", "Efectue primero una regresión"},
+        {Datos, "valores", "Aviso", "Efectue primero una regresión"},
+        {Mas(Datos, {"--sentencia", "VSR NO", "--sentencia", "MC CONSUMO BENEF SALPRIV"}), "varianza",
+         "Aviso", "Introduzca el término independiente"},
+    };
+    for (const auto &caso : Casos) {
+        SCOPED_TRACE(caso.texto);
+        const auto r = Correr(Mas(caso.antes, {"--listado", caso.cual}));
+        EXPECT_EQ(r.estado, 1);
+        const auto cajas = SucesosDe(r, "caja");
+        ASSERT_EQ(cajas.size(), 1u) << r.salida;
+        EXPECT_EQ(cajas[0]["titulo"], caso.titulo);
+        EXPECT_EQ(cajas[0]["texto"], caso.texto);
+        EXPECT_TRUE(SucesosDe(r, "salida").empty());
+    }
 }
 
 } // namespace

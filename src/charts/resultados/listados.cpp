@@ -1,6 +1,7 @@
 // Listings of series, matrices and the text of the main screen.
 #include "charts/resultados/listados.h"
 
+#include "charts/resultados/partes_informe.h"
 #include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
@@ -142,13 +143,6 @@ std::string NumeroDeListado(const Hoja &h, double valor) {
 
 // ---------------------------------------------------------------------------------------------------------------
 // Series
-
-std::string Centrado(std::string_view texto, int ancho) {
-    std::string r(texto.substr(0, static_cast<std::size_t>(ancho)));
-    r.insert(0, (static_cast<std::size_t>(ancho) - r.size()) / 2, ' ');
-    r.resize(static_cast<std::size_t>(ancho), ' ');
-    return r;
-}
 
 // The rows of the sample that can be listed. A work file of more rows than the tables hold is listed when its sample
 // is short, and then from the first row on.

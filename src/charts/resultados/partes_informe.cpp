@@ -54,6 +54,13 @@ std::string NumeroExacto(double valor) {
     return {texto, fin};
 }
 
+std::string Centrado(std::string_view texto, int ancho) {
+    std::string r(texto.substr(0, static_cast<std::size_t>(ancho)));
+    r.insert(0, (static_cast<std::size_t>(ancho) - r.size()) / 2, ' ');
+    r.resize(static_cast<std::size_t>(ancho), ' ');
+    return r;
+}
+
 // ----- Head
 
 std::string UnirNombres(std::span<const std::string> nombres, char separador, std::size_t largo,

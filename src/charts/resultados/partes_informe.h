@@ -26,6 +26,9 @@ std::string NumeroCopiado(int impresos, int decimales, double valor, int ancho);
 // The shortest text that is read back as the same number, for a spreadsheet.
 std::string NumeroExacto(double valor);
 
+// A text in the middle of `ancho` characters, cut at them; the odd blank stands behind it.
+std::string Centrado(std::string_view texto, int ancho);
+
 // ----- Head
 
 // Names joined by `separador`. Once the text is longer than `largo` no name is added; `alCortar` goes behind a list that not
