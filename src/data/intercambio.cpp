@@ -116,11 +116,6 @@ void AceptarFormatoVariable(const ValoresFormatoVariable &valores, OpcionesInter
     opciones.FormatoVariable = 1;
 }
 
-FilasDeMuestra FilasDelArchivo(int inicio, int fin) {
-    const int ultima = std::clamp(static_cast<int>(ArchivoTrabajo.NumObs), 0, MaxObservaciones) - 1;
-    return {std::clamp(inicio, 0, MaxObservaciones), std::clamp(fin, -1, ultima)};
-}
-
 void ActualizarLimitesSeries() {
     CabeceraArchivo &a = ArchivoTrabajo;
     const int series = std::min<int>(a.NumSeries, MaxSeries);

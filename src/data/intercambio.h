@@ -123,14 +123,6 @@ bool AceptarFormatoFijo(Ventana *ventana, bool decimalesConComas, OpcionesInterc
 // ---------------------------------------------------------------------------------------------------------------
 // The transfer, without the file
 
-// Rows of a sample that the work file has; none when fin < inicio.
-struct FilasDeMuestra {
-    int inicio, fin;
-};
-
-// Sample bounds cut to the observations of the work file, whatever they are (the end can be 100,000).
-FilasDeMuestra FilasDelArchivo(int inicio, int fin);
-
 // The records for the sample, in Windows-1252, each ended by a line feed. There are as many as the sample has
 // observations, but they are the first observations of the work file: the program exports from row 0.
 // `decimales` is 0 to 6, any other value counts as 6.

@@ -47,3 +47,10 @@ inline constexpr int MaxLineasSalida = 4000;    // lines of TextoSalida
 inline constexpr int AnchoLineaSalida = 100;    // characters of a line
 inline constexpr int AnchoRegistroAscii = 3071; // characters of a record of an ASCII file that are handled
 inline constexpr int MaxCamposFijos = 103;      // rows of the table of the fixed format
+
+inline constexpr int SitiosRetardo = 500; // elements of the arrays of autocorrelations; lag 0 has one
+inline constexpr int MaxRetardo =
+    SitiosRetardo - 1;                    // the longest lag, and the values that a partial function sees
+inline constexpr int MaxDescriptivos = 9; // series of one table of descriptive measures
+inline constexpr int MaxMuestraTransformada = 998; // values of a series that a transformation takes
+inline constexpr int AnchoCodigoTransformada = 9;  // characters of its code that the dialog reads

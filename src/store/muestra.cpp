@@ -201,6 +201,11 @@ int FinDeCalculo(int ultima) {
     return ultima < MaxObservaciones ? ultima : FilasEnUso() - 1;
 }
 
+FilasDeMuestra FilasDelArchivo(int inicio, int fin) {
+    const int ultima = std::clamp(static_cast<int>(ArchivoTrabajo.NumObs), 0, MaxObservaciones) - 1;
+    return {std::clamp(inicio, 0, MaxObservaciones), std::clamp(fin, -1, ultima)};
+}
+
 void ActualizarMuestra() {
     const bool faltaInicio = Muestra.AnoInicial == 0;
     const bool faltaFin = Muestra.AnoFinal == 0;

@@ -56,6 +56,14 @@ void ActualizarMuestra();
 // of the work file. A series that was declared and holds nothing yet must not stop everything else.
 int FinDeCalculo(int ultima);
 
+// Rows of a sample that the work file has; none when fin < inicio.
+struct FilasDeMuestra {
+    int inicio, fin;
+};
+
+// Sample bounds cut to the observations of the work file, whatever they are (the end can be 100,000).
+FilasDeMuestra FilasDelArchivo(int inicio, int fin);
+
 // MUEST: reads two periods from the whole statement line, keeps them as limits, then ActualizarMuestra.
 void MuestraDeSentencia(std::string_view linea);
 

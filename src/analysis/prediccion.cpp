@@ -1,0 +1,254 @@
+// Predictions from the last regression.
+#include "analysis/prediccion.h"
+
+#include "analysis/informe_prediccion.h"
+#include "analysis/serie_destino.h"
+#include "estimation/regresion.h"
+#include "platform/campos_texto.h"
+#include "platform/numeros.h"
+#include "platform/primitivas_matriz.h"
+#include "platform/texto.h"
+#include "store/periodos.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+EstadoPrediccion Prediccion;
+
+namespace {
+
+constexpr int UltimaFila = MaxObservaciones - 1;
+
+// What one prediction works with.
+struct Trabajo {
+    Ventana *ventana;
+    int pred, dtm, dti;          // slots of the three series
+    std::vector<int> regresores; // slots; -1 stands for a term of value 1
+    int dependiente;             // slot
+};
+
+double Valor(int fila, int serie) {
+    return ArchivoTrabajo.ValoresObs[fila][serie];
+}
+
+// ----- Range and names
+
+// The first row whose text is that of the field, or reads as the same number; -1 for none. A blank text of either side
+// matches nothing.
+int FilaDePeriodo(std::string_view campo) {
+    const std::string_view buscado = Recortado(campo.substr(0, AnchoPeriodoPrediccion));
+    if (buscado.empty()) return -1;
+    const double numero = LeerDecimal(buscado);
+    for (int i = 0; i < MaxObservaciones; ++i) {
+        const std::string_view texto = TextoPeriodo(i);
+        if (!texto.empty() && (texto == buscado || ArchivoTrabajo.ValoresPeriodo[i] == numero)) return i;
+    }
+    return -1;
+}
+
+void PonerRango(const ValoresPrediccion &valores) {
+    Prediccion.inicioPred = std::clamp(UltimaRegresion.PrimeraObsRegresion, 0, UltimaFila);
+    Prediccion.finPred = std::clamp(UltimaRegresion.UltimaObsRegresion, 0, UltimaFila);
+    if (const int fila = FilaDePeriodo(valores.inicio); fila >= 0) Prediccion.inicioPred = fila;
+    if (const int fila = FilaDePeriodo(valores.fin); fila >= 0) Prediccion.finPred = fila;
+}
+
+void PonerNombres(const ValoresPrediccion &valores) {
+    const auto poner = [](Codigo codigo, const std::string &texto, const char *porDefecto) {
+        PonerCampo(codigo, CodigoDestino(texto, AnchoCodigoPrediccion, porDefecto), AnchoCodigo);
+    };
+    const ValoresPrediccion iniciales;
+    poner(Prediccion.codigoPred, valores.codigoPred, iniciales.codigoPred.c_str());
+    poner(Prediccion.codigoDtm, valores.codigoDtm, iniciales.codigoDtm.c_str());
+    poner(Prediccion.codigoDti, valores.codigoDti, iniciales.codigoDti.c_str());
+    Prediccion.modoEvaluacion = valores.modo;
+}
+
+// The elements of a matrix of the last regression; null when it is gone, or another one bears its name.
+const double *Matriz(const char *codigo, int elementos) {
+    const int m = BuscarMatriz(codigo);
+    if (m < 0 || TablaMatrices.registro[m].Filas * TablaMatrices.registro[m].Columnas != elementos)
+        return nullptr;
+    return FijarMatriz(m) ? TablaMatrices.registro[m].Datos : nullptr;
+}
+
+int TomarSeries(Trabajo &t) {
+    const std::pair<int *, const char *> destinos[] = {
+        {&t.pred, Prediccion.codigoPred}, {&t.dtm, Prediccion.codigoDtm}, {&t.dti, Prediccion.codigoDti}};
+    for (const auto &[serie, codigo] : destinos) {
+        std::string motivo;
+        *serie = SerieDestino(Recortado(codigo), motivo);
+        if (*serie < 0) return MensajePunto(t.ventana, motivo, 1);
+        // The last slot of the table can be taken, but not used.
+        if (ArchivoTrabajo.NumSeries > TopeSeries + 1)
+            return MensajePunto(t.ventana, "Borre algunas series", 1);
+    }
+    return 1;
+}
+
+// A name that is no series is a term of value 1: the constant, and whatever the equation wrote as a lag or a formula.
+void BuscarRegresores(Trabajo &t) {
+    for (const std::string &codigo : UltimaRegresion.CodigosRegresores)
+        t.regresores.push_back(BuscarSerie(codigo));
+}
+
+double Regresor(const Trabajo &t, std::size_t i, int fila) {
+    return t.regresores[i] >= 0 ? Valor(fila, t.regresores[i]) : 1.0;
+}
+
+// ----- Prediction
+
+void Predecir(const Trabajo &t, const double *beta) {
+    for (int fila = Prediccion.inicioPred; fila <= Prediccion.finPred; ++fila) {
+        double suma = 0.0;
+        for (std::size_t i = 0; i < t.regresores.size(); ++i) suma += beta[i] * Regresor(t, i, fila);
+        PonerObservacion(fila, t.pred, suma, 1);
+    }
+}
+
+// Share of the residuals' variance in the deviation of an individual value; 0 without degrees of freedom.
+int VarianzaResidual(const Trabajo &t, double &varianza) {
+    const int e = BuscarEscalar("_SCR");
+    if (e < 0) return MensajeCancelado(t.ventana, "Realice una regresión"_w);
+    const int n = UltimaRegresion.UltimaObsRegresion - UltimaRegresion.PrimeraObsRegresion + 1;
+    const int libertad = n - static_cast<int>(t.regresores.size());
+    varianza = libertad != 0 ? TablaEscalares.registro[e].Valor / libertad : 0.0;
+    return 1;
+}
+
+// A variance that rounding takes below zero counts as none.
+double Desviacion(double varianza) {
+    return varianza > 0.0 ? std::sqrt(varianza) : 0.0;
+}
+
+void CalcularDesviaciones(const Trabajo &t, const double *covarianza, double residual) {
+    const std::size_t k = t.regresores.size();
+    const int K = static_cast<int>(k);
+    std::vector<double> c(k), producto(k);
+    for (int fila = Prediccion.inicioPred; fila <= Prediccion.finPred; ++fila) {
+        for (std::size_t i = 0; i < k; ++i) c[i] = Regresor(t, i, fila);
+        double s = 0.0;
+        MultiplicarMatrices(c.data(), covarianza, 1, K, K, producto.data());
+        MultiplicarMatrices(producto.data(), c.data(), 1, K, 1, &s);
+        PonerObservacion(fila, t.dtm, Desviacion(s), 1);
+        PonerObservacion(fila, t.dti, Desviacion(residual + s), 1);
+    }
+}
+
+int PredecirTodo(Trabajo &t) {
+    const int K = static_cast<int>(UltimaRegresion.CodigosRegresores.size());
+    const double *beta = Matriz("_BETA", K);
+    if (beta == nullptr) return MensajePunto(t.ventana, "No existe la matriz Beta", 1);
+    if (TomarSeries(t) == 0) return 0;
+    BuscarRegresores(t);
+    for (const int serie : {t.pred, t.dtm, t.dti})
+        VaciarSerieDestino(serie, Prediccion.inicioPred, Prediccion.finPred);
+    Predecir(t, beta);
+    const double *covarianza = Matriz("_COV", K * K);
+    if (covarianza == nullptr) return MensajePunto(t.ventana, "No existe la matriz de covarianza", 1);
+    double residual = 0.0;
+    if (VarianzaResidual(t, residual) == 0) return 0;
+    CalcularDesviaciones(t, covarianza, residual);
+    return 1;
+}
+
+// ----- Evaluation
+
+// Both columns, all rows, and the range that the dependent variable has values in.
+int PrepararColumnas(Trabajo &t) {
+    EstadoPrediccion &p = Prediccion;
+    t.dependiente = BuscarSerie(UltimaRegresion.CodigoDependiente);
+    if (t.dependiente < 0) return MensajePunto(t.ventana, "Se ha borrado la variable dependiente", 1);
+    // Room for two more series is asked for, though the columns don't stand in the table.
+    if (ArchivoTrabajo.NumSeries + 2 > TopeSeries + 1)
+        return MensajePunto(t.ventana, "Borre algunas series", 1);
+    for (int i = 0; i < MaxObservaciones; ++i) {
+        p.prediccionEval[i] = Valor(i, t.pred);
+        p.observacionEval[i] = Valor(i, t.dependiente);
+    }
+    const auto falta = [&](int fila) { return ArchivoTrabajo.PresenciaObs[fila][t.dependiente] != 1; };
+    while (p.inicioPred < p.finPred && falta(p.inicioPred)) ++p.inicioPred;
+    while (p.inicioPred < p.finPred && falta(p.finPred)) --p.finPred;
+    if (p.finPred <= p.inicioPred) return MensajePunto(t.ventana, "Muestra no válida"_w, 11);
+    return 1;
+}
+
+// Rates or increments over the observation of the row before. A rate over nothing is 0.
+int CompararConAnterior(const Trabajo &t) {
+    EstadoPrediccion &p = Prediccion;
+    const bool tasas = p.modoEvaluacion == EvaluarTasas;
+    const int primera = std::clamp(UltimaRegresion.PrimeraObsRegresion, 0, UltimaFila);
+    p.prediccionEval[primera] = p.observacionEval[primera] = 0.0;
+    for (int i = 1; i < MaxObservaciones; ++i) {
+        const double anterior = Valor(i - 1, t.dependiente);
+        const double divisor = tasas ? anterior : 1.0;
+        const auto variacion = [&](double valor) {
+            return divisor != 0.0 ? (valor - anterior) / divisor : 0.0;
+        };
+        p.prediccionEval[i] = variacion(Valor(i, t.pred));
+        p.observacionEval[i] = variacion(Valor(i, t.dependiente));
+    }
+    if (p.inicioPred > 0) return 1;
+    p.inicioPred = 1;
+    return p.finPred < 2 ? MensajePunto(t.ventana, "Muestra no válida"_w, 1) : 1;
+}
+
+int Evaluar(Trabajo &t) {
+    EstadoPrediccion &p = Prediccion;
+    if (PrepararColumnas(t) == 0) return 0;
+    if (p.modoEvaluacion != EvaluarOriginales && CompararConAnterior(t) == 0) return 0;
+    const std::size_t m = static_cast<std::size_t>(p.finPred - p.inicioPred + 1);
+    p.medidas = MedirPrediccion({p.prediccionEval + p.inicioPred, m}, {p.observacionEval + p.inicioPred, m});
+    p.evaluada = true;
+    return 1;
+}
+
+} // namespace
+
+MedidasPrediccion MedirPrediccion(std::span<const double> p, std::span<const double> a) {
+    const double m = static_cast<double>(p.size());
+    MedidasPrediccion r = {};
+    double sumaP = 0.0, sumaA = 0.0, cuadradosA = 0.0;
+    for (std::size_t i = 0; i < p.size(); ++i) {
+        r.EAM += std::fabs(p[i] - a[i]);
+        r.ECM += (p[i] - a[i]) * (p[i] - a[i]);
+        sumaP += p[i];
+        sumaA += a[i];
+        cuadradosA += a[i] * a[i];
+    }
+    r.EAM /= m;
+    r.ECM /= m;
+    const double mediaP = sumaP / m, mediaA = sumaA / m;
+    double Sap = 0.0, Sp = 0.0, Sa = 0.0;
+    for (std::size_t i = 0; i < p.size(); ++i) {
+        Sap += (a[i] - mediaA) * (p[i] - mediaP);
+        Sp += (p[i] - mediaP) * (p[i] - mediaP);
+        Sa += (a[i] - mediaA) * (a[i] - mediaA);
+    }
+    if (Sp * Sa > 0.0) r.COP = Sap / std::sqrt(Sp * Sa);
+    if (cuadradosA / m > 0.0) r.Theil = std::sqrt(r.ECM) / std::sqrt(cuadradosA / m);
+    if (r.ECM != 0.0) {
+        const double sp = std::sqrt(Sp / m), sa = std::sqrt(Sa / m);
+        r.sesgo = (mediaP - mediaA) * (mediaP - mediaA) / r.ECM;
+        r.varianza = (sp - sa) * (sp - sa) / r.ECM;
+    }
+    r.aleatorio = 1.0 - r.sesgo - r.varianza;
+    return r;
+}
+
+int EmpezarPrediccion(Ventana *ventana) {
+    return UltimaRegresion.NumRegresores < 1 ? MensajeCancelado(ventana, "Realice una regresión"_w) : 1;
+}
+
+int AceptarPrediccion(Ventana *ventana, const ValoresPrediccion &valores) {
+    Prediccion.evaluada = false;
+    PonerRango(valores);
+    PonerNombres(valores);
+    Trabajo t = {ventana, -1, -1, -1, {}, -1};
+    const bool bien = PredecirTodo(t) != 0 && Evaluar(t) != 0;
+    RefrescarEditor();
+    if (!bien) return 0;
+    MostrarPrediccion(ventana);
+    return 1;
+}

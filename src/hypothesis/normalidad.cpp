@@ -1,0 +1,84 @@
+// The test of Bera and Jarque.
+#include "hypothesis/normalidad.h"
+
+#include "charts/resultados/partes_informe.h"
+#include "matrix/probabilidad.h"
+#include "platform/campos_texto.h"
+#include "platform/texto.h"
+#include "store/archivo.h"
+#include "store/periodos.h"
+
+#include <cmath>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr int GrupoTexto = 1;
+
+struct LineaDeContraste {
+    const char *formato, *rotulo; // the second for a spreadsheet
+    double ContrasteNormalidad::*valor;
+};
+
+constexpr LineaDeContraste Lineas[] = {
+    {"         Coeficiente de asimetria...: %10s", "Coeficiente de asimetria",
+     &ContrasteNormalidad::asimetria},
+    {"         Coeficiente de curtosis....: %10s", "Coeficiente de curtosis", &ContrasteNormalidad::curtosis},
+    {"         Estadístico................: %10s"_w, "Estadístico"_w, &ContrasteNormalidad::estadistico},
+    {"         Prob > Chi-cuadrado...... .: %10s", "Prob > Chi-cuadrado", &ContrasteNormalidad::probabilidad},
+};
+
+void Mostrar(Ventana *ventana, std::string_view serie, const FilasDeMuestra &filas,
+             const ContrasteNormalidad &contraste) {
+    const std::string muestra =
+        std::string(TextoPeriodo(filas.inicio)) + " - " + std::string(TextoPeriodo(filas.fin));
+    const std::string codigo(Recortado(serie));
+    const int n = filas.fin - filas.inicio + 1;
+    TextoSalida texto;
+    AnadirLinea(texto, GrupoTexto, Formatear("         Muestra: %-19s NºObs.: %-10d"_w, muestra.c_str(), n));
+    AnadirLinea(texto, GrupoTexto, Formatear("         Serie......................: %-10s", codigo.c_str()));
+    std::string tabla =
+        "Muestra\t" + muestra + "\nNºObs.\t"_w + std::to_string(n) + "\nSerie\t" + codigo + "\n";
+    for (const LineaDeContraste &l : Lineas) {
+        const double valor = contraste.*l.valor;
+        AnadirLinea(texto, GrupoTexto, Formatear(l.formato, NumeroCopiado(4, 4, valor, 10).c_str()));
+        tabla += std::string(l.rotulo) + "\t" + NumeroExacto(valor) + "\n";
+    }
+    SalidaResultado salida = {};
+    salida.tipo = SalidaNormalidad;
+    salida.titulo = "Contraste de normalidad  Bera y Jarque";
+    salida.lineas = &texto;
+    salida.tabla = tabla;
+    MostrarVentanaResultado(ventana, salida);
+}
+
+} // namespace
+
+ContrasteNormalidad ContrastarNormalidad(std::span<const double> x) {
+    const double n = static_cast<double>(x.size());
+    double S2 = 0.0, S3 = 0.0, S4 = 0.0;
+    for (const double v : x) {
+        S2 += v * v;
+        S3 += v * v * v;
+        S4 += v * v * v * v;
+    }
+    ContrasteNormalidad c = {};
+    const double desviacion3 = std::sqrt(S2 / n * (S2 / n) * (S2 / n));
+    if (desviacion3 > 0.0) c.asimetria = S3 / n / desviacion3;
+    const double cuadrado = S2 * S2 / n;
+    if (cuadrado > 0.0) c.curtosis = S4 / cuadrado;
+    c.estadistico = n / 6.0 * c.asimetria * c.asimetria + n / 24.0 * (c.curtosis - 3.0) * (c.curtosis - 3.0);
+    Probabilidad('c', c.estadistico, 2.0, 0.0, c.probabilidad);
+    return c;
+}
+
+int AceptarNormalidad(Ventana *ventana, std::string_view serie) {
+    const int s = BuscarSerie(serie);
+    if (s < 0) return MensajePunto(ventana, "No existe la serie escogida", 1);
+    const FilasDeMuestra filas = FilasDelArchivo(Muestra.InicioMuestra, Muestra.FinMuestra);
+    std::vector<double> x;
+    for (int i = filas.inicio; i <= filas.fin; ++i) x.push_back(ArchivoTrabajo.ValoresObs[i][s]);
+    Mostrar(ventana, serie, filas, ContrastarNormalidad(x));
+    return 1;
+}
