@@ -129,9 +129,8 @@ void PrepararBucle() {
     Ejecutar("SER Z = X1");
 }
 
-void CorrerBucle(const std::string &lineas) {
-    Prueba.textoControl =
-        "REPITE J DESDE 1 HASTA " + std::to_string(VueltasBucle) + "\n" + lineas + "FINREPITE\n";
+void CorrerBucle(const std::string &lineas, int vueltas = VueltasBucle) {
+    Prueba.textoControl = "REPITE J DESDE 1 HASTA " + std::to_string(vueltas) + "\n" + lineas + "FINREPITE\n";
     Prueba.desde = 0;
     Prueba.hasta = static_cast<int>(Prueba.textoControl.size());
     ProcesarLote(nullptr, nullptr, 0, {}, Muestra.InicioMuestra, Muestra.FinMuestra);
@@ -142,6 +141,62 @@ void Bucle(benchmark::State &estado) {
     PrepararBucle();
     for (auto _ : estado) CorrerBucle(LineasBucle);
 }
+
+constexpr int VueltasBucleLargo = 100000;
+
+void BucleLargo(benchmark::State &estado) {
+    PrepararBucle();
+    for (auto _ : estado) CorrerBucle(LineasBucle, VueltasBucleLargo);
+}
+
+// A loop that has nothing of the program: what the long one is compared with from one machine to the next.
+void Calibracion(benchmark::State &estado) {
+    for (auto _ : estado) {
+        double x = 0.5;
+        for (int i = 0; i < 100000000; ++i) x = x * 0.999999 + 1e-6;
+        benchmark::DoNotOptimize(x);
+    }
+}
+
+// One statement alone, over one row: all of it is text.
+void SoloTexto(benchmark::State &estado) {
+    PrepararSeries(ObservacionesBucle);
+    Muestra.InicioMuestra = Muestra.FinMuestra = 0;
+    for (auto _ : estado) CorrerBucle("SER Z = X1 + X2 * 2\n");
+}
+
+// ----- Recursive series, and an experiment that is replicated
+
+void SerieRecursivaTabira(benchmark::State &estado) {
+    PrepararSeries(MaxObservaciones);
+    Ejecutar("SER Z = X1");
+    for (auto _ : estado) Ejecutar("SER Z = Z(-1) * 0.5 + X1");
+}
+
+void SerieSinRecursion(benchmark::State &estado) {
+    PrepararSeries(MaxObservaciones);
+    Ejecutar("SER Z = X1");
+    for (auto _ : estado) Ejecutar("SER Z = X2 * 0.5 + X1");
+}
+
+constexpr int NumReplicas = 500;
+
+void Replicas(benchmark::State &estado) {
+    PrepararSeries(ObservacionesBucle);
+    Ejecutar("MUEST 1 100");
+    Ejecutar("SER PEND = 0");
+    for (auto _ : estado)
+        CorrerBucle("SER E = RNDN\nSER V = 1 + 2 * X1 + E\nMC V 1 X1\nOBS PEND[1] = _BETA[1,2]\n",
+                    NumReplicas);
+}
+
+void RegresionesSueltas(benchmark::State &estado) {
+    PrepararSeries(ObservacionesBucle);
+    Ejecutar("MUEST 1 100");
+    for (auto _ : estado) CorrerBucle("MC Y 1 X1\n", NumReplicas);
+}
+
+// ----- The parts of a statement
 
 // The three formulas of a turn, evaluated over the given rows.
 void FormulasDeVuelta(benchmark::State &estado, int ultima) {
@@ -262,6 +317,13 @@ int main(int numArgumentos, char **argumentos) {
     registrar("SerieTabira", SerieTabira, benchmark::kMicrosecond);
     registrar("SerieAMano", SerieAMano, benchmark::kMicrosecond);
     registrar("Bucle", Bucle, benchmark::kMillisecond);
+    registrar("BucleLargo", BucleLargo, benchmark::kMillisecond);
+    registrar("Calibracion", Calibracion, benchmark::kMillisecond);
+    registrar("SoloTexto", SoloTexto, benchmark::kMicrosecond);
+    registrar("SerieRecursiva", SerieRecursivaTabira, benchmark::kMicrosecond);
+    registrar("SerieSinRecursion", SerieSinRecursion, benchmark::kMicrosecond);
+    registrar("Replicas", Replicas, benchmark::kMillisecond);
+    registrar("RegresionesSueltas", RegresionesSueltas, benchmark::kMillisecond);
     registrar("FormulasEnUnaFila", FormulasEnUnaFila, benchmark::kMicrosecond);
     registrar("FormulasEnLasFilas", FormulasEnLasFilas, benchmark::kMicrosecond);
     registrar("AlmacenDeVuelta", AlmacenDeVuelta, benchmark::kMicrosecond);
@@ -289,6 +351,15 @@ int main(int numArgumentos, char **argumentos) {
     Razon("  its text", (sentencia - columnas - almacen) / 1e3, "us", "below 5");
     Razon("CRA, 4,000 observations", t("Rangos") / 1e6, "ms", "below 60");
     Razon("CGQ, 4,000 observations, 10 regressors", t("Goldfeld") / 1e6, "ms", "below 60");
+    Razon("The text of SER Z = X1 + X2 * 2 in a loop, its turn included", t("SoloTexto") / VueltasBucle / 1e3,
+          "us", "at most 0.8");
+    Razon("100,000 turns of three statements over 100 rows", t("BucleLargo") / 1e9, "s", "at most 1.3");
+    Razon("  the same / a loop of 100 million sums and products", t("BucleLargo") / t("Calibracion"), "times",
+          "");
+    Razon("Recursive SER, 4,000 rows / SER without recursion", t("SerieRecursiva") / t("SerieSinRecursion"),
+          "times", "at most 40");
+    Razon("500 replications of a regression, 100 rows / 500 regressions alone",
+          t("Replicas") / t("RegresionesSueltas"), "times", "at most 1.5");
     Razon("tabira-lote on Klein's example, the whole process", t("ProcesoKlein") / 1e6, "ms", "below 20");
     Razon("  its memory", static_cast<double>(MemoriaDelProceso) / 1024.0, "MB", "below 64");
     return 0;
