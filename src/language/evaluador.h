@@ -84,7 +84,7 @@ bool ApilarSerie(int serie);
 
 // The buffer of the present level, or of one `encima` of it, which exists.
 inline std::string &LineaDelNivel(LineasSentencia &lineas, int encima = 0) {
-    return lineas[static_cast<std::size_t>(Evaluador.NivelLinea + encima)];
+    return lineas[static_cast<std::size_t>(Evaluador.NivelLinea) + static_cast<std::size_t>(encima)];
 }
 
 inline const std::string &LineaDelNivel(const LineasSentencia &lineas) {
