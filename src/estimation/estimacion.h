@@ -28,6 +28,7 @@ struct Estimacion {
     double media = 0.0;
     double variacion = 0.0; // sum of squares of the dependent about its mean
     double saltos = 0.0;    // sum of squares of the differences of successive residuals
+    bool seQuedan = false;  // a failure after which the temporaries are not deleted
 };
 
 // Adds a column under the name of the brace list and the text to show.
@@ -40,6 +41,5 @@ Cadena CadenaDe(const Estimacion &e, std::span<const DatoCadena> datos = {});
 // matrix is stored anew or deleted, locked or not.
 double *ElementosDe(std::string_view matriz);
 
-// The one answer where the estimation needs what is announced and not built yet: weighted data, the consistent
-// covariance matrices and the reports of the tests. Shows "No ensamblada" and returns 0.
+// The one answer where the estimation needs what is announced and not built yet: the reports of the tests. Shows "No ensamblada" and returns 0.
 int ParteSinEnsamblar(Estimacion &e);

@@ -54,7 +54,7 @@ void SumarFilas(const double *X, const double *y, int n, int k, double *XX, doub
 
 int AcumularMomentos(Estimacion &e) {
     const int n = e.observaciones, k = e.regresores;
-    // Its elements are the values of the dependent's series at the observations of the range.
+    // Its elements are the values of the dependent's series at the observations of the range, weighted as it is.
     const double *y = ElementosDe("_YDEP");
     const double *X = ElementosDe("_XIND");
     std::array<double, static_cast<std::size_t>(MaxColumnasPila) * MaxColumnasPila> producto;

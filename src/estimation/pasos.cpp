@@ -1,7 +1,9 @@
 // The steps of a regression: their order, and the values that their formulas take.
 #include "estimation/pasos.h"
 
+#include "estimation/covarianza.h"
 #include "estimation/momentos.h"
+#include "estimation/ponderacion.h"
 #include "estimation/tabla_pasos.h"
 #include "language/lote_sentencias.h"
 #include "platform/campos_texto.h"
@@ -123,13 +125,12 @@ int Preparar(Estimacion &e) {
     e.regresores = TablaMatrices.registro[x].Columnas;
     if (BuscarSerie(e.dependiente) < 0) return MensajePunto(e.ventana, SecuenciaNoValida, 6529);
     if (e.codigo != OrdenMCP && UltimaRegresion.Ponderada == 0) return 1;
-    if (BuscarSerie("_VORD") < 0) return MensajePunto(e.ventana, SecuenciaNoValida, 6528);
-    return ParteSinEnsamblar(e);
+    return PonderarDatos(e);
 }
 
 int EstimarCovarianza(Estimacion &e) {
     if (UltimaRegresion.TipoCovarianza == CovarianzaNormal) return EjecutarConMedidas(e, PasosCovarianza);
-    return ParteSinEnsamblar(e);
+    return CovarianzaConsistente(e);
 }
 
 // The two regressions of Goldfeld and Quandt are reported with the count of the last MC.

@@ -4,6 +4,7 @@
 #include "estimation/ecuacion.h"
 #include "estimation/informe.h"
 #include "estimation/pasos.h"
+#include "estimation/ponderacion.h"
 #include "language/lote_sentencias.h"
 #include "platform/campos_texto.h"
 #include "store/archivo.h"
@@ -36,6 +37,7 @@ void Informar(Estimacion &e) {
 int Estimar(Estimacion &e, int posicion) {
     if (LeerEcuacion(e, posicion) == 0 || EjecutarPasos(e) == 0 || CompletarRegresion(e) == 0) return 0;
     SoltarTodasMatrices();
+    if (UltimaRegresion.MetodoRegresion == OrdenMCP && GuardarResiduosOriginales(e) == 0) return 0;
     if (e.codigo == OrdenMGN) return 1; // MGD reports both
     if (e.codigo != OrdenMC && e.codigo != OrdenMCP) return ParteSinEnsamblar(e);
     Informar(e);
@@ -53,7 +55,8 @@ int EstimarRegresion(LineasSentencia &lineas, int &posicion, Ventana *ventana, i
     e.codigo = codigo;
     const int bien = Estimar(e, posicion);
     SoltarTodasMatrices();
-    if (bien == 0 || codigo != OrdenMGN) BorrarTemporales(ventana, codigo);
+    const bool paraMGD = bien == 1 && codigo == OrdenMGN;
+    if (!paraMGD && !e.seQuedan) BorrarTemporales(ventana, codigo);
     if (codigo == OrdenCR) {
         // Its own lags may have moved the range, which the next test needs as MC left it.
         Muestra.InicioRegresion = primera;

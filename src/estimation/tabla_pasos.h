@@ -92,3 +92,58 @@ inline constexpr PasoCadena PasosWhite[] = {
 inline constexpr PasoCadena PasosGoldfeld[] = {
     {PasoEscalar, PrimeraFila, "_ESTFG", "PROBF(%(cociente)f,%(glNumerador)f,%(glDenominador)f)", 755, 756},
 };
+
+// ----- Weighted data
+
+inline constexpr PasoCadena PasosPonderar[] = {
+    {PasoMatriz, PrimeraFila, "_S2", "{0 0 0 0}", 6527},
+};
+inline constexpr PasoCadena PasosPonderada[] = {
+    {PasoMatriz, PrimeraFila, "_XIND", "_S2", 6529},
+};
+
+// ----- The consistent covariance matrices. Their formulas have no points: what the evaluator shows is all.
+
+inline constexpr PasoCadena PasosConsistente[] = {
+    {PasoMatriz, PrimeraFila, "_S2", "{0 0 0 0}"},   {PasoMatriz, PrimeraFila, "_S3", "{0 0 0 0}"},
+    {PasoMatriz, PrimeraFila, "_TMS2", "{0 0 0 0}"}, {PasoMatriz, PrimeraFila, "_TMS3", "{0 0 0 0}"},
+    {PasoMatriz, PrimeraFila, "_S5", "{0 0 0 0}"},   {PasoMatriz, PrimeraFila, "_S0", "{0 0 0 0}"},
+    {PasoMatriz, PrimeraFila, "_S9", "{0 0 0 0}"},   {PasoMatriz, PrimeraFila, "_S8", "{0 0 0 0}"},
+    {PasoMatriz, PrimeraFila, "_S7", "{0 0 0 0}"},
+};
+
+// The term of one observation, run as its formula where its weight is no number.
+inline constexpr PasoCadena PasosTermino[] = {
+    {PasoMatriz, PrimeraFila, "_S5", " %(peso)30.10f * (_S2*_S3)"},
+};
+inline constexpr PasoCadena PasosTerminoRetardado[] = {
+    {PasoMatriz, PrimeraFila, "_S5", " %(peso)30.10f * ((_S2 * _S3)+(_TMS2 * _TMS3))"},
+};
+
+// The sum over the lags where no two observations are one lag apart.
+inline constexpr PasoCadena PasosSumaVacia[] = {
+    {PasoMatriz, PrimeraFila, "_S7", "_S8"},
+};
+
+inline constexpr PasoCadena PasosHeterocedasticidad[] = {
+    {PasoMatriz, PrimeraFila, "%(COV)s", " _S9$ * _S0 * _S9$ "},
+};
+inline constexpr PasoCadena PasosSinRetardos[] = {
+    {PasoMatriz, PrimeraFila, "%(COV)s", " _S9$ * _S0  * _S9$ "},
+};
+// The sums over the lags stand undivided beside the divided one of the squares, and that is how it is meant.
+inline constexpr PasoCadena PasosAutocorrelacion[] = {
+    {PasoMatriz, PrimeraFila, "%(COV)s", " %(n)d * _S9$ * ((_S0/%(n)d) +  _S7) * _S9$ "},
+};
+
+// The Wald statistic, of the coefficients of the last MC or MCP whatever the code.
+inline constexpr PasoCadena PasosCopiasWald[] = {
+    {PasoMatriz, PrimeraFila, "_S0", "_BETA"},
+    {PasoMatriz, PrimeraFila, "_S8", "_COV"},
+};
+inline constexpr PasoCadena PasosFilaWald[] = {
+    {PasoMatriz, PrimeraFila, "_S2", "_S0"},
+};
+inline constexpr PasoCadena PasosFormaWald[] = {
+    {PasoMatriz, PrimeraFila, "_S3", "(_S2 * _S8$ * _S0)/%(d)d"},
+};

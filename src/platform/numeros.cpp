@@ -1,8 +1,11 @@
 // Numbers read from text, free of locale.
 #include "platform/numeros.h"
 
+#include "platform/texto.h"
+
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstddef>
 #include <limits>
 #include <string>
@@ -75,4 +78,19 @@ bool EsNumero(std::string_view texto) {
     for (const char c : texto)
         if (!EsCifra(c) && c != '.') return false;
     return true;
+}
+
+// The text holds the whole number nearest to valor * 1e10, and a whole number below 2^53 divided by 1e10 is rounded as the
+// text is when it is read. `resto` is what the product lost by that rounding and by its own; where it is close to a half,
+// the text decides.
+double EnDiezDecimales(double valor) {
+    constexpr double Escala = 1e10;
+    constexpr double SinPerdida = 524288.0; // 2^19: from here on doubles lie further apart than 1e-10
+    if (std::fabs(valor) >= SinPerdida) return valor;
+    const double producto = valor * Escala;
+    const double entero = std::nearbyint(producto);
+    const double resto = (producto - entero) + std::fma(valor, Escala, -producto);
+    if (std::fabs(std::fabs(resto) - 0.5) < 1e-3) return LeerDecimal(Formatear("%.10f", valor));
+    if (std::fabs(resto) < 0.5) return entero / Escala;
+    return (entero + std::copysign(1.0, resto)) / Escala;
 }

@@ -14,3 +14,6 @@ int LeerEntero(std::string_view texto);
 // True when the text has one character or more and all are digits or points, an optional "-" in front, with at
 // least one more character behind the sign. This is what the language calls a number; "." and "1.2.3" pass too.
 bool EsNumero(std::string_view texto);
+
+// What LeerDecimal reads from the text that "%.10f" makes of a finite number, without the text in nearly every case.
+double EnDiezDecimales(double valor);

@@ -6,8 +6,15 @@
 #include <string_view>
 #include <vector>
 
+// What the chain does besides plain least squares.
+struct OpcionesCadena {
+    int covarianza = 1;     // TiposDeCovarianza
+    int retardos = 1;       // of 3
+    bool ponderada = false; // the data are multiplied by the series _VORD, which exists
+};
+
 // Runs an MC over the range Muestra.InicioRegresion to FinRegresion: matrices _YDEP and _XIND from the series
 // `dependiente` and the columns of the brace form (codes, numbers, scalars), then every step. The evaluation stack must
 // be open. False when a formula fails; the evaluator has shown its message.
 bool EstimarPorFormulas(std::string_view dependiente, const std::vector<std::string> &columnas,
-                        int seriesRegresoras);
+                        int seriesRegresoras, const OpcionesCadena &opciones = {});

@@ -244,7 +244,7 @@ TEST(EcuacionWhiteFallos, SinSitio) {
 TEST(Ponderada, LaHeredanLosContrastesHastaElSiguienteMC) {
     EmpezarRegresion();
     ASSERT_TRUE(Procesar("MC Y 1 X Z"));
-    EXPECT_FALSE(Procesar("MCP ( LN(X) / 2 ) Y 1 X"));
+    EXPECT_TRUE(Procesar("MCP ( LN(X) / 2 ) Y 1 X"));
     EXPECT_EQ(UltimaRegresion.Ponderada, 1);
     EXPECT_EQ(UltimaRegresion.TextoPonderacion, " LN(X) / 2 ");
     EXPECT_EQ(UltimaRegresion.TextoEcuacion, " Y 1 X");

@@ -121,8 +121,7 @@ TEST(EcuacionMC, OpcionesDeCovarianza) {
         Procesar(c.sentencia);
         EXPECT_EQ(UltimaRegresion.TipoCovarianza, c.tipo);
         EXPECT_EQ(UltimaRegresion.RetardosCovarianza, c.retardos);
-        // The consistent matrices are still to come.
-        EXPECT_EQ(TextosDeCajas(), c.tipo == 1 ? Textos{} : Textos{"No ensamblada"});
+        EXPECT_EQ(TextosDeCajas(), Textos{});
     }
 }
 

@@ -77,8 +77,6 @@ INSTANTIATE_TEST_SUITE_P(
         Fallo{"", "MCP", {"Indroduzca ponderación. Pto 1633"}},
         Fallo{"", "MCP (QQ) Y 1 X", {"Función desconocida [QQ]", "QQ. Pto 199", "QQ. Pto 8511"}},
         Fallo{"", "MCP (X) QQ 1", {"Serie desconocida:[QQ]. Pto 2663"}},
-        Fallo{"", "MCP (1) Y 1 X", {"No ensamblada"}}, Fallo{"", "MCP (LN(X)/Z) Y 1 X", {"No ensamblada"}},
-        Fallo{"", "MC (CH) Y 1 X", {"No ensamblada"}}, Fallo{"", "MC (CA 2) Y 1 X", {"No ensamblada"}},
         Fallo{"MC Y 1 X Z", "CR Y 1 X", {"No ensamblada"}},
         Fallo{"MC Y 1 X Z", "CR Y 1 QQ", {"Serie no válida: [QQ][CR Y 1 QQ]. Pto 664"}},
         Fallo{"MC Y 1 X Z", "MGD Y 1 X", {"No ensamblada"}}, Fallo{"MC Y 1 X Z", "CWH", {"No ensamblada"}},

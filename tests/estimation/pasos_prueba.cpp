@@ -20,6 +20,7 @@ struct ListaDePasos {
     const char *nombre;
     std::span<const PasoCadena> pasos;
     std::vector<FalloDePaso> fallos; // one a step
+    const MensajesCadena *mensajes = &MensajesSecuencia;
 };
 
 void PrintTo(const ListaDePasos &l, std::ostream *salida) {
@@ -39,7 +40,8 @@ void Estimar(LineasSentencia &lineas) {
     e.codigo = OrdenCR;
     ASSERT_TRUE(LeerEcuacion(e, 0) == 1 && EjecutarPasos(e) == 1 && CompletarRegresion(e) == 1);
     SoltarTodasMatrices();
-    PonerMatriz("_S3", {2.5}, 1, 1);
+    for (const char *m : {"_S0", "_S2", "_S3", "_S5", "_S7", "_S8", "_S9", "_TMS2", "_TMS3"})
+        PonerMatriz(m, {2.5}, 1, 1);
     ASSERT_EQ(TextosDeCajas(), Textos{});
 }
 
@@ -64,7 +66,8 @@ TEST_P(FallosDePasos, Cajas) {
     for (const char *nombre :
          {"n",      "k",         "gl",          "menosUna",      "mitad",        "constante", "suma",
           "media",  "variacion", "series",      "saltos",        "fuera",        "glLargo",   "chi",
-          "grados", "cociente",  "glNumerador", "glDenominador", "estadisticoF", "corregido"})
+          "grados", "cociente",  "glNumerador", "glDenominador", "estadisticoF", "corregido", "peso",
+          "d"})
         datos.push_back({nombre, 2.0, "2.0"});
     LineasSentencia lineas;
     for (std::size_t i = 0; i < lista.pasos.size(); ++i) {
@@ -72,7 +75,8 @@ TEST_P(FallosDePasos, Cajas) {
         const FalloDePaso &fallo = lista.fallos[i];
         SCOPED_TRACE(fallo.destino);
         Estimar(lineas);
-        const Cadena c = CadenaDePrueba(lineas, datos);
+        Cadena c = CadenaDePrueba(lineas, datos);
+        c.mensajes = lista.mensajes;
         ASSERT_EQ(TextoDePaso(c, paso.destino), fallo.destino);
         EXPECT_EQ(EjecutarCadena(c, {&paso, 1}), 1);
         EXPECT_EQ(TextosDeCajas(), Textos{});
@@ -106,6 +110,11 @@ std::string Punto(int punto) {
 
 FalloDePaso Matriz(const char *destino, int punto) {
     return {destino, {Punto(punto)}, {"Nombre matriz no válido. Pto 29", Punto(punto)}};
+}
+
+// What the evaluator shows is all.
+FalloDePaso MatrizSinPunto(const char *destino) {
+    return {destino, {}, {"Nombre matriz no válido. Pto 29"}};
 }
 
 FalloDePaso Escalar(const char *destino, int formula, int guardar) {
@@ -156,7 +165,31 @@ INSTANTIATE_TEST_SUITE_P(
         ListaDePasos{"white",
                      PasosWhite,
                      {Escalar("_TM11", 7551, 756), Escalar("_TM12", 7552, 756), Escalar("_TM13", 7553, 756)}},
-        ListaDePasos{"goldfeld", PasosGoldfeld, {Escalar("_ESTFG", 755, 756)}}));
+        ListaDePasos{"goldfeld", PasosGoldfeld, {Escalar("_ESTFG", 755, 756)}},
+        ListaDePasos{"ponderar", PasosPonderar, {Matriz("_S2", 6527)}},
+        ListaDePasos{"ponderada", PasosPonderada, {Matriz("_XIND", 6529)}}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Consistente, FallosDePasos,
+    testing::Values(
+        ListaDePasos{"previos",
+                     PasosConsistente,
+                     {MatrizSinPunto("_S2"), MatrizSinPunto("_S3"), MatrizSinPunto("_TMS2"),
+                      MatrizSinPunto("_TMS3"), MatrizSinPunto("_S5"), MatrizSinPunto("_S0"),
+                      MatrizSinPunto("_S9"), MatrizSinPunto("_S8"), MatrizSinPunto("_S7")},
+                     &MensajesDelEvaluador},
+        ListaDePasos{"termino", PasosTermino, {MatrizSinPunto("_S5")}, &MensajesDelEvaluador},
+        ListaDePasos{"retardado", PasosTerminoRetardado, {MatrizSinPunto("_S5")}, &MensajesDelEvaluador},
+        ListaDePasos{"suma vacia", PasosSumaVacia, {MatrizSinPunto("_S7")}, &MensajesDelEvaluador},
+        ListaDePasos{
+            "heterocedasticidad", PasosHeterocedasticidad, {MatrizSinPunto("_COVR")}, &MensajesDelEvaluador},
+        ListaDePasos{"sin retardos", PasosSinRetardos, {MatrizSinPunto("_COVR")}, &MensajesDelEvaluador},
+        ListaDePasos{
+            "autocorrelacion", PasosAutocorrelacion, {MatrizSinPunto("_COVR")}, &MensajesDelEvaluador},
+        ListaDePasos{
+            "copias", PasosCopiasWald, {MatrizSinPunto("_S0"), MatrizSinPunto("_S8")}, &MensajesDelEvaluador},
+        ListaDePasos{"fila", PasosFilaWald, {MatrizSinPunto("_S2")}, &MensajesDelEvaluador},
+        ListaDePasos{"forma", PasosFormaWald, {MatrizSinPunto("_S3")}, &MensajesDelEvaluador}));
 
 // ----- What is gone when the steps begin
 

@@ -5,11 +5,15 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <climits>
 #include <clocale>
 #include <cmath>
+#include <cstdint>
 #include <limits>
+#include <random>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -88,6 +92,41 @@ constexpr CasoEsNumero EsNumeros[] = {
 
 TEST(Numeros, EsNumero) {
     for (const CasoEsNumero &c : EsNumeros) EXPECT_EQ(EsNumero(c.texto), c.es) << "\"" << c.texto << "\"";
+}
+
+// The same bits as by way of the text, also at ties and where the text has more digits than a double.
+TEST(Numeros, EnDiezDecimales) {
+    std::vector<double> valores = {0.0,
+                                   -0.0,
+                                   1.0,
+                                   -1.0,
+                                   0.1,
+                                   1e-10,
+                                   5e-11,
+                                   -5e-11,
+                                   4.9e-11,
+                                   5.1e-11,
+                                   1e-300,
+                                   -1e-300,
+                                   5e-324,
+                                   524287.99999999994,
+                                   524288.0,
+                                   524288.00000000012,
+                                   1e15,
+                                   1e300,
+                                   450359.96274,
+                                   450359.9627370496,
+                                   450359.96273704961};
+    for (int j = 1; j < 4000; j += 2) valores.push_back(j / 2048.0); // half of the last decimal, exactly
+    std::mt19937_64 azar(11);
+    std::uniform_real_distribution<double> uniforme(-1.0, 1.0), exponente(-14.0, 8.0);
+    for (int i = 0; i < 200000; ++i) valores.push_back(uniforme(azar) * std::pow(10.0, exponente(azar)));
+    for (int i = 0; i < 50000; ++i) valores.push_back(450000.0 + 74288.0 * std::fabs(uniforme(azar)));
+    for (const double v : valores) {
+        const double esperado = LeerDecimal(Formatear("%30.10f", v)), visto = EnDiezDecimales(v);
+        ASSERT_EQ(std::bit_cast<std::uint64_t>(visto), std::bit_cast<std::uint64_t>(esperado))
+            << Formatear("%.17g", v);
+    }
 }
 
 // Where the machine has a locale with a decimal comma, reading doesn't follow it.

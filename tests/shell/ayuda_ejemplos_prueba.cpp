@@ -44,7 +44,7 @@ std::vector<std::string> EjemplosDe(const PaginaManual &pagina) {
 
 // What the pages document and isn't built yet: beginnings of statements. Take the line out when it is built.
 constexpr const char *SinEnsamblar[] = {
-    "GRAF ", "HIST ", "CGQ ", "CR ", "MGN ", "MGD ", "CWH ", "MCP ", "MC (CH)", "MC (CA",
+    "GRAF ", "HIST ", "CGQ ", "CR ", "CWH ",
 };
 
 bool EsSinEnsamblar(std::string_view sentencia) {
@@ -173,16 +173,31 @@ TEST(EjemplosAyuda, TambienComoSeCopian) {
     EXPECT_GT(grupos, 50);
 }
 
-// One work file serves for the whole manual: no page gives a code to another kind of thing than a page before.
+// Deletes the matrices behind the first `quedan` that are no results of a regression, and notes their codes.
+void RetirarMatrices(int quedan, std::vector<std::string> &retiradas) {
+    for (int m = TablaMatrices.numero - 1; m >= quedan; --m) {
+        if (TablaMatrices.registro[m].Codigo[0] == '_') continue;
+        retiradas.emplace_back(TablaMatrices.registro[m].Codigo);
+        BorrarMatriz(nullptr, m);
+    }
+}
+
+// One work file serves for the whole manual: no page gives a code to another kind of thing than a page before. The
+// matrices make room for a consistent covariance matrix, which takes 23 of the 30 while it is computed.
 TEST(EjemplosAyuda, TodasLasPaginasSeguidas) {
     EmpezarPagina();
+    const int dePartida = TablaMatrices.numero;
+    std::vector<std::string> retiradas;
     for (const PaginaManual &p : PaginasManual()) {
         SCOPED_TRACE(p.id);
         for (const std::string &completo : GruposDe(p)) {
             const std::string grupo = LoEnsamblado(completo);
+            if (grupo.find("(CH)") != grupo.npos) RetirarMatrices(dePartida, retiradas);
             if (!grupo.empty() && TipoDeGrupo(grupo) == Anuales) ProcesarGrupo(grupo);
         }
         Procesar("MUEST 1980 1999"); // as every page supposes
+        for (const std::string &codigo : retiradas)
+            EXPECT_TRUE(BuscarSerie(codigo) < 0 && BuscarEscalar(codigo) < 0) << codigo;
     }
 }
 
