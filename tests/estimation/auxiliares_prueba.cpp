@@ -260,3 +260,55 @@ TEST(Ponderada, LaHeredanLosContrastesHastaElSiguienteMC) {
     EXPECT_FALSE(Procesar("MCP (X) Y 1 X"));
     EXPECT_EQ(TextosDeCajas(), Textos{"Borre algunas series. Pto 8628"});
 }
+
+// White's test after a weighted regression squares the residuals on the original data, and weights its own regression.
+TEST(Ponderada, WhiteTrasPonderar) {
+    EmpezarRegresion();
+    ASSERT_TRUE(Procesar("MCP (Z + 1) Y 1 X"));
+    Corrida c;
+    Correr(c, OrdenCWH, "");
+    ASSERT_TRUE(c.estimada) << Unir(TextosDeCajas());
+    EXPECT_EQ(Unir(c.e.textos), "1 X X*X ");
+    const int n = BuscarSerie("_RESN"), cuadrados = BuscarSerie("_RESCUAD"), simples = BuscarSerie("_RES");
+    for (const int i : {0, 7, 19}) {
+        const double residuo = ArchivoTrabajo.ValoresObs[i][n];
+        EXPECT_EQ(ArchivoTrabajo.ValoresObs[i][cuadrados], residuo * residuo);
+        EXPECT_NE(residuo, ArchivoTrabajo.ValoresObs[i][simples]);
+    }
+    const double scr = EscalarDe("_SCRW"), rc = EscalarDe("_RCW");
+    EXPECT_NEAR(EscalarDe("_TM11"), 20 * rc, 5e-7);
+    EXPECT_EQ(EscalarDe("_TM12"), 2.0);
+    ASSERT_TRUE(Procesar("SER Q = _RESN * _RESN\nSER XX = X * X\nMCP (Z + 1) Q 1 X XX"));
+    EXPECT_EQ(EscalarDe("_SCR"), scr);
+}
+
+// The restricted model of a weighted regression is weighted too, and compares with its sum of squares.
+TEST(Ponderada, ModeloRestringidoTrasPonderar) {
+    EmpezarRegresion();
+    ASSERT_TRUE(Procesar("MCP (X) Y 1"));
+    const double restringida = EscalarDe("_SCR");
+    ASSERT_TRUE(Procesar("MCP (X) Y 1 Z"));
+    const double libre = EscalarDe("_SCR");
+    Corrida c;
+    Correr(c, OrdenCR, "Y 1");
+    ASSERT_TRUE(c.estimada) << Unir(TextosDeCajas());
+    EXPECT_EQ(EscalarDe("_SCRR"), restringida);
+    EXPECT_EQ(EscalarDe("_EST5"), 1.0);
+    EXPECT_DOUBLE_EQ(EscalarDe("_FORLAR"), (restringida - libre) / (libre / 18));
+    EXPECT_EQ(EscalarDe("_ESTFR"), Prob("PROBF(_FORLAR,1,18)"));
+}
+
+// Under a consistent covariance the F of a restricted model is the Wald statistic of the MC, over its own coefficients,
+// while its probability is that of the comparison.
+TEST(ModeloRestringido, TrasUnaCovarianzaConsistente) {
+    EmpezarRegresion();
+    ASSERT_TRUE(Procesar("MC (CH) Y 1 X Z"));
+    const double wald = EscalarDe("_FORLA"), scr = EscalarDe("_SCR");
+    Corrida c;
+    Correr(c, OrdenCR, "Y 1 X");
+    ASSERT_TRUE(c.estimada) << Unir(TextosDeCajas());
+    EXPECT_NEAR(EscalarDe("_FORLAR"), wald * 2, 1e-12 * wald);
+    const double f = (EscalarDe("_SCRR") - scr) / (scr / 17);
+    EXPECT_NEAR(EscalarDe("_ESTFR"), Prob(Formatear("PROBF(%.17g,1,17)", f).c_str()), 1e-12);
+    EXPECT_EQ(EscalarDe("_FORLA"), wald);
+}

@@ -132,6 +132,31 @@ TEST(ConsistenteBordes, SinRetardosEsLaDeWhite) {
     EXPECT_EQ(Almacenada("_COV"), deWhite);
 }
 
+// Lags that no two observations have add the last sum once more each, however many they are.
+TEST(ConsistenteBordes, MasRetardosQueObservaciones) {
+    EmpezarRegresion();
+    ASSERT_TRUE(Procesar("MC Y 1 X Z"));
+    const Matriz x = Regresores(true), inversa = (x.transpose() * x).inverse();
+    const Eigen::VectorXd e = Columna("_RES");
+    for (const int retardos : {25, 1000, 2147483647}) {
+        SCOPED_TRACE(retardos);
+        Matriz centro = Matriz::Zero(3, 3), ultima;
+        for (Eigen::Index t = 0; t < 20; ++t) centro += e(t) * e(t) * x.row(t).transpose() * x.row(t) / 20.0;
+        for (int r = 1; r < 20; ++r) {
+            ultima = Matriz::Zero(3, 3);
+            for (Eigen::Index t = r; t < 20; ++t) {
+                const Matriz producto = x.row(t).transpose() * x.row(t - r);
+                ultima += e(t) * e(t - r) * (1.0 - r / (retardos + 1.0)) * (producto + producto.transpose());
+            }
+            centro += ultima;
+        }
+        centro += (retardos - 19.0) * ultima;
+        const Matriz v = 20.0 * inversa * centro * inversa;
+        ASSERT_TRUE(Procesar(Formatear("MC (CA %d) Y 1 X Z", retardos)));
+        EXPECT_LT((Almacenada("_COV") - v).cwiseAbs().maxCoeff(), 1e-7 * v.cwiseAbs().maxCoeff());
+    }
+}
+
 // With one regressor there would be no restriction to divide by.
 TEST(ConsistenteBordes, UnSoloRegresor) {
     EmpezarRegresion();

@@ -147,6 +147,15 @@ TEST(Ponderada, ResiduosOriginalesSinLosRetardos) {
     EXPECT_NEAR(ValoresDe("_RESN", 20)[1], y[1] - Beta()(0) - z[1] * Beta()(1), 1e-12);
 }
 
+// Coefficients that are gone count for nothing.
+TEST(Ponderada, ResiduosOriginalesConMenosCoeficientes) {
+    EmpezarRegresion();
+    ASSERT_TRUE(Procesar("MCP (1) Y 1 X"));
+    PonerMatriz("_BETA", {2.5}, 1, 1);
+    ASSERT_TRUE(Procesar("MGN Y 1 X"));
+    EXPECT_EQ(ValoresDe("_RESN", 20)[19], 30.0 - 2.5);
+}
+
 TEST(Ponderada, ResiduosOriginalesSinSitio) {
     EmpezarRegresion();
     PonerEscalar(nullptr, "_RESN", 3.0);
