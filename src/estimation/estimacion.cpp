@@ -1,7 +1,6 @@
 // The working set of a regression.
 #include "estimation/estimacion.h"
 
-#include "language/lote_sentencias.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 
@@ -25,8 +24,4 @@ double *ElementosDe(std::string_view matriz) {
     const int m = BuscarMatriz(matriz);
     if (m < 0 || !FijarMatriz(m)) return nullptr;
     return TablaMatrices.registro[m].Datos;
-}
-
-int ParteSinEnsamblar(Estimacion &e) {
-    return NoEnsamblada(e.ventana);
 }

@@ -40,6 +40,3 @@ Cadena CadenaDe(const Estimacion &e, std::span<const DatoCadena> datos = {});
 // Elements of a matrix, by rows, with its block locked; null when there is no such matrix. The place is valid until the
 // matrix is stored anew or deleted, locked or not.
 double *ElementosDe(std::string_view matriz);
-
-// The one answer where the estimation needs what is announced and not built yet: the reports of the tests. Shows "No ensamblada" and returns 0.
-int ParteSinEnsamblar(Estimacion &e);

@@ -38,9 +38,7 @@ int Estimar(Estimacion &e, int posicion) {
     if (LeerEcuacion(e, posicion) == 0 || EjecutarPasos(e) == 0 || CompletarRegresion(e) == 0) return 0;
     SoltarTodasMatrices();
     if (UltimaRegresion.MetodoRegresion == OrdenMCP && GuardarResiduosOriginales(e) == 0) return 0;
-    if (e.codigo == OrdenMGN) return 1; // MGD reports both
-    if (e.codigo != OrdenMC && e.codigo != OrdenMCP) return ParteSinEnsamblar(e);
-    Informar(e);
+    if (e.codigo != OrdenMGN) Informar(e); // MGD reports both
     return 1;
 }
 

@@ -16,7 +16,7 @@ enum TiposDeCovarianza {
 // The record of the last MC or MCP: what tests, predictions and charts read.
 struct RegistroRegresion {
     int RegresionHecha;
-    int DesdeDialogo;    // set by OK of the dialogs of MC and MCP, cleared when one opens; a typed statement leaves it
+    int DesdeDialogo; // set by OK of the dialogs of MC and MCP, cleared when one opens; a typed statement leaves it
     int MetodoRegresion; // 8 or 13
     char CodigoDependiente[AnchoCodigo];
     std::vector<std::string> CodigosRegresores; // as typed: 1, X1, SALARIO(-1); at most 12 characters each

@@ -61,7 +61,9 @@ TEST(ModeloRestringido, ComparaSumasDeCuadrados) {
     EXPECT_EQ(UltimaRegresion.NumTextos, 2);
 
     // The statement itself removes all of it, and leaves the MC as it was.
-    EXPECT_FALSE(Procesar("CR Y 1 X"));
+    EXPECT_TRUE(Procesar("CR Y 1 X"));
+    ASSERT_EQ(Prueba.resultados.size(), 1u);
+    EXPECT_EQ(Prueba.resultados[0].clase, OrdenCR);
     for (const char *e : {"_EST5", "_FORLAR", "_ESTFR", "_SCRR", "_NORER"})
         EXPECT_EQ(BuscarEscalar(e), -1) << e;
     for (const char *s : {"_RESR", "_DIVR", "_PROBTR", "_DTER2", "_YAJUS", "_BETA2"})
@@ -121,7 +123,9 @@ TEST(GoldfeldQuandt, LoDelNumeradorQuedaHastaElDenominador) {
     EXPECT_TRUE(Prueba.resultados.empty());
     for (const char *e : {"_SCRGN", "_NOREGN", "_MTRGN"}) EXPECT_GE(BuscarEscalar(e), 0) << e;
     EXPECT_GE(BuscarSerie("_RESGN"), 0);
-    Procesar("MGD Y 1 X");
+    ASSERT_TRUE(Procesar("MGD Y 1 X"));
+    ASSERT_EQ(Prueba.resultados.size(), 1u);
+    EXPECT_EQ(Prueba.resultados[0].clase, OrdenMGD);
     for (const char *e : {"_SCRGN", "_NOREGN", "_SCRGD", "_NOREGD", "_ESTFG"})
         EXPECT_EQ(BuscarEscalar(e), -1) << e;
     EXPECT_EQ(BuscarSerie("_RESGN"), -1);
@@ -198,7 +202,9 @@ TEST_P(EcuacionWhite, Regresores) {
     }
     EXPECT_EQ(std::string(UltimaRegresion.CodigoDependiente), "Y           ");
 
-    EXPECT_FALSE(Procesar(std::string("CWH ") + caso.opciones)); // its report is still to come
+    EXPECT_TRUE(Procesar(std::string("CWH ") + caso.opciones));
+    ASSERT_EQ(Prueba.resultados.size(), 1u);
+    EXPECT_EQ(Prueba.resultados[0].clase, OrdenCWH);
     for (const char *n : {"_RESCUAD", "_TMP1", "_TMP2", "_RESW", "_TMR1", "_DTEW2"})
         EXPECT_EQ(BuscarSerie(n), -1) << n;
     for (const char *n : {"_TM11", "_TM12", "_TM13", "_RCW"}) EXPECT_EQ(BuscarEscalar(n), -1) << n;

@@ -76,7 +76,6 @@ inline std::string TablaMostrada; // for a spreadsheet, in UTF-8
 inline void MirarAlMostrar(std::function<void()> mirar) {
     static OperacionesPlataforma operaciones;
     static void (*mostrar)(Ventana *, const SalidaResultado &);
-    static Respuesta (*caja)(Ventana *, std::string_view, std::string_view, Icono, Botones);
     AlMostrar = std::move(mirar);
     if (&Plataforma() == &operaciones) return;
     operaciones = Plataforma();
@@ -85,11 +84,6 @@ inline void MirarAlMostrar(std::function<void()> mirar) {
         AlMostrar();
         TablaMostrada = Utf8De1252(s.tabla);
         mostrar(v, s);
-    };
-    caja = operaciones.caja;
-    operaciones.caja = [](Ventana *v, std::string_view texto, std::string_view titulo, Icono i, Botones b) {
-        if (texto == "No ensamblada") AlMostrar();
-        return caja(v, texto, titulo, i, b);
     };
     InstalarPlataforma(operaciones);
 }
