@@ -62,6 +62,26 @@ void RegresionTabira(benchmark::State &estado) {
     for (auto _ : estado) Ejecutar("MC Y 1 X1 X2 X3 X4 X5 X6 X7 X8 X9");
 }
 
+void RegresionHeterocedasticidad(benchmark::State &estado) {
+    PrepararSeries(MaxObservaciones);
+    for (auto _ : estado) Ejecutar("MC (CH) Y 1 X1 X2 X3 X4 X5 X6 X7 X8 X9");
+}
+
+void RegresionAutocorrelacion(benchmark::State &estado) {
+    PrepararSeries(MaxObservaciones);
+    for (auto _ : estado) Ejecutar("MC (CA 4) Y 1 X1 X2 X3 X4 X5 X6 X7 X8 X9");
+}
+
+// Its results are recorded and thrown away, as no window takes them.
+void White(benchmark::State &estado) {
+    PrepararSeries(MaxObservaciones);
+    Ejecutar("MC Y 1 X1 X2 X3");
+    for (auto _ : estado) {
+        Ejecutar("CWH PC");
+        Prueba.resultados.clear();
+    }
+}
+
 void RegresionEigen(benchmark::State &estado) {
     PrepararSeries(MaxObservaciones);
     Eigen::MatrixXd x(MaxObservaciones, NumColumnas);
@@ -312,6 +332,9 @@ int main(int numArgumentos, char **argumentos) {
         benchmark::RegisterBenchmark(nombre, rutina)->Unit(unidad)->UseRealTime();
     };
     registrar("RegresionTabira", RegresionTabira, benchmark::kMicrosecond);
+    registrar("RegresionHeterocedasticidad", RegresionHeterocedasticidad, benchmark::kMicrosecond);
+    registrar("RegresionAutocorrelacion", RegresionAutocorrelacion, benchmark::kMicrosecond);
+    registrar("White", White, benchmark::kMicrosecond);
     registrar("RegresionEigen", RegresionEigen, benchmark::kMicrosecond);
     registrar("RegresionPorFormulas", RegresionPorFormulas, benchmark::kMillisecond);
     registrar("SerieTabira", SerieTabira, benchmark::kMicrosecond);
@@ -343,6 +366,10 @@ int main(int numArgumentos, char **argumentos) {
           t("RegresionTabira") / t("RegresionEigen"), "times", "at most 5");
     Razon("MC formula by formula / MC", t("RegresionPorFormulas") / t("RegresionTabira"), "times",
           "at least 50");
+    Razon("MC (CH) / MC", t("RegresionHeterocedasticidad") / t("RegresionTabira"), "times", "at most 3");
+    Razon("MC (CA 4) / MC", t("RegresionAutocorrelacion") / t("RegresionTabira"), "times", "at most 8");
+    Razon("CWH PC on a constant and 3 series / that MC", t("White") / t("RegresionTabira"), "times",
+          "at most 12");
     Razon("SER of ten operands, 4,000 rows / the loop by hand", t("SerieTabira") / t("SerieAMano"), "times",
           "at most 8");
     Razon("A statement of a loop over 100 observations", sentencia / 1e3, "us", "");
