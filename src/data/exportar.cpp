@@ -15,8 +15,7 @@
 namespace {
 
 constexpr std::size_t AnchoCampo = 19; // characters of every field of a file
-constexpr int MaxDecimales = 6;
-constexpr int FilaDeNombres = -1; // in place of an observation: the first record, with names and codes
+constexpr int FilaDeNombres = -1;      // in place of an observation: the first record, with names and codes
 
 // What a whole export has in common.
 struct Exportacion {

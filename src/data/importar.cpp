@@ -8,7 +8,6 @@
 #include "store/periodos.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
 
@@ -243,19 +242,10 @@ bool LeerRegistroFijo(Importacion &m, const LineaLeida &linea) {
 
 // ---------------------------------------------------------------------------------------------------------------
 
-void QuitarSeries(bool etiquetas) {
-    CabeceraArchivo &a = ArchivoTrabajo;
-    std::memset(a.ValoresObs, 0, sizeof a.ValoresObs);
-    std::memset(a.PresenciaObs, 0, sizeof a.PresenciaObs);
-    for (int s = 0; s < MaxSeries; ++s) BorrarSerie(s);
-    a.NumSeries = 0;
-    for (int i = 0; etiquetas && i < MaxObservaciones; ++i) PonerCampo(a.EtiquetasObs[i], "", AnchoEtiqueta);
-}
-
 } // namespace
 
 void ImportarTexto(const OpcionesIntercambio &opciones, std::string_view texto, int inicio, int fin) {
-    if (opciones.SustituirSeries != 0) QuitarSeries(opciones.ModoEtiquetas > 0);
+    if (opciones.SustituirSeries != 0) BorrarTodasLasSeries(opciones.ModoEtiquetas > 0);
     // The count begins at zero, not at the series that are there: a file without fields leaves them uncounted.
     Importacion m = {opciones, FilasDelArchivo(inicio, fin), ArchivoTrabajo.NumSeries, 0, 0, {}};
     const auto leerRegistro = opciones.FormatoVariable != 0 ? LeerRegistroVariable : LeerRegistroFijo;

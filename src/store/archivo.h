@@ -93,6 +93,9 @@ void BorrarSerie(int serie);
 // Moves every series with a code down to the first free slots and sets NumSeries to their number.
 void CompactarSeries();
 
+// Values, flags and codes of all series go, and with `etiquetas` the labels of the observations.
+void BorrarTodasLasSeries(bool etiquetas);
+
 // Deletion from the list of series: code, values and flags go, the table is compacted, the editor refreshed.
 void EliminarSerie(int serie);
 

@@ -45,6 +45,7 @@ inline constexpr int AnchoRestriccion = 80; // characters of the text of one
 
 inline constexpr int MaxLineasSalida = 4000;    // lines of TextoSalida
 inline constexpr int AnchoLineaSalida = 100;    // characters of a line
+inline constexpr int MaxDecimales = 6;          // of a number that is shown; DecimalesSalida is at most this
 inline constexpr int AnchoRegistroAscii = 3071; // characters of a record of an ASCII file that are handled
 inline constexpr int MaxCamposFijos = 103;      // rows of the table of the fixed format
 

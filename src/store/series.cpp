@@ -87,6 +87,15 @@ void CompactarSeries() {
     ArchivoTrabajo.NumSeries = static_cast<std::uint16_t>(destino);
 }
 
+void BorrarTodasLasSeries(bool etiquetas) {
+    CabeceraArchivo &a = ArchivoTrabajo;
+    std::memset(a.ValoresObs, 0, sizeof a.ValoresObs);
+    std::memset(a.PresenciaObs, 0, sizeof a.PresenciaObs);
+    for (int s = 0; s < MaxSeries; ++s) BorrarSerie(s);
+    a.NumSeries = 0;
+    for (int i = 0; etiquetas && i < MaxObservaciones; ++i) PonerCampo(a.EtiquetasObs[i], "", AnchoEtiqueta);
+}
+
 void EliminarSerie(int serie) {
     BorrarSerie(serie);
     LimpiarColumna(serie);
