@@ -195,8 +195,7 @@ void EntrarEnSerie(const LugarDeSerie &lugar, std::string_view texto) {
     case LugarValor: {
         // Without a code, or where the work file has no period, nothing is kept, whatever was typed.
         const bool hay = AdmiteValor(lugar.serie, lugar.fila) && CadenaDeCaracter(texto, ' ') == 0;
-        ArchivoTrabajo.ValoresObs[lugar.fila][lugar.serie] = hay ? LeerDecimal(texto) : 0.0;
-        ArchivoTrabajo.PresenciaObs[lugar.fila][lugar.serie] = hay ? 1 : 0;
+        PonerObservacion(lugar.fila, lugar.serie, hay ? LeerDecimal(texto) : 0.0, hay ? 1 : 0);
         break;
     }
     default: break;

@@ -6,7 +6,6 @@
 #include "store/panel.h"
 #include "store/periodos.h"
 
-#include <algorithm>
 #include <cstring>
 
 TablaDeEcuaciones TablaEcuaciones;
@@ -40,15 +39,7 @@ namespace {
 
 // Empties the tables of observations; codes, labels and period texts become blank.
 void VaciarTablas() {
-    CabeceraArchivo &a = ArchivoTrabajo;
-    a.NumSeries = 0;
-    const auto filas =
-        static_cast<std::size_t>(*std::max_element(a.FilasEscritas, a.FilasEscritas + MaxSeries));
-    std::memset(a.ValoresObs, 0, filas * sizeof a.ValoresObs[0]);
-    std::memset(a.PresenciaObs, 0, filas * sizeof a.PresenciaObs[0]);
-    std::memset(a.FilasEscritas, 0, sizeof a.FilasEscritas);
-    for (auto &codigo : a.Codigos) RellenarCadena(codigo, ' ', AnchoCodigo - 1);
-    for (auto &etiqueta : a.EtiquetasObs) RellenarCadena(etiqueta, ' ', AnchoEtiqueta - 1);
+    BorrarTodasLasSeries(true);
     for (int i = 0; i < MaxObservaciones; ++i) PonerTextoPeriodo(i, "");
     TablaEscalares.numero = 0;
     TablaMatrices.numero = 0;

@@ -37,20 +37,6 @@ bool CaracterDeCodigo(char c, bool primero) {
     return std::strchr(":;<=>?@[\\]`", c) == nullptr;
 }
 
-// By rows, as the tables lie in memory: this runs at each step of the editor's bars.
-void LimpiarColumnasSinCodigo() {
-    int blancos[MaxSeries];
-    int n = 0;
-    for (int s = 0; s < MaxSeries; ++s)
-        if (CadenaDeCaracter(ArchivoTrabajo.Codigos[s], ' ') == 1) blancos[n++] = s;
-    for (int i = 0; i < MaxObservaciones; ++i) {
-        for (int k = 0; k < n; ++k) {
-            ArchivoTrabajo.ValoresObs[i][blancos[k]] = 0.0;
-            ArchivoTrabajo.PresenciaObs[i][blancos[k]] = 0;
-        }
-    }
-}
-
 } // namespace
 
 bool EsFuncionSerie(std::string_view palabra) {
@@ -77,7 +63,8 @@ int CodigoValido(std::string_view texto, Codigo codigo) {
 int ValidarCodigosSeries(bool compactar, std::string &textoError) {
     auto &codigos = ArchivoTrabajo.Codigos;
     const auto enBlanco = [&](int s) { return CadenaDeCaracter(codigos[s], ' ') == 1; };
-    LimpiarColumnasSinCodigo();
+    for (int s = 0; s < MaxSeries; ++s)
+        if (enBlanco(s)) LimpiarColumna(s);
     for (int i = 0; i < MaxSeries; ++i) {
         for (int j = i + 1; j < MaxSeries && !enBlanco(i); ++j) {
             if (std::strcmp(codigos[i], codigos[j]) == 0) {

@@ -3,6 +3,7 @@
 #include "store/archivo.h"
 #include "store/codigo_buscado.h"
 
+#include <algorithm>
 #include <cstring>
 
 CabeceraArchivo ArchivoTrabajo;
@@ -89,8 +90,11 @@ void CompactarSeries() {
 
 void BorrarTodasLasSeries(bool etiquetas) {
     CabeceraArchivo &a = ArchivoTrabajo;
-    std::memset(a.ValoresObs, 0, sizeof a.ValoresObs);
-    std::memset(a.PresenciaObs, 0, sizeof a.PresenciaObs);
+    const auto filas =
+        static_cast<std::size_t>(*std::max_element(a.FilasEscritas, a.FilasEscritas + MaxSeries));
+    std::memset(a.ValoresObs, 0, filas * sizeof a.ValoresObs[0]);
+    std::memset(a.PresenciaObs, 0, filas * sizeof a.PresenciaObs[0]);
+    std::memset(a.FilasEscritas, 0, sizeof a.FilasEscritas);
     for (int s = 0; s < MaxSeries; ++s) BorrarSerie(s);
     a.NumSeries = 0;
     for (int i = 0; etiquetas && i < MaxObservaciones; ++i) PonerCampo(a.EtiquetasObs[i], "", AnchoEtiqueta);

@@ -236,8 +236,7 @@ TEST(EditorSeries, UnValorSePierde) {
     AbrirSeries(1, "1990#1991");
     PonerSerie("A", {1, 2, 3});
     PonerCodigoSerie(1, "   ");
-    ArchivoTrabajo.ValoresObs[0][1] = 8;
-    ArchivoTrabajo.PresenciaObs[0][1] = 1;
+    PonerObservacion(0, 1, 8, 1);
     Clic(CeldaEn(1, 1));
     Teclear("<Escape><Enter>");
     EXPECT_FALSE(Presente(0, 0));
