@@ -188,6 +188,11 @@ bool AdmiteValor(int serie, int fila) {
     return TieneCodigo(serie) && !TextoPeriodo(fila).empty();
 }
 
+bool ValidarYCompactar(Ventana *ventana) {
+    std::string texto;
+    return ValidarCodigosSeries(true, texto) != 0 || MensajeCancelado(ventana, texto) != 0;
+}
+
 void EntrarEnSerie(const LugarDeSerie &lugar, std::string_view texto) {
     switch (lugar.clase) {
     case LugarCodigo: PonerCodigoSerie(lugar.serie, texto); break;

@@ -1,6 +1,8 @@
 // The grid on series: which place of the tables a cell stands for, and how what is typed or pasted enters it.
 #pragma once
 
+#include "platform/plataforma.h"
+
 #include <string_view>
 
 enum LugaresDeSerie {
@@ -27,6 +29,10 @@ LugarDeSerie LugarEnRejilla(int columna, int fila);
 
 // True where a value is kept: the slot has a code and the row has a period.
 bool AdmiteValor(int serie, int fila);
+
+// Checks all codes and closes the series up. False after the message of a code that is refused, title "Proceso
+// cancelado".
+bool ValidarYCompactar(Ventana *ventana);
 
 // The one way in, for what is typed and what is pasted. A code or a label is cut to 12 characters, and no test is made of
 // it: a blank code deletes the series at the next check of all codes. A value is what the text begins with as a number;

@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+EstadoIntercambio Intercambio;
+
 namespace {
 
 // A box within the transfer, which has the wait cursor: the arrow while the box is open.
@@ -60,6 +62,35 @@ char PrimerCaracter(std::string_view edicion) {
 }
 
 } // namespace
+
+const char *TituloIntercambio(bool importando) {
+    return importando ? "Importación de Series"_w : "Exportación de Series"_w;
+}
+
+bool ElegirArchivoDeIntercambio(Ventana *ventana) {
+    static constexpr FormatoArchivo Formatos[] = {{"txt", "Archivos de texto (*.TXT)"}};
+    Intercambio.archivo = ArchivoSinElegir;
+    // Which names may be written, and over which files, is the transfer's own question.
+    return ElegirArchivo(ventana,
+                         {.guardar = Intercambio.opciones.Importando == 0,
+                          .titulo = "Seleccionar archivo",
+                          .formatos = Formatos,
+                          .nombre = {},
+                          .nombreLibre = true},
+                         Intercambio.archivo);
+}
+
+void IntercambiarAscii(Ventana *ventana, bool importando) {
+    if (!EmpezarIntercambio(ventana, importando, Intercambio.opciones)) return;
+    Intercambio.archivo = ArchivoSinElegir;
+    Intercambio.decimales = Lote.DecimalesSalida;
+    AbrirDialogo(ventana, Dialogo::Intercambio);
+    if (Intercambio.opciones.Aceptado == 0) {
+        Intercambio.archivo = ArchivoSinElegir;
+        return;
+    }
+    IntercambioAscii(ventana, Intercambio.opciones, Intercambio.archivo, Intercambio.decimales);
+}
 
 bool EmpezarIntercambio(Ventana *ventana, bool importando, OpcionesIntercambio &opciones) {
     if (ArchivoTrabajo.TipoDatos >= SinTipoDatos) {

@@ -31,6 +31,25 @@ struct OpcionesIntercambio {
     int SustituirSeries = 0;       // "Existen Series ¿Desea sustituirlas?" was answered with yes
 };
 
+// What the dialogs of a transfer work on, from the moment the first one opens until the transfer ends.
+struct EstadoIntercambio {
+    OpcionesIntercambio opciones;
+    std::string archivo;
+    int decimales; // copy of DecimalesSalida, which takes it when the transfer begins
+};
+
+extern EstadoIntercambio Intercambio;
+
+// The whole command: what comes before the first dialog, that dialog, and the transfer when it was closed with OK.
+void IntercambiarAscii(Ventana *ventana, bool importando);
+
+// "Importación de Series" or "Exportación de Series", with which the titles of the dialogs begin.
+const char *TituloIntercambio(bool importando);
+
+// "Seleccionar archivo": the name of the file goes back to ArchivoSinElegir, and the user chooses another. False when he
+// cancels, which closes the first dialog too.
+bool ElegirArchivoDeIntercambio(Ventana *ventana);
+
 // Name of a file that was not chosen yet; AjustarNombreArchivo refuses it.
 inline constexpr const char *ArchivoSinElegir = "*.txt";
 

@@ -1,6 +1,7 @@
 // Deletion of an observation, and sorting of observations.
 #include "data/observaciones.h"
 
+#include "data/editor_series.h"
 #include "data/intercambio.h"
 #include "platform/campos_texto.h"
 #include "store/archivo.h"
@@ -81,8 +82,7 @@ bool ConObservacionesLibres() {
 }
 
 bool EmpezarObservaciones(Ventana *ventana) {
-    std::string causa;
-    return ValidarCodigosSeries(true, causa) == 1 || MensajeCancelado(ventana, causa) == 1;
+    return ValidarYCompactar(ventana);
 }
 
 bool EliminarObservacion(Ventana *ventana, int observacion) {

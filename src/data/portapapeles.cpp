@@ -142,8 +142,7 @@ void PegarEnEditor(Ventana *ventana, std::string_view bloque) {
             if (!PegarCampo(columna + j, fila + k, Recortado(campo))) ++sinSitio;
         }
     }
-    RefrescarEditor();
-    NormalizarRotulos();
+    RefrescarRejilla();
     IrACelda(Editor.CeldaActual);
     if (sinSitio > 0)
         MostrarMensaje(

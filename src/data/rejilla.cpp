@@ -31,16 +31,14 @@ void LlevarColumnas(int destino) {
     ValidarAlDesplazar();
     Editor.ColumnaInicial = std::clamp(destino, 0, MaxSeries - RejillaActual().columnasPorPagina());
     Editor.CeldaActual = Editor.CeldaInicial;
-    RefrescarEditor();
-    NormalizarRotulos();
+    RefrescarRejilla();
 }
 
 void LlevarFilas(int destino) {
     ValidarAlDesplazar();
     Editor.FilaInicial = RejillaActual().filasAcotadas() ? std::clamp(destino, 0, UltimaFilaInicial)
                                                          : std::clamp(destino, -FilaSinFin, FilaSinFin);
-    RefrescarEditor();
-    NormalizarRotulos();
+    RefrescarRejilla();
 }
 
 void PasarColumnas(int paginas) {
@@ -299,8 +297,7 @@ void IrACelda(int celda) {
 void PosicionInicial() {
     Editor.FilaInicial = Editor.ColumnaInicial = 0;
     Editor.CeldaInicial = RejillaActual().celdaInicial();
-    RefrescarEditor();
-    NormalizarRotulos();
+    RefrescarRejilla();
     IrACelda(Editor.CeldaInicial);
 }
 
@@ -313,13 +310,20 @@ std::string NumeroCompleto(double valor) {
     return Formatear("%20.10f", valor);
 }
 
+// Normal is what has its full width and no blank in front, unless all of it is blank.
+static void NormalizarRotulo(char *rotulo, int ancho) {
+    const bool entero = std::strlen(rotulo) == static_cast<std::size_t>(ancho - 1);
+    if (entero && (rotulo[0] != ' ' || CadenaDeCaracter(rotulo, ' ') == 1)) return;
+    PonerCampo(rotulo, std::string(Recortado(rotulo)), ancho);
+}
+
 void NormalizarRotulos() {
-    for (auto &codigo : ArchivoTrabajo.Codigos)
-        PonerCampo(codigo, std::string(Recortado(codigo)), AnchoCodigo);
+    for (auto &codigo : ArchivoTrabajo.Codigos) NormalizarRotulo(codigo, AnchoCodigo);
     if (ArchivoTrabajo.ConEtiquetas == 0) return; // nobody sees them
-    for (auto &etiqueta : ArchivoTrabajo.EtiquetasObs) {
-        const bool normal = std::strlen(etiqueta) == AnchoEtiqueta - 1 &&
-                            (etiqueta[0] != ' ' || CadenaDeCaracter(etiqueta, ' ') == 1);
-        if (!normal) PonerCampo(etiqueta, std::string(Recortado(etiqueta)), AnchoEtiqueta);
-    }
+    for (auto &etiqueta : ArchivoTrabajo.EtiquetasObs) NormalizarRotulo(etiqueta, AnchoEtiqueta);
+}
+
+void RefrescarRejilla() {
+    NormalizarRotulos();
+    RefrescarEditor();
 }

@@ -164,3 +164,6 @@ std::string NumeroCompleto(double valor);
 // What RefrescarEditor does to the tables: every label and code is left without blanks in front, padded. The window
 // paints itself from the tables, so nothing is copied.
 void NormalizarRotulos();
+
+// The same, and the window paints anew if there is one.
+void RefrescarRejilla();

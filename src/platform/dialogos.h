@@ -12,8 +12,12 @@ enum class Dialogo {
     Lista, // modo: ListasDeElementos
     UltimaRegresion,
     NoEnsamblada,
-    Ayuda, // modo: id of the page
-    Total  // not a dialog: how many there are
+    Ayuda,     // modo: id of the page
+    Decimales, // of DecimalesSalida
+    Seleccion, // modo: ModosSeleccion
+    Intercambio,
+    OrdenarSeries,
+    Total // not a dialog: how many there are
 };
 
 // What a dialog is handed beside its window. A dialog that needs more adds a field of its type, with a default.
@@ -27,7 +31,7 @@ void AbrirDialogo(Ventana *ventana, Dialogo cual, const DatosDialogo &datos = {}
 // The pages of the manual that a dialog or a window opens by its "Ayuda", and two that have a form of their own.
 inline constexpr int PaginaMuestra = 1114; // sample dialog, data type dialog
 inline constexpr int PaginaNoEnsamblada = 1125;
-inline constexpr int PaginaEdicion = 1126; // this and the next two by windows that are not built yet
+inline constexpr int PaginaEdicion = 1126; // editor
 inline constexpr int PaginaAscii = 1141;
 inline constexpr int PaginaPanel = 1144;
 inline constexpr int PaginaAcerca = 1198;

@@ -36,6 +36,8 @@ struct PeticionArchivo {
     std::string_view titulo;
     std::span<const FormatoArchivo> formatos; // the first is the one chosen at the start
     std::string_view nombre;                  // suggested
+    // Whoever asks looks at the name: one with another ending keeps it, and no question is put before a file is replaced.
+    bool nombreLibre = false;
 };
 
 // What a program doesn't give is null, and does nothing: no text, no selection, no file, second 0. A box it always gives.

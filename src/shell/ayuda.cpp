@@ -55,9 +55,6 @@ struct EnlaceAyuda {
     int origen, pagina;
 };
 
-constexpr EnlaceAyuda ComandosEditor[] = {{ComandoAcerca, PaginaEdicion},
-                                          {ComandoEditorSinEnsamblar, PaginaNoEnsamblada}};
-
 constexpr EnlaceAyuda BotonesSiguiente[] = {
     {5015, 1130}, {5018, 1129}, {5033, 1131}, {5034, 1132}, {5035, 1128}, {5058, 1127}, {5065, 1133},
     {5068, 1134}, {5070, 1135}, {5071, 1136}, {5072, 1137}, {5073, 1217}, {5074, 1138}, {5075, 1218},
@@ -98,10 +95,6 @@ int PaginaDeComando(int comando) {
     for (const PaginaManual &p : Paginas)
         if (p.comando != 0 && p.comando == comando) return p.id;
     return 0;
-}
-
-int PaginaDeComandoEditor(int comando) {
-    return Enlazada(ComandosEditor, comando);
 }
 
 int PaginaDeBoton(int boton) {

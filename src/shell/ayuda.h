@@ -33,9 +33,6 @@ const PaginaManual *BuscarPagina(int id);
 // Id of the page that a command of the main window opens, 0 when it opens none.
 int PaginaDeComando(int comando);
 
-// The same for the commands of the editor window, where "Ayuda" bears the id that "Acerca de" has elsewhere.
-int PaginaDeComandoEditor(int comando);
-
 // Id of the page that a "Siguiente" button opens, 0 for any other id. Button 5072 leads to a page that doesn't exist.
 int PaginaDeBoton(int boton);
 

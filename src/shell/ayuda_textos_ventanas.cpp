@@ -20,6 +20,7 @@ const LineaAyuda TextoEdicion[] = {
     {T, "Borrar una serie: Borre únicamente su código"_w},
     {T, "En una serie no se pueden entrar datos, si previamente no se ha escrito su"_w},
     {T, "código. Un campo en blanco es un dato missing."_w},
+    {T, "Ctrl+C copia las series de la muestra; Ctrl+V pega un bloque de una hoja."_w},
     {T, ""_w},
     {T, "Una matriz existe cuando se guarda con \"Salvar matriz\", después de escribir su"_w},
     {T, "código y pulsar Enter. Las matrices deben tener el mismo número de datos en"_w},

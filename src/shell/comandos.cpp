@@ -2,6 +2,8 @@
 #include "shell/comandos.h"
 
 #include "charts/resultados/listados.h"
+#include "data/intercambio.h"
+#include "data/rejilla.h"
 #include "language/palabras.h"
 #include "platform/campos_texto.h"
 #include "shell/ayuda.h"
@@ -57,6 +59,20 @@ void ImprimirTexto(Ventana *ventana, int) {
     ImprimirSeleccion(ventana, Escritorio->pantallaEdicion(ventana));
 }
 
+template <ModosDeEditor modo> void Editar(Ventana *ventana, int) {
+    AbrirEditor(modo);
+    Escritorio->mostrarEditor(ventana);
+}
+
+void Exportar(Ventana *ventana, int) {
+    IntercambiarAscii(ventana, false);
+}
+
+void Importar(Ventana *ventana, int) {
+    IntercambiarAscii(ventana, true);
+    RefrescarEditor();
+}
+
 void VerAyuda(Ventana *ventana, int id) {
     AbrirDialogo(ventana, Dialogo::Ayuda, {PaginaDeComando(id)});
 }
@@ -89,8 +105,9 @@ const Comando TablaComandos[] = {
     {ComandoCopiar, Edicion, "C&opiar", false, nullptr, Copiar},
     {ComandoPegar, Edicion, "&Pegar", false, nullptr, Pegar},
     {ComandoTipoDatos, Datos, "&Tipo de datos ...", false, nullptr, ElegirTipo},
-    {ComandoEditorSeries, Datos, "&Editor de series...", true, SinTipoSingular, nullptr},
-    {ComandoEditorMatrices, Datos, "Editor de &matrices...", false, SinTipoSingular, nullptr},
+    {ComandoEditorSeries, Datos, "&Editor de series...", true, SinTipoSingular, Editar<EditorDeSeries>},
+    {ComandoEditorMatrices, Datos, "Editor de &matrices...", false, SinTipoSingular,
+     Editar<EditorDeMatrices>},
     {ComandoRelacionSeries, Datos, "&Relación de series..."_w, true, nullptr,
      Abre<Dialogo::Lista, ListaSeries>},
     {ComandoRelacionMatrices, Datos, "Relación &de matrices..."_w, true, nullptr,
@@ -126,8 +143,8 @@ const Comando TablaComandos[] = {
      SinTipoSingular, nullptr},
     {ComandoNormalidad, Contrastes, "Contraste de &normalidad...", true, SinTipoSingular, nullptr},
     {ComandoSinEnsamblar, Contrastes, "&Otros contrastes", false, nullptr, NoEstaEnsamblada},
-    {ComandoExportar, Util, "&Exportar a ASCII...", true, SinTipo, nullptr},
-    {ComandoImportar, Util, "I&mportar de ASCII...", true, SinTipo, nullptr},
+    {ComandoExportar, Util, "&Exportar a ASCII...", true, SinTipo, Exportar},
+    {ComandoImportar, Util, "I&mportar de ASCII...", true, SinTipo, Importar},
     {ComandoSinEnsamblar, Util, "&Combinar archivos", false, nullptr, NoEstaEnsamblada},
     {ComandoImprimirSeleccion, Util, "&Imprimir selección"_w, false, nullptr, ImprimirTexto},
     {ComandoAbrirSentencias, Util, "&Abrir fichero sentencias...", false, nullptr, nullptr},

@@ -10,7 +10,8 @@ enum AccionesDeEdicion { EditarDeshacer, EditarCortar, EditarCopiar, EditarPegar
 struct OperacionesEscritorio {
     ControlTexto *(*pantallaEdicion)(Ventana *ventana);
     void (*editar)(Ventana *ventana, AccionesDeEdicion accion);
-    void (*destruir)(Ventana *ventana); // ends the program's message loop
+    void (*mostrarEditor)(Ventana *ventana); // in place of the statements, until it is left
+    void (*destruir)(Ventana *ventana);      // ends the program's message loop
 };
 
 void InstalarEscritorio(const OperacionesEscritorio &operaciones);

@@ -15,7 +15,7 @@ enum IdsDeComando {
     ComandoPrediccion = 2036,
     ComandoMuestra = 2038,
     ComandoDescriptivos = 2039,
-    ComandoAcerca = 2046, // in the editor its "Ayuda"
+    ComandoAcerca = 2046,
     ComandoDeshacer = 2047,
     ComandoCortar = 2048,
     ComandoCopiar = 2049,
@@ -36,7 +36,6 @@ enum IdsDeComando {
     ComandoExportar = 2071,
     ComandoImportar = 2072,
     ComandoAutocorrelacion = 2073,
-    ComandoEditorSinEnsamblar = 2074, // of the editor alone
     ComandoModeloRestringido = 2075,
     ComandoGoldfeldQuandt = 2078,
     ComandoRangos = 2079,

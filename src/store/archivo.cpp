@@ -6,6 +6,7 @@
 #include "store/panel.h"
 #include "store/periodos.h"
 
+#include <algorithm>
 #include <cstring>
 
 TablaDeEcuaciones TablaEcuaciones;

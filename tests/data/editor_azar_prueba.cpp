@@ -85,7 +85,7 @@ void Golpear(unsigned semilla, int veces, bool filasAcotadas) {
 // TABIRA_AZAR asks for another number of strokes in each run.
 TEST(EditorAlAzar, Aguanta) {
     const char *pedido = std::getenv("TABIRA_AZAR");
-    const int veces = pedido != nullptr ? std::atoi(pedido) : 1500;
+    const int veces = pedido != nullptr ? std::atoi(pedido) : 4000;
     for (const bool etiquetas : {false, true}) {
         AbrirSeries(1, "1990#2015", etiquetas);
         Golpear(etiquetas ? 1u : 2u, veces, true);

@@ -34,8 +34,8 @@ constexpr EntradaEsperada Entradas[] = {
     {2049, "Edición", "C&opiar"},
     {2050, "Edición", "&Pegar"},
     {2020, "Datos", "&Tipo de datos ..."},
-    {2035, "Datos", "&Editor de series...", Singular, true},
-    {2054, "Datos", "Editor de &matrices...", Singular, true},
+    {2035, "Datos", "&Editor de series...", Singular},
+    {2054, "Datos", "Editor de &matrices...", Singular},
     {2065, "Datos", "&Relación de series..."},
     {2064, "Datos", "Relación &de matrices..."},
     {2066, "Datos", "Re&lación de escalares..."},
@@ -63,8 +63,8 @@ constexpr EntradaEsperada Entradas[] = {
     {2093, Autocorrelacion, "Función de autocorrelación parcial...", Singular, true},
     {2087, "Contrastes", "Contraste de &normalidad...", Singular, true},
     {2002, "Contrastes", "&Otros contrastes", nullptr, true},
-    {2071, "Util.", "&Exportar a ASCII...", Plural, true},
-    {2072, "Util.", "I&mportar de ASCII...", Plural, true},
+    {2071, "Util.", "&Exportar a ASCII...", Plural},
+    {2072, "Util.", "I&mportar de ASCII...", Plural},
     {2002, "Util.", "&Combinar archivos", nullptr, true},
     {2088, "Util.", "&Imprimir selección"},
     {2092, "Util.", "&Abrir fichero sentencias...", nullptr, true},
@@ -199,9 +199,8 @@ TEST_F(Ordenes, RefrescanLaMuestra) {
         {2066, "Relación de escalares", true}, {2085, "Muestra actual", true},
         {2086, "Última regresión", true},      {2038, "Acotación de la muestra a utilizar", false},
         {2013, "Opción del menú", true},       {2036, "Opción del menú", false},
-        {2012, "Opción del menú", false},      {2035, "Opción del menú", true},
-        {2054, "Opción del menú", false},      {2004, "Opción del menú", true},
-        {2071, "Opción del menú", true},       {2087, "Opción del menú", true},
+        {2012, "Opción del menú", false},      {2004, "Opción del menú", true},
+        {2071, "Exportación de Series", true}, {2087, "Opción del menú", true},
         {2039, "Opción del menú", true},       {2007, "Opción del menú", true},
         {2073, "Opción del menú", true},       {2080, "Opción del menú", false},
     };
@@ -213,5 +212,12 @@ TEST_F(Ordenes, RefrescanLaMuestra) {
         ConGuion({ConEscape(c.titulo)}, [&] { Ordenar(c.id); });
         EXPECT_EQ(Muestra.InicioMuestra, c.refresca ? 2 : 9);
         EXPECT_EQ(Muestra.FinMuestra, c.refresca ? 4 : 9);
+    }
+    // The editor's window is no dialog.
+    for (const int id : {2035, 2054}) {
+        Muestra.InicioMuestra = Muestra.FinMuestra = 9;
+        ConGuion({}, [&] { Ordenar(id); });
+        EXPECT_EQ(Muestra.InicioMuestra, id == 2035 ? 2 : 9);
+        EXPECT_EQ(Muestra.FinMuestra, id == 2035 ? 4 : 9);
     }
 }

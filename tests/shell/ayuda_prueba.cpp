@@ -1,7 +1,9 @@
 // The help pages: their table, their texts, their buttons and the walk through a chain.
 #include "apoyo/plataforma_prueba.h"
+#include "data/comandos_editor.h"
 #include "platform/texto.h"
 #include "shell/ayuda.h"
+#include "store/archivo.h"
 
 #include <gtest/gtest.h>
 
@@ -113,9 +115,14 @@ TEST(Ayuda, BotonesSiguiente) {
 TEST(Ayuda, Comandos) {
     for (const int comando : {0, 1, 2001, 2002, 2003, 2006, 2010, 2074, 2103})
         EXPECT_EQ(PaginaDeComando(comando), 0) << comando;
-    EXPECT_EQ(PaginaDeComandoEditor(2046), 1126);
-    EXPECT_EQ(PaginaDeComandoEditor(2074), 1125);
-    EXPECT_EQ(PaginaDeComandoEditor(2067), 0);
+    // In the editor's window the same ids mean something else.
+    EmpezarConDatos(TipoSinPeriodicidad, "");
+    AbrirEditor(EditorDeSeries);
+    for (const int comando : {2046, 2074, 2067}) EjecutarComandoEditor(nullptr, comando);
+    ASSERT_EQ(Prueba.dialogos.size(), 2u);
+    EXPECT_EQ(Prueba.dialogos[0].cual, Dialogo::Ayuda);
+    EXPECT_EQ(Prueba.dialogos[0].datos.modo, 1126);
+    EXPECT_EQ(Prueba.dialogos[1].cual, Dialogo::NoEnsamblada);
 }
 
 TEST(Ayuda, MismoTextoEnDosPaginas) {

@@ -1,5 +1,6 @@
 // The table of commands and the closing of the program, without a window.
 #include "apoyo/plataforma_prueba.h"
+#include "data/rejilla.h"
 #include "platform/texto.h"
 #include "shell/comandos.h"
 #include "shell/listas.h"
@@ -28,6 +29,7 @@ const OperacionesEscritorio Anotadas = {
         return nullptr;
     },
     .editar = [](Ventana *, AccionesDeEdicion a) { Pedido.push_back("editar " + std::to_string(a)); },
+    .mostrarEditor = [](Ventana *) { Pedido.push_back("editor " + std::to_string(Editor.ModoEditor)); },
     .destruir = [](Ventana *) { Anotar("destruir"); },
 };
 
@@ -46,6 +48,7 @@ void Ordenar(int id) {
     anotada.abrirDialogo = [](Ventana *, Dialogo cual, const DatosDialogo &d) {
         Pedido.push_back(Abre(cual, d.modo));
     };
+    anotada.refrescarEditor = [] { Anotar("refresco"); };
     InstalarPlataforma(anotada);
     EjecutarComando(nullptr, id);
 }
@@ -129,6 +132,10 @@ TEST(Comandos, LoQuePidenAlEscritorio) {
         {2085, {Abre(Dialogo::MuestraActual)}},
         {2038, {Abre(Dialogo::Muestra)}},
         {2006, {"pantalla"}},
+        {2035, {"editor 0"}},
+        {2054, {"editor 1"}},
+        {2071, {Abre(Dialogo::Intercambio)}},
+        {2072, {Abre(Dialogo::Intercambio), "refresco"}},
         {2086, {Abre(Dialogo::UltimaRegresion)}},
         {2001, {Abre(Dialogo::NoEnsamblada)}},
         {2002, {Abre(Dialogo::NoEnsamblada)}},

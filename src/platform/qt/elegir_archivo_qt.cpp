@@ -40,11 +40,13 @@ bool ElegirArchivoQt(Ventana *ventana, const PeticionArchivo &peticion, std::str
         QString elegida = dialogo.selectedFiles().constFirst();
         if (peticion.guardar) {
             const auto filtro = std::max(filtros.indexOf(dialogo.selectedNameFilter()), qsizetype{0});
-            elegida = ConTerminacion(elegida, peticion.formatos, filtro);
+            if (!peticion.nombreLibre || QFileInfo(elegida).suffix().isEmpty())
+                elegida = ConTerminacion(elegida, peticion.formatos, filtro);
             const std::string yaExiste =
                 De1252Q(QFileInfo(elegida).fileName()) + " ya existe. ¿Desea reemplazarlo?"_w;
-            if (QFileInfo::exists(elegida) && MostrarCaja(AVentana(&dialogo), yaExiste, peticion.titulo,
-                                                          IconoPregunta, BotonesSiNo) != RespuestaSi)
+            if (!peticion.nombreLibre && QFileInfo::exists(elegida) &&
+                MostrarCaja(AVentana(&dialogo), yaExiste, peticion.titulo, IconoPregunta, BotonesSiNo) !=
+                    RespuestaSi)
                 continue;
         }
         ruta = elegida.toStdString();

@@ -76,6 +76,7 @@ void InstalarPlataformaQt(const VentanasQt &ventanas) {
     };
     Operaciones.mostrarResultado = ventanas.mostrarResultado;
     Operaciones.mostrarGrafico = ventanas.mostrarGrafico;
+    Operaciones.refrescarEditor = ventanas.refrescarEditor;
     Dialogos = ventanas.dialogos;
     InstalarPlataforma(Operaciones);
 }

@@ -16,6 +16,7 @@ struct VentanasQt {
     decltype(OperacionesPlataforma::mostrarResultado) mostrarResultado;
     decltype(OperacionesPlataforma::mostrarGrafico) mostrarGrafico;
     std::span<const FilaDeDialogo> dialogos;
+    decltype(OperacionesPlataforma::refrescarEditor) refrescarEditor;
 };
 
 // Installs the desktop's operations. After the QApplication exists; `ventanas.dialogos` must outlive their use.

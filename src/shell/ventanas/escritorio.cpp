@@ -1,13 +1,26 @@
 // The desktop: its windows, its printer, and every dialog of the program.
 #include "shell/ventanas/escritorio.h"
 
+#include "charts/resultados/ventanas/dialogo_seleccion.h"
 #include "charts/resultados/ventanas/ventana_resultado_qt.h"
+#include "data/ventanas/dialogos_datos.h"
+#include "data/ventanas/ventana_editor.h"
+#include "language/lote_sentencias.h"
+#include "platform/qt/dialogo_decimales.h"
 #include "platform/qt/impresora_qt.h"
 #include "shell/ventanas/dialogos.h"
 #include "shell/ventanas/ventana_principal.h"
 #include "store/ventanas/dialogo_tipo_datos.h"
 
 namespace {
+
+void DialogoDecimalesDeSalida(Ventana *ventana, const DatosDialogo &) {
+    DialogoDecimales(Lote.DecimalesSalida, ventana);
+}
+
+void DialogoDeSeleccion(Ventana *ventana, const DatosDialogo &datos) {
+    DialogoSeleccion(ventana, static_cast<ModosSeleccion>(datos.modo));
+}
 
 constexpr FilaDeDialogo Dialogos[] = {
     {Dialogo::TipoDatos, ElegirTipoDatos},
@@ -17,6 +30,10 @@ constexpr FilaDeDialogo Dialogos[] = {
     {Dialogo::UltimaRegresion, DialogoUltimaRegresion},
     {Dialogo::NoEnsamblada, DialogoNoEnsamblada},
     {Dialogo::Ayuda, DialogoAyuda},
+    {Dialogo::Decimales, DialogoDecimalesDeSalida},
+    {Dialogo::Seleccion, DialogoDeSeleccion},
+    {Dialogo::Intercambio, DialogoIntercambio},
+    {Dialogo::OrdenarSeries, DialogoOrdenarSeries},
 };
 
 // No routine draws a chart yet.
@@ -31,7 +48,7 @@ std::span<const FilaDeDialogo> TablaDeDialogos() {
 }
 
 void InstalarVentanas() {
-    InstalarPlataformaQt({MostrarResultadoQt, MostrarGraficoQt, Dialogos});
+    InstalarPlataformaQt({MostrarResultadoQt, MostrarGraficoQt, Dialogos, RefrescarEditorQt});
 }
 
 void PrepararEscritorio() {

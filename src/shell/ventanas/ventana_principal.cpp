@@ -1,6 +1,7 @@
 // The main window.
 #include "shell/ventanas/ventana_principal.h"
 
+#include "data/ventanas/ventana_editor.h"
 #include "platform/qt/superficie_qt.h"
 #include "platform/qt/texto_qt.h"
 #include "platform/qt/ventana_qt.h"
@@ -65,13 +66,9 @@ void EsperarDeLaPortada() {
 } // namespace
 
 VentanaPrincipal::VentanaPrincipal()
-    : EditorDatos(new QWidget(this, Qt::Window)), PantallaEdicion(new ControlDeSentencias(this)) {
+    : EditorDatos(new VentanaEditor(this)), PantallaEdicion(new ControlDeSentencias(this)) {
     setObjectName(QStringLiteral("MiClaseVentana"));
     setWindowTitle(QStringLiteral("Tabira"));
-    EditorDatos->setObjectName(QStringLiteral("EditorDatos"));
-    EditorDatos->setWindowTitle(QStringLiteral("Editor de Series/Matrices"));
-    EditorDatos->setPalette(QPalette(Qt::lightGray));
-    EditorDatos->resize(640, 450);
     PantallaEdicion->setObjectName(QStringLiteral("PantallaEdicion"));
     PantallaEdicion->setAccessibleName(QStringLiteral("Pantalla de edición"));
     PantallaEdicion->setFont(FuenteFijaDePantalla());
@@ -149,8 +146,19 @@ void InstalarOperacionesEscritorio() {
                 case EditarPegar: p->paste(); break;
                 }
             },
+        .mostrarEditor =
+            [](Ventana *v) {
+                VentanaPrincipal *w = Principal(v);
+                w->PantallaEdicion->hide();
+                w->EditorDatos->Mostrar([w] {
+                    w->PantallaEdicion->show();
+                    w->activateWindow();
+                    w->PantallaEdicion->setFocus();
+                });
+            },
         .destruir =
             [](Ventana *v) {
+                Principal(v)->EditorDatos->hide(); // it would hold the program open until it is left
                 Principal(v)->Destruida = true;
                 Principal(v)->close();
                 QCoreApplication::quit();

@@ -6,12 +6,14 @@
 
 #include "platform/plataforma.h"
 
+class VentanaEditor;
+
 class VentanaPrincipal : public QMainWindow {
     Q_OBJECT
 public:
     VentanaPrincipal();
 
-    QWidget *EditorDatos; // the window of the series and the matrices; hidden until it has its grid
+    VentanaEditor *EditorDatos; // of the series and the matrices; hidden but while one of them is edited
     QPlainTextEdit *PantallaEdicion;
     bool Destruida = false; // the closing sequence ended: the window goes without asking again
 
