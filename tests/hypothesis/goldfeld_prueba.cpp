@@ -185,6 +185,10 @@ TEST_P(Goldfeld, Estadistico) {
     });
     EXPECT_FALSE(Procesar(c.texto)); // the batch stops behind it
     EXPECT_EQ(Lote.NingunaSentenciaHecha, 1);
+    EXPECT_EQ(TextosDeCajas(), Textos{});
+    ASSERT_EQ(Prueba.resultados.size(), 1u);
+    EXPECT_EQ(Prueba.resultados[0].clase, OrdenMGD);
+    EXPECT_EQ(Prueba.resultados[0].titulo, "Contrastes de heteroscedasticidad: Goldfeld y Quandt");
     EXPECT_NEAR(scrDenominador, static_cast<double>(denominador), 1e-9 * static_cast<double>(denominador));
     EXPECT_NEAR(scrNumerador, static_cast<double>(numerador), 1e-9 * static_cast<double>(numerador));
     const int k = UltimaRegresion.NumRegresores;
@@ -205,6 +209,36 @@ TEST_P(Goldfeld, Estadistico) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Contraste, Goldfeld, testing::ValuesIn(Correctos));
+
+// The report divides the sums by the sizes, not by the degrees of freedom, and shows those of the denominator first.
+TEST(GoldfeldQuandt, ElInformeDividePorLasObservaciones) {
+    EmpezarGoldfeld();
+    const std::vector<int> filas = FilasOrdenadas(ValoresDe("O", 20), 0, 19);
+    const double denominador = static_cast<double>(ScrDeFilas(filas, 0, 0, 6));
+    const double numerador = static_cast<double>(ScrDeFilas(filas, 0, 11, 19));
+    double p = NAN;
+    MirarAlMostrar([&] { p = EscalarDe("_ESTFG"); });
+    Procesar("CGQ (O) 1 7 12 20");
+    ASSERT_EQ(Prueba.resultados.size(), 1u);
+    const std::vector<std::pair<int, std::string>> lineas = {
+        {1,
+         Utf8De1252(Formatear("SCR denominador : %10.4f      Número de observaciones:    7"_w, denominador))},
+        {1,
+         Utf8De1252(Formatear("SCR numerador   : %10.4f      Número de observaciones:    9"_w, numerador))},
+        {1, "Variable de ordenación : O"},
+        {2, Utf8De1252(Formatear("Estadístico F(  4,  6):%10.4f  Prob > F             :%10.4f"_w,
+                                 (numerador / 9) / (denominador / 7), p))},
+    };
+    EXPECT_EQ(Prueba.resultados[0].lineas, lineas);
+}
+
+TEST(GoldfeldQuandt, TrasMCPNoSeMuestra) {
+    EmpezarGoldfeld("MCP (1) Y 1 X");
+    EXPECT_FALSE(Procesar("CGQ (O) 1 10 11 20"));
+    EXPECT_EQ(TextosDeCajas(), Textos{"Utilice MC ordinarios"});
+    EXPECT_TRUE(Prueba.resultados.empty());
+    EXPECT_EQ(TemporalesQueQuedan(), Textos{});
+}
 
 // Until the next MC.
 TEST(GoldfeldQuandt, DosVecesSeguidas) {

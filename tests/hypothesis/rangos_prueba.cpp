@@ -171,8 +171,7 @@ TEST(Rangos, SuInforme) {
 }
 
 TEST(Rangos, TrasMCPNoSeMuestra) {
-    EmpezarRangos();
-    UltimaRegresion.MetodoRegresion = OrdenMCP;
+    EmpezarRangos("MCP (1) Y 1 X");
     EXPECT_TRUE(Procesar("CRA O"));
     EXPECT_EQ(TextosDeCajas(), Textos{"Utilice MC ordinarios"});
     EXPECT_TRUE(Prueba.resultados.empty());
