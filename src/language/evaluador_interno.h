@@ -30,7 +30,7 @@ inline FilasEvaluacion FilasDeEvaluacion() {
 }
 
 // The rows of the sample, in which periods are looked up, computed or not.
-inline FilasEvaluacion FilasDeMuestra() {
+inline FilasEvaluacion FilasDePeriodos() {
     return {std::max(Evaluador.PrimeraEval, 0), std::min(Evaluador.UltimaEval, MaxObservaciones - 1)};
 }
 

@@ -66,7 +66,7 @@ void DesplazarSerie(ColumnaPila &c, int serie, int retardo) {
 // First row of the sample whose period has this number, or -1. A text of a period that equals the text of the formula
 // has the same number, so comparing the numbers alone finds the first row where either is equal.
 int FilaDePeriodo(double periodo) {
-    const FilasEvaluacion f = FilasDeMuestra();
+    const FilasEvaluacion f = FilasDePeriodos();
     return FilaDeValorPeriodo(periodo, f.desde, f.hasta);
 }
 
