@@ -1,5 +1,6 @@
 // What the program costs, as ratios in one run: regressions against Eigen and against their formulas one by one, series
 // formulas against a loop by hand, statements split into text, columns and store, and the batch runner as a process.
+#include "analysis/prediccion.h"
 #include "apoyo/cadena_formulas.h"
 #include "apoyo/plataforma_prueba.h"
 #include "hypothesis/dialogo_goldfeld.h"
@@ -109,6 +110,15 @@ void RegresionPorFormulas(benchmark::State &estado) {
         AbrirPilaColumnas();
         if (!EstimarPorFormulas("Y", columnas, NumColumnas - 1)) std::exit(1);
         CerrarPilaColumnas();
+    }
+}
+
+void PrediccionTabira(benchmark::State &estado) {
+    PrepararSeries(MaxObservaciones);
+    Ejecutar("MC Y 1 X1 X2 X3 X4 X5 X6 X7 X8 X9");
+    for (auto _ : estado) {
+        if (AceptarPrediccion(nullptr, {}) == 0) std::exit(1);
+        Prueba.resultados.clear();
     }
 }
 
@@ -337,6 +347,7 @@ int main(int numArgumentos, char **argumentos) {
     registrar("White", White, benchmark::kMicrosecond);
     registrar("RegresionEigen", RegresionEigen, benchmark::kMicrosecond);
     registrar("RegresionPorFormulas", RegresionPorFormulas, benchmark::kMillisecond);
+    registrar("PrediccionTabira", PrediccionTabira, benchmark::kMicrosecond);
     registrar("SerieTabira", SerieTabira, benchmark::kMicrosecond);
     registrar("SerieAMano", SerieAMano, benchmark::kMicrosecond);
     registrar("Bucle", Bucle, benchmark::kMillisecond);
@@ -370,6 +381,8 @@ int main(int numArgumentos, char **argumentos) {
     Razon("MC (CA 4) / MC", t("RegresionAutocorrelacion") / t("RegresionTabira"), "times", "at most 8");
     Razon("CWH PC on a constant and 3 series / that MC", t("White") / t("RegresionTabira"), "times",
           "at most 12");
+    Razon("Prediction and evaluation over 4,000 rows / MC", t("PrediccionTabira") / t("RegresionTabira"),
+          "times", "at most 5");
     Razon("SER of ten operands, 4,000 rows / the loop by hand", t("SerieTabira") / t("SerieAMano"), "times",
           "at most 8");
     Razon("A statement of a loop over 100 observations", sentencia / 1e3, "us", "");

@@ -99,5 +99,7 @@ void MostrarPrediccion(Ventana *ventana) {
     salida.titulo = "Predicción y evaluación de la capacidad predictiva"_w;
     salida.lineas = &lineas;
     salida.tabla = tabla;
+    // The diagram compares rates or increments.
+    if (Prediccion.modoEvaluacion != EvaluarOriginales) salida.graficos = NoEnsamblada;
     MostrarVentanaResultado(ventana, salida);
 }

@@ -28,7 +28,7 @@ struct MedidasPrediccion {
     double sesgo, varianza, aleatorio; // the parts of ECM; they add up to 1
 };
 
-// What is 0 where it can't be divided leaves the random part 1. (H. Theil 1966, Applied Economic Forecasting, ch. 2.)
+// What can't be divided is 0, and the random part the rest of 1. (H. Theil 1966, Applied Economic Forecasting, ch. 2.)
 MedidasPrediccion MedirPrediccion(std::span<const double> p, std::span<const double> a);
 
 // The last prediction: what its window and its diagram show.

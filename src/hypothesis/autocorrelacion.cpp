@@ -145,6 +145,7 @@ void Mostrar(Ventana *ventana) {
     salida.titulo = TituloAutocorrelacion(Autocorrelacion.funcion);
     salida.lineas = &lineas;
     salida.tabla = tabla;
+    salida.graficos = NoEnsamblada;
     MostrarVentanaResultado(ventana, salida);
 }
 

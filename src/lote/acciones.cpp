@@ -5,6 +5,7 @@
 #include "estimation/listados_regresion.h"
 #include "estimation/regresion.h"
 #include "language/lote_sentencias.h"
+#include "lote/acciones_analisis.h"
 #include "lote/corrida.h"
 #include "lote/impresora.h"
 #include "lote/sucesos.h"
@@ -111,6 +112,18 @@ bool LeerListado(const std::string &valor, Accion &accion) {
     if (dosPuntos == std::string::npos) return false;
     accion.elemento = Texto1252DeUtf8(std::string_view(valor).substr(dosPuntos + 1));
     return Elegir(NombresListado, std::string_view(valor).substr(0, dosPuntos), accion.numero);
+}
+
+template <bool parcial> bool LeerFuncion(const std::string &valor, Accion &) {
+    return SeLeeAutocorrelacion(valor, parcial);
+}
+
+bool LeerPrediccion(const std::string &valor, Accion &) {
+    return SeLeePrediccion(valor);
+}
+
+bool LeerTransformacion(const std::string &valor, Accion &) {
+    return SeLeeTransformacion(valor);
 }
 
 bool LeerRuta(const std::string &valor, Accion &) {
@@ -239,6 +252,24 @@ bool HacerListado(const Accion &accion) {
     return ImprimirElegidas(seleccion, Lote.DecimalesSalida, nullptr) == 0 && bien;
 }
 
+// What the dialogs of the tests and of the analysis do. Each has the guard of its command.
+template <auto Rutina> bool ConTipoDeDatos(const Accion &accion) {
+    if (!HayTipoDeDatos("Tipo de datos no válido"_w)) return false;
+    ActualizarMuestra();
+    return Rutina(accion.valor);
+}
+
+bool HacerEstadisticos(const Accion &accion) {
+    if (!HayTipoDeDatos()) return false;
+    ActualizarMuestra();
+    return EjecutarDescriptivos(accion.valor);
+}
+
+bool HacerTransformar(const Accion &accion) {
+    ActualizarMuestra();
+    return EjecutarTransformacion(accion.valor);
+}
+
 bool HacerImprimir(const Accion &accion) {
     ElegirDocumento(accion.valor);
     return true;
@@ -288,16 +319,20 @@ constexpr FilaDeAccion TablaAcciones[] = {
      "imprime también cada ventana de resultados"},
     {"--listado", "series:X,Y|matrices:A,B", LeerListado, HacerListado,
      "imprime series o matrices; covarianza, valores, varianza: de la regresión"},
+    {"--estadisticos", "X,Y,...", LeerTexto, HacerEstadisticos, "medidas descriptivas y correlaciones"},
+    {"--normalidad", "X", LeerTexto, ConTipoDeDatos<EjecutarNormalidad>, "contraste de normalidad"},
+    {"--fac", "X:N[:BANDA]", LeerFuncion<false>, ConTipoDeDatos<EjecutarFac>,
+     "función de autocorrelación; BANDA: uniforme, arma o sin"},
+    {"--facp", "X:N[:BANDA]", LeerFuncion<true>, ConTipoDeDatos<EjecutarFacp>,
+     "función de autocorrelación parcial"},
+    {"--prediccion", "INICIO:FIN[:MODO[:P:M:I]]", LeerPrediccion, ConTipoDeDatos<EjecutarPrediccion>,
+     "predicción y evaluación; MODO: originales, tasas, incrementos"},
+    {"--transformar", "X:DESTINO:OP=N,...", LeerTransformacion, HacerTransformar,
+     "transforma X; OP: boxcox, estacional, regular"},
     {"--volcado", nullptr, nullptr, HacerVolcado, "muestra el contenido del archivo de trabajo"},
     {"--abrir", "ARCHIVO", nullptr, nullptr, nullptr},
     {"--guardar", "ARCHIVO", nullptr, nullptr, nullptr},
     {"--ecuacion", "CODIGO=TEXTO", nullptr, nullptr, nullptr},
-    {"--estadisticos", "X,Y,...", nullptr, nullptr, nullptr},
-    {"--normalidad", "X", nullptr, nullptr, nullptr},
-    {"--fac", "X:N", nullptr, nullptr, nullptr},
-    {"--facp", "X:N", nullptr, nullptr, nullptr},
-    {"--prediccion", "INICIO:FIN", nullptr, nullptr, nullptr},
-    {"--transformar", "X:DESTINO", nullptr, nullptr, nullptr},
     {"--histograma", "X", nullptr, nullptr, nullptr},
     {"--grafico", "G", nullptr, nullptr, nullptr},
     {"--ordenar", "X", nullptr, nullptr, nullptr},

@@ -17,6 +17,11 @@ enum class Dialogo {
     Seleccion, // modo: ModosSeleccion
     Intercambio,
     OrdenarSeries,
+    Autocorrelacion, // modo: the command, which tells the function
+    Normalidad,
+    Prediccion,
+    Descriptivos,
+    Transformacion,
     Total // not a dialog: how many there are
 };
 
@@ -34,4 +39,5 @@ inline constexpr int PaginaNoEnsamblada = 1125;
 inline constexpr int PaginaEdicion = 1126; // editor
 inline constexpr int PaginaAscii = 1141;
 inline constexpr int PaginaPanel = 1144;
+inline constexpr int PaginaAutocorrelacion = 1166; // both autocorrelation functions
 inline constexpr int PaginaAcerca = 1198;

@@ -48,6 +48,7 @@ constexpr PaginaManual Paginas[] = {
     {PaginaEdicion, "Ventana de Edición"_w, 0, 0, TextoEdicion},
     {PaginaNoEnsamblada, "Opción del menú"_w, 0, 0, TextoNoEnsamblada},
     {PaginaAscii, "Importación/Exportación a/de  ASCII"_w, 0, 0, TextoAscii},
+    {PaginaAutocorrelacion, "Funciones de autocorrelación"_w, 0, 0, TextoAutocorrelacion},
     {PaginaPanel, "Datos Panel", 0, 0, TextoPanel},
 };
 

@@ -100,3 +100,25 @@ const LineaAyuda TextoAlisado[] = {
     {T, "alisado ni detienen el proceso."_w},
     {T, nullptr},
 };
+
+// P1166
+const LineaAyuda TextoAutocorrelacion[] = {
+    {T, "Elija la serie y escriba el número de retardos, o el de coeficientes en la"_w},
+    {T, "función parcial. Los cálculos se hacen en la muestra actual, donde un dato"_w},
+    {T, "missing cuenta como cero."_w},
+    {T, ""_w},
+    {T, "El número de retardos no puede ser superior a un tercio de la muestra."_w},
+    {T, "La función parcial toma como mucho los 499 primeros datos de la muestra."_w},
+    {T, ""_w},
+    {T, "Bandas de confianza, al 95 por 100:"_w},
+    {T, "     Uniforme     1.96 / raíz de n, la misma en todos los retardos"_w},
+    {T, "     Arma         crece con los coeficientes; en el listado, la desviación de"_w},
+    {T, "                  cada retardo va junto a su coeficiente"_w},
+    {T, "     Sin banda"_w},
+    {T, "La función parcial no tiene la banda Arma."_w},
+    {T, ""_w},
+    {T, "El listado da tres retardos por línea, con los decimales elegidos en"_w},
+    {T, "\"Decimales\". \"Imprimir\" lo lleva al papel y \"Gráficos\" lo dibuja, con el"_w},
+    {T, "título y las marcas que se elijan aquí."_w},
+    {T, nullptr},
+};

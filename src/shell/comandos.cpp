@@ -1,6 +1,7 @@
 // The commands of the menu.
 #include "shell/comandos.h"
 
+#include "analysis/prediccion.h"
 #include "charts/resultados/listados.h"
 #include "data/intercambio.h"
 #include "data/rejilla.h"
@@ -73,6 +74,10 @@ void Importar(Ventana *ventana, int) {
     RefrescarEditor();
 }
 
+void Predecir(Ventana *ventana, int) {
+    if (EmpezarPrediccion(ventana) == 1) AbrirDialogo(ventana, Dialogo::Prediccion);
+}
+
 void VerAyuda(Ventana *ventana, int id) {
     AbrirDialogo(ventana, Dialogo::Ayuda, {PaginaDeComando(id)});
 }
@@ -117,10 +122,12 @@ const Comando TablaComandos[] = {
     {ComandoMuestraActual, Datos, "&Muestra actual...", true, SinTipo, Abre<Dialogo::MuestraActual>},
     {ComandoMuestra, Proced, "&Muestra...", false, SinTipo, Abre<Dialogo::Muestra>},
     {ComandoProcesar, Proced, "&Procesar", true, SinTipo, Procesar},
-    {ComandoDescriptivos, Estadistica, "&Estadísticos descriptivos..."_w, true, SinTipo, nullptr},
+    {ComandoDescriptivos, Estadistica, "&Estadísticos descriptivos..."_w, true, SinTipo,
+     Abre<Dialogo::Descriptivos>},
     {ComandoHistograma, Estadistica, "&Histograma...", true, SinTipoSingular, nullptr},
-    {ComandoPrediccion, Estadistica, "&Predicción y evaluación..."_w, false, SinTipoSingular, nullptr},
-    {ComandoTransformacion, Estadistica, "Transformación de series..."_w, true, nullptr, nullptr},
+    {ComandoPrediccion, Estadistica, "&Predicción y evaluación..."_w, false, SinTipoSingular, Predecir},
+    {ComandoTransformacion, Estadistica, "Transformación de series..."_w, true, nullptr,
+     Abre<Dialogo::Transformacion>},
     {ComandoGraficosTemporales, Graficos, "&Gráficos temporales..."_w, true, nullptr, nullptr},
     {ComandoGraficosDispersion, Graficos, "Gráficos &de dispersión..."_w, true, nullptr, nullptr},
     {ComandoMinimosCuadrados, Estimacion, "&Mínimos cuadrados..."_w, true, SinTipo, nullptr},
@@ -138,10 +145,11 @@ const Comando TablaComandos[] = {
     {ComandoDurbin, Autocorrelacion, "&h de Durbin...", false, SinTipo, nullptr},
     {ComandoWallis, Autocorrelacion, "&Contraste de Wallis...", false, SinTipo, nullptr},
     {ComandoAutocorrelacion, Autocorrelacion, "&Función de autocorrelación..."_w, true, SinTipoSingular,
-     nullptr},
+     Abre<Dialogo::Autocorrelacion, ComandoAutocorrelacion>},
     {ComandoAutocorrelacionParcial, Autocorrelacion, "Función de autocorrelación parcial..."_w, true,
-     SinTipoSingular, nullptr},
-    {ComandoNormalidad, Contrastes, "Contraste de &normalidad...", true, SinTipoSingular, nullptr},
+     SinTipoSingular, Abre<Dialogo::Autocorrelacion, ComandoAutocorrelacionParcial>},
+    {ComandoNormalidad, Contrastes, "Contraste de &normalidad...", true, SinTipoSingular,
+     Abre<Dialogo::Normalidad>},
     {ComandoSinEnsamblar, Contrastes, "&Otros contrastes", false, nullptr, NoEstaEnsamblada},
     {ComandoExportar, Util, "&Exportar a ASCII...", true, SinTipo, Exportar},
     {ComandoImportar, Util, "I&mportar de ASCII...", true, SinTipo, Importar},

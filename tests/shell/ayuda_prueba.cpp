@@ -71,6 +71,7 @@ constexpr PaginaEsperada Esperadas[] = {
     {1125, "Opción del menú", 0, 0},
     {1141, "Importación/Exportación a/de  ASCII", 0, 0},
     {1144, "Datos Panel", 0, 0},
+    {1166, "Funciones de autocorrelación", 0, 0},
 };
 
 TEST(Ayuda, TablaDePaginas) {
@@ -90,7 +91,7 @@ TEST(Ayuda, TablaDePaginas) {
 }
 
 TEST(Ayuda, PaginasQueNoSeMuestran) {
-    for (const int id : {0, -1, 1137, 1207, 1159, 1162, 1166, 1180, 1183, 1155, 99999})
+    for (const int id : {0, -1, 1137, 1207, 1159, 1162, 1180, 1183, 1155, 99999})
         EXPECT_EQ(BuscarPagina(id), nullptr) << id;
 }
 

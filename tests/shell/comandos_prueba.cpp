@@ -137,6 +137,12 @@ TEST(Comandos, LoQuePidenAlEscritorio) {
         {2071, {Abre(Dialogo::Intercambio)}},
         {2072, {Abre(Dialogo::Intercambio), "refresco"}},
         {2086, {Abre(Dialogo::UltimaRegresion)}},
+        {2073, {Abre(Dialogo::Autocorrelacion, 2073)}},
+        {2093, {Abre(Dialogo::Autocorrelacion, 2093)}},
+        {2087, {Abre(Dialogo::Normalidad)}},
+        {2036, {}}, // without a regression there is a box instead
+        {2039, {Abre(Dialogo::Descriptivos)}},
+        {2094, {Abre(Dialogo::Transformacion)}},
         {2001, {Abre(Dialogo::NoEnsamblada)}},
         {2002, {Abre(Dialogo::NoEnsamblada)}},
         {2003, {Abre(Dialogo::NoEnsamblada)}},

@@ -1,10 +1,12 @@
 // The desktop: its windows, its printer, and every dialog of the program.
 #include "shell/ventanas/escritorio.h"
 
+#include "analysis/ventanas/dialogos_analisis.h"
 #include "charts/resultados/ventanas/dialogo_seleccion.h"
 #include "charts/resultados/ventanas/ventana_resultado_qt.h"
 #include "data/ventanas/dialogos_datos.h"
 #include "data/ventanas/ventana_editor.h"
+#include "hypothesis/ventanas/dialogos_autocorrelacion.h"
 #include "language/lote_sentencias.h"
 #include "platform/qt/dialogo_decimales.h"
 #include "platform/qt/impresora_qt.h"
@@ -34,6 +36,11 @@ constexpr FilaDeDialogo Dialogos[] = {
     {Dialogo::Seleccion, DialogoDeSeleccion},
     {Dialogo::Intercambio, DialogoIntercambio},
     {Dialogo::OrdenarSeries, DialogoOrdenarSeries},
+    {Dialogo::Autocorrelacion, DialogoAutocorrelacion},
+    {Dialogo::Normalidad, DialogoNormalidad},
+    {Dialogo::Prediccion, DialogoPrediccion},
+    {Dialogo::Descriptivos, DialogoDescriptivos},
+    {Dialogo::Transformacion, DialogoTransformacion},
 };
 
 // No routine draws a chart yet.

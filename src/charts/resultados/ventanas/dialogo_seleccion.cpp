@@ -19,18 +19,16 @@ void Mostrar(QListWidget &lista, const std::vector<std::string> &codigos) {
     for (const std::string &codigo : codigos) lista.addItem(QDe1252(codigo));
 }
 
-} // namespace
+using DialogoDeListas = DialogoConFormulario<Ui::Seleccion>;
 
-void DialogoSeleccion(Ventana *ventana, ModosSeleccion modo) {
-    DialogoConFormulario<Ui::Seleccion> d(ventana);
-    const TextosSeleccion &textos = TextosDe(modo);
+// The texts of the form, its lists and the buttons between them. `estado` lives as long as the dialog.
+void ConectarListas(DialogoDeListas &d, EstadoSeleccion &estado) {
+    const TextosSeleccion &textos = TextosDe(estado.modo);
     d.dialogo.setWindowTitle(QDe1252(textos.titulo));
     d.ui.textoDisponibles->setText(QDe1252(textos.disponibles));
     d.ui.textoElegidas->setText(QDe1252(textos.elegidas));
     d.ui.disponibles->setAccessibleName(QDe1252(textos.disponibles));
     d.ui.elegidas->setAccessibleName(QDe1252(textos.elegidas));
-
-    EstadoSeleccion estado = IniciarSeleccion(modo);
     Mostrar(*d.ui.disponibles, estado.disponibles);
     // An entry goes over, and the next one takes its place under the choice: so Enter or clicks in a row move many.
     const auto mover = [&](QListWidget &de, bool (*rutina)(EstadoSeleccion &, int, Ventana *)) {
@@ -40,12 +38,20 @@ void DialogoSeleccion(Ventana *ventana, ModosSeleccion modo) {
         Mostrar(*d.ui.elegidas, estado.elegidas);
         de.setCurrentRow(std::min(elegida, de.count() - 1));
     };
-    const auto anadir = [&] { mover(*d.ui.disponibles, AnadirASeleccion); };
-    const auto eliminar = [&] { mover(*d.ui.elegidas, EliminarDeSeleccion); };
+    const auto anadir = [=, &d] { mover(*d.ui.disponibles, AnadirASeleccion); };
+    const auto eliminar = [=, &d] { mover(*d.ui.elegidas, EliminarDeSeleccion); };
     QObject::connect(d.ui.Anadir, &QPushButton::clicked, &d.dialogo, anadir);
     QObject::connect(d.ui.Eliminar, &QPushButton::clicked, &d.dialogo, eliminar);
     QObject::connect(d.ui.disponibles, &QListWidget::itemDoubleClicked, &d.dialogo, anadir);
     QObject::connect(d.ui.elegidas, &QListWidget::itemDoubleClicked, &d.dialogo, eliminar);
+}
+
+} // namespace
+
+void DialogoSeleccion(Ventana *ventana, ModosSeleccion modo) {
+    DialogoDeListas d(ventana);
+    EstadoSeleccion estado = IniciarSeleccion(modo);
+    ConectarListas(d, estado);
     QObject::connect(d.ui.Decimales, &QPushButton::clicked, &d.dialogo,
                      [&] { DialogoDecimales(Lote.DecimalesSalida, d.ventana()); });
     d.AlAceptar([&] {
@@ -53,5 +59,18 @@ void DialogoSeleccion(Ventana *ventana, ModosSeleccion modo) {
         return false; // more can be printed
     });
     PonerNotaDeImpresion(d.dialogo);
+    d.Ejecutar();
+}
+
+void ElegirSeries(Ventana *ventana, const std::function<void(const EstadoSeleccion &, Ventana *)> &aceptar) {
+    DialogoDeListas d(ventana);
+    EstadoSeleccion estado = IniciarSeleccion(SeleccionDeSeries);
+    ConectarListas(d, estado);
+    d.ui.Decimales->hide();
+    MenuDecimales(d.dialogo, Lote.DecimalesSalida);
+    d.AlAceptar([&] {
+        aceptar(estado, d.ventana());
+        return false; // another choice can follow
+    });
     d.Ejecutar();
 }
