@@ -232,11 +232,13 @@ bool MostrarListado(Ventana *ventana, ListadosRegresion cual, const PeticionList
     return true;
 }
 
+bool HayRegresion(Ventana *ventana) {
+    return UltimaRegresion.RegresionHecha != 0 ||
+           MensajeAviso(ventana, "Efectue primero una regresión"_w) != 0;
+}
+
 bool PedirListado(Ventana *ventana, ListadosRegresion cual, std::string_view sentencia, int codigo) {
-    if (UltimaRegresion.RegresionHecha == 0) {
-        MensajeAviso(ventana, "Efectue primero una regresión"_w);
-        return false;
-    }
+    if (!HayRegresion(ventana)) return false;
     // The count of the regressors that are series is gone from the store when a regression has ended.
     if (cual == ListadoVarianza && ValorDe("_NREG") == UltimaRegresion.SeriesRegresion[OrdenMC]) {
         MensajeAviso(ventana, "Introduzca el término independiente"_w);

@@ -27,6 +27,9 @@ PeticionListado PeticionDeUltimaRegresion(std::string_view sentencia, int codigo
 // all in the title "Proceso cancelado"), and the window opens empty. True when a window was shown.
 bool MostrarListado(Ventana *ventana, ListadosRegresion cual, const PeticionListado &peticion);
 
+// True when there is a regression to list or to draw, else false after "Efectue primero una regresión", title "Aviso".
+bool HayRegresion(Ventana *ventana);
+
 // The same as the dialogs of the regressions ask for it, of the last regression: "Efectue primero una regresión" without
 // one, "Introduzca el término independiente" for the analysis of variance of a regression without a constant, both in the
 // title "Aviso". True when a window was shown.

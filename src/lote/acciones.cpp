@@ -2,6 +2,7 @@
 #include "lote/acciones.h"
 
 #include "charts/resultados/seleccion.h"
+#include "estimation/ecuaciones.h"
 #include "estimation/listados_regresion.h"
 #include "estimation/regresion.h"
 #include "language/lote_sentencias.h"
@@ -41,7 +42,8 @@ struct Accion {
     PropuestaTipoDatos tipo;
     FormatoAscii formato;
     int numero;           // a choice or a count, by action
-    std::string elemento; // behind the first ":" of the value, in the characters of the core
+    std::string elemento; // behind the first ":" or "=" of the value, in the characters of the core
+    std::string codigo;   // before that "="
     bool deRegresion;     // a listing of the last regression, not of series or matrices
 };
 
@@ -103,6 +105,14 @@ bool LeerElemento(const std::string &valor, Accion &accion) {
     if (dosPuntos == std::string::npos || dosPuntos + 1 == valor.size()) return false;
     accion.elemento = Texto1252DeUtf8(std::string_view(valor).substr(dosPuntos + 1));
     return Elegir(NombresElemento, std::string_view(valor).substr(0, dosPuntos), accion.numero);
+}
+
+bool LeerEcuacionNombrada(const std::string &valor, Accion &accion) {
+    const std::size_t igual = valor.find('=');
+    if (igual == std::string::npos) return false;
+    accion.codigo = Texto1252DeUtf8(std::string_view(valor).substr(0, igual));
+    accion.elemento = Texto1252DeUtf8(std::string_view(valor).substr(igual + 1));
+    return true;
 }
 
 bool LeerListado(const std::string &valor, Accion &accion) {
@@ -197,6 +207,13 @@ bool HacerSentencia(const Accion &accion) {
 
 bool HacerDecimales(const Accion &accion) {
     Lote.DecimalesSalida = accion.numero;
+    return true;
+}
+
+// The dialogs that keep the equations open with this guard. What they leave out without a message isn't told here either.
+bool HacerEcuacion(const Accion &accion) {
+    if (!HayTipoDeDatos()) return false;
+    AltaEcuacion(accion.codigo, accion.elemento);
     return true;
 }
 
@@ -310,6 +327,7 @@ constexpr FilaDeAccion TablaAcciones[] = {
      "procesa un archivo de sentencias (-: entrada estándar)"},
     {"--sentencia", "TEXTO", LeerTexto, HacerSentencia, "ejecuta una sentencia"},
     {"--decimales", "N", LeerDecimales, HacerDecimales, "decimales de las salidas, de 0 a 6"},
+    {"--ecuacion", "CODIGO=TEXTO", LeerEcuacionNombrada, HacerEcuacion, "guarda una ecuación con su código"},
     {"--relacion", "series|matrices|escalares", LeerRelacion, HacerRelacion, "lista los elementos"},
     {"--borrar", "serie:X|matriz:M|escalar:E", LeerElemento, HacerBorrar, "borra un elemento"},
     {"--muestra-actual", nullptr, nullptr, HacerMuestraActual, "muestra la muestra en curso"},
@@ -332,7 +350,6 @@ constexpr FilaDeAccion TablaAcciones[] = {
     {"--volcado", nullptr, nullptr, HacerVolcado, "muestra el contenido del archivo de trabajo"},
     {"--abrir", "ARCHIVO", nullptr, nullptr, nullptr},
     {"--guardar", "ARCHIVO", nullptr, nullptr, nullptr},
-    {"--ecuacion", "CODIGO=TEXTO", nullptr, nullptr, nullptr},
     {"--histograma", "X", nullptr, nullptr, nullptr},
     {"--grafico", "G", nullptr, nullptr, nullptr},
     {"--ordenar", "X", nullptr, nullptr, nullptr},

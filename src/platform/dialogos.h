@@ -22,6 +22,15 @@ enum class Dialogo {
     Prediccion,
     Descriptivos,
     Transformacion,
+    MC,
+    MCP,
+    GraficoValores,  // of the last regression: observed and estimated values
+    GraficoResiduos, // of the last regression
+    HipotesisNula,
+    ModeloRestringido,
+    GoldfeldQuandt,
+    White,
+    Rangos,
     Total // not a dialog: how many there are
 };
 
@@ -39,5 +48,10 @@ inline constexpr int PaginaNoEnsamblada = 1125;
 inline constexpr int PaginaEdicion = 1126; // editor
 inline constexpr int PaginaAscii = 1141;
 inline constexpr int PaginaPanel = 1144;
-inline constexpr int PaginaAutocorrelacion = 1166; // both autocorrelation functions
+inline constexpr int PaginaHistograma = 1155; // chart of the histogram
+inline constexpr int PaginaHipotesisNula = 1159;
+inline constexpr int PaginaGoldfeldQuandt = 1162;
+inline constexpr int PaginaAutocorrelacion = 1166;   // both autocorrelation functions
+inline constexpr int PaginaGraficos = 1180;          // charts of series: choice, window
+inline constexpr int PaginaGraficosRegresion = 1183; // residuals, observed and estimated, prediction
 inline constexpr int PaginaAcerca = 1198;

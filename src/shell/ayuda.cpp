@@ -50,6 +50,11 @@ constexpr PaginaManual Paginas[] = {
     {PaginaAscii, "Importación/Exportación a/de  ASCII"_w, 0, 0, TextoAscii},
     {PaginaAutocorrelacion, "Funciones de autocorrelación"_w, 0, 0, TextoAutocorrelacion},
     {PaginaPanel, "Datos Panel", 0, 0, TextoPanel},
+    {PaginaHistograma, "Histograma", 0, 0, TextoHistograma},
+    {PaginaHipotesisNula, "Contrastes de significatividad: Hipótesis nula"_w, 0, 0, TextoHipotesisNula},
+    {PaginaGoldfeldQuandt, "Contrastes de heteroscedasticidad: Goldfeld y Quandt", 0, 0, TextoGoldfeldQuandt},
+    {PaginaGraficos, "Gráficos de series"_w, 0, 0, TextoGraficos},
+    {PaginaGraficosRegresion, "Gráficos de la regresión"_w, 0, 0, TextoGraficosRegresion},
 };
 
 struct EnlaceAyuda {

@@ -24,5 +24,9 @@ extern const LineaAyuda TextoMetodos1[], TextoMetodos2[], TextoMetodos3[], Texto
 extern const LineaAyuda TextoControl1[], TextoControl2[], TextoControl3[];
 extern const LineaAyuda TextoMuestra[], TextoPantalla[], TextoEjemplos[];
 
+// ayuda_textos_dialogos.cpp
+extern const LineaAyuda TextoHipotesisNula[], TextoGoldfeldQuandt[];
+extern const LineaAyuda TextoGraficos[], TextoGraficosRegresion[], TextoHistograma[];
+
 // ayuda_textos_ventanas.cpp
 extern const LineaAyuda TextoEdicion[], TextoAscii[], TextoPanel[], TextoAcerca[], TextoNoEnsamblada[];

@@ -78,6 +78,23 @@ void Predecir(Ventana *ventana, int) {
     if (EmpezarPrediccion(ventana) == 1) AbrirDialogo(ventana, Dialogo::Prediccion);
 }
 
+// The dialog of an estimator. Until the first regression its sample is that of the moment.
+template <Dialogo cual> void Estima(Ventana *ventana, int) {
+    if (Muestra.FinRegresion == 0) {
+        Muestra.InicioRegresion = Muestra.InicioMuestra;
+        Muestra.FinRegresion = Muestra.FinMuestra;
+    }
+    AbrirDialogo(ventana, cual);
+}
+
+// The tests without a dialog.
+void Durbin(Ventana *ventana, int) {
+    ProcesarSentencia(ventana, "CDU  ", Muestra.InicioMuestra, Muestra.FinMuestra);
+}
+void Wallis(Ventana *ventana, int) {
+    ProcesarSentencia(ventana, "CWA  ", Muestra.InicioMuestra, Muestra.FinMuestra);
+}
+
 void VerAyuda(Ventana *ventana, int id) {
     AbrirDialogo(ventana, Dialogo::Ayuda, {PaginaDeComando(id)});
 }
@@ -130,20 +147,23 @@ const Comando TablaComandos[] = {
      Abre<Dialogo::Transformacion>},
     {ComandoGraficosTemporales, Graficos, "&Gráficos temporales..."_w, true, nullptr, nullptr},
     {ComandoGraficosDispersion, Graficos, "Gráficos &de dispersión..."_w, true, nullptr, nullptr},
-    {ComandoMinimosCuadrados, Estimacion, "&Mínimos cuadrados..."_w, true, SinTipo, nullptr},
-    {ComandoMinimosPonderados, Estimacion, "Mínimos &cuadrados ponderados..."_w, true, SinTipo, nullptr},
+    {ComandoMinimosCuadrados, Estimacion, "&Mínimos cuadrados..."_w, true, SinTipo, Estima<Dialogo::MC>},
+    {ComandoMinimosPonderados, Estimacion, "Mínimos &cuadrados ponderados..."_w, true, SinTipo,
+     Estima<Dialogo::MCP>},
     {ComandoSinEnsamblar, Estimacion, "Método &variables instrumentales..."_w, false, nullptr,
      NoEstaEnsamblada},
     {ComandoUltimaRegresion, Estimacion, "&Última regresión..."_w, true, nullptr,
      Abre<Dialogo::UltimaRegresion>},
-    {ComandoHipotesisNula, Significatividad, "&Especificando Hipótesis nula..."_w, false, SinTipo, nullptr},
+    {ComandoHipotesisNula, Significatividad, "&Especificando Hipótesis nula..."_w, false, SinTipo,
+     Abre<Dialogo::HipotesisNula>},
     {ComandoModeloRestringido, Significatividad, "Especificando &Modelo restringido...", false, SinTipo,
-     nullptr},
-    {ComandoGoldfeldQuandt, Heteroscedasticidad, "&Goldfeld y Quandt...", false, SinTipo, nullptr},
-    {ComandoWhite, Heteroscedasticidad, "&White...", false, SinTipo, nullptr},
-    {ComandoRangos, Heteroscedasticidad, "&Rangos...", false, SinTipo, nullptr},
-    {ComandoDurbin, Autocorrelacion, "&h de Durbin...", false, SinTipo, nullptr},
-    {ComandoWallis, Autocorrelacion, "&Contraste de Wallis...", false, SinTipo, nullptr},
+     Abre<Dialogo::ModeloRestringido>},
+    {ComandoGoldfeldQuandt, Heteroscedasticidad, "&Goldfeld y Quandt...", false, SinTipo,
+     Abre<Dialogo::GoldfeldQuandt>},
+    {ComandoWhite, Heteroscedasticidad, "&White...", false, SinTipo, Abre<Dialogo::White>},
+    {ComandoRangos, Heteroscedasticidad, "&Rangos...", false, SinTipo, Abre<Dialogo::Rangos>},
+    {ComandoDurbin, Autocorrelacion, "&h de Durbin...", false, SinTipo, Durbin},
+    {ComandoWallis, Autocorrelacion, "&Contraste de Wallis...", false, SinTipo, Wallis},
     {ComandoAutocorrelacion, Autocorrelacion, "&Función de autocorrelación..."_w, true, SinTipoSingular,
      Abre<Dialogo::Autocorrelacion, ComandoAutocorrelacion>},
     {ComandoAutocorrelacionParcial, Autocorrelacion, "Función de autocorrelación parcial..."_w, true,

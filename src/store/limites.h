@@ -12,6 +12,7 @@ inline constexpr int TopeSeries = 98; // a statement refuses a new series when N
 inline constexpr int TopeSeriesFicticias = 97; // SER FICTIC does when NumSeries is above this
 inline constexpr int TopeMatrices = 28;        // a new matrix is refused when the count is above this
 inline constexpr int TopeEscalares = 58;       // a new scalar is refused when the count is above this
+inline constexpr int TopeEcuaciones = 18;      // a new equation is refused when the count is above this
 
 inline constexpr int ElementosBloque = 40001; // doubles of a fresh matrix block and of a temporary
 inline constexpr int MaxElementos = 40000;    // rows times columns of a matrix built from series

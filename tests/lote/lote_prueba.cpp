@@ -456,4 +456,27 @@ TEST(Lote, ListadosDeLaRegresionQueSeNiegan) {
     }
 }
 
+TEST(Lote, Ecuaciones) {
+    std::vector<std::string> linea = {"--json", "--tipo", "anual:1990:1999"};
+    for (const char *e : {"CONS=CONSUMO 1 RENTA", "CONS=OTRA 1", " AÑO = Y = 1 ", "VACIA=", "=Y 1"}) {
+        linea.emplace_back("--ecuacion");
+        linea.emplace_back(e);
+    }
+    linea.emplace_back("--volcado");
+    const auto r = Correr(linea);
+    EXPECT_EQ(r.estado, 0) << r.errores;
+    const auto sucesos = Sucesos(r);
+    ASSERT_EQ(sucesos.size(), 2u) << r.salida;
+    EXPECT_EQ(sucesos[0]["ecuaciones"], json::parse(R"([{"codigo": "CONS", "texto": "CONSUMO 1 RENTA"},
+                                                        {"codigo": "AÑO", "texto": "Y = 1"}])"));
+
+    const auto sinIgual = Correr({"--ecuacion", "CONS"});
+    EXPECT_EQ(sinIgual.estado, 2);
+    EXPECT_EQ(sinIgual.errores, "tabira-lote: valor incorrecto de --ecuacion: 'CONS'\n");
+
+    const auto sinTipo = Correr({"--ecuacion", "CONS=Y 1"});
+    EXPECT_EQ(sinTipo.estado, 1);
+    EXPECT_EQ(sinTipo.salida, "[Proceso cancelado] Tipo de datos no válidos\n");
+}
+
 } // namespace

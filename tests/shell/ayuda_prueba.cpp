@@ -71,7 +71,12 @@ constexpr PaginaEsperada Esperadas[] = {
     {1125, "Opción del menú", 0, 0},
     {1141, "Importación/Exportación a/de  ASCII", 0, 0},
     {1144, "Datos Panel", 0, 0},
+    {1155, "Histograma", 0, 0},
+    {1159, "Contrastes de significatividad: Hipótesis nula", 0, 0},
+    {1162, "Contrastes de heteroscedasticidad: Goldfeld y Quandt", 0, 0},
     {1166, "Funciones de autocorrelación", 0, 0},
+    {1180, "Gráficos de series", 0, 0},
+    {1183, "Gráficos de la regresión", 0, 0},
 };
 
 TEST(Ayuda, TablaDePaginas) {

@@ -1,6 +1,7 @@
 // The table of commands and the closing of the program, without a window.
 #include "apoyo/plataforma_prueba.h"
 #include "data/rejilla.h"
+#include "language/lote_sentencias.h"
 #include "platform/texto.h"
 #include "shell/comandos.h"
 #include "shell/listas.h"
@@ -10,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -136,6 +138,13 @@ TEST(Comandos, LoQuePidenAlEscritorio) {
         {2054, {"editor 1"}},
         {2071, {Abre(Dialogo::Intercambio)}},
         {2072, {Abre(Dialogo::Intercambio), "refresco"}},
+        {2004, {Abre(Dialogo::MC)}},
+        {2081, {Abre(Dialogo::MCP)}},
+        {2012, {Abre(Dialogo::HipotesisNula)}},
+        {2075, {Abre(Dialogo::ModeloRestringido)}},
+        {2078, {Abre(Dialogo::GoldfeldQuandt)}},
+        {2080, {Abre(Dialogo::White)}},
+        {2079, {Abre(Dialogo::Rangos)}},
         {2086, {Abre(Dialogo::UltimaRegresion)}},
         {2073, {Abre(Dialogo::Autocorrelacion, 2073)}},
         {2093, {Abre(Dialogo::Autocorrelacion, 2093)}},
@@ -165,6 +174,40 @@ TEST(Comandos, LoQuePidenAlEscritorio) {
         EmpezarConDatos(TipoAnual, "1990#1999");
         Ordenar(c.id);
         EXPECT_EQ(Pedido, c.pedido);
+    }
+}
+
+// The sample of the last regression is that of the moment until there is one; of its bounds the last one tells.
+TEST(Comandos, LaMuestraDeLosEstimadores) {
+    for (const int id : {2004, 2081}) {
+        for (const auto &[inicio, fin, inicioDespues, finDespues] :
+             {std::array{0, 0, 2, 4}, std::array{1, 0, 2, 4}, std::array{0, 1, 0, 1},
+              std::array{3, 6, 3, 6}}) {
+            SCOPED_TRACE(testing::Message() << id << " " << inicio << " " << fin);
+            EmpezarConDatos(TipoAnual, "1990#1999");
+            PonerSerie("A", {1, 2, 3}, 2);
+            Muestra.InicioRegresion = inicio;
+            Muestra.FinRegresion = fin;
+            Ordenar(id);
+            EXPECT_EQ(Muestra.InicioRegresion, inicioDespues);
+            EXPECT_EQ(Muestra.FinRegresion, finDespues);
+        }
+    }
+}
+
+// The two tests without a dialog run as statements.
+TEST(Comandos, DurbinYWallis) {
+    for (const auto &[id, codigo] : {std::pair{2082, OrdenCDU}, std::pair{2083, OrdenCWA}}) {
+        SCOPED_TRACE(id);
+        EmpezarConDatos(TipoAnual, "1980#1999");
+        PonerSerie("Y", {3, 5, 4, 8, 7, 9, 12, 11, 15, 13, 17, 16, 18, 22, 21, 20, 25, 24, 27, 30});
+        PonerSerie("X", {1, 3, 2, 4, 6, 5, 7, 9, 11, 8, 12, 10, 13, 17, 14, 16, 19, 15, 20, 22});
+        ASSERT_TRUE(Procesar("VSR NO\r\nMC Y 1 X Y(-1)"));
+        Prueba.resultados.clear();
+        Ordenar(id);
+        ASSERT_EQ(Prueba.resultados.size(), 1u);
+        EXPECT_EQ(Prueba.resultados[0].clase, codigo);
+        EXPECT_TRUE(Prueba.cajas.empty());
     }
 }
 

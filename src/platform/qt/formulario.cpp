@@ -49,6 +49,10 @@ void AbreAyuda(QDialog &dialogo, QPushButton &boton, int pagina) {
                      [&dialogo, pagina] { AbrirDialogo(AVentana(&dialogo), Dialogo::Ayuda, {pagina}); });
 }
 
+void PonerLineas(QListWidget &lista, const std::vector<std::string> &lineas) {
+    for (const std::string &linea : lineas) lista.addItem(QDe1252(linea));
+}
+
 QAction *EntradaDeMenu(QDialog &dialogo, const char *texto, const std::function<void()> &hacer) {
     auto *barra = qobject_cast<QMenuBar *>(dialogo.layout()->menuBar());
     if (barra == nullptr) {

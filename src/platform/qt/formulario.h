@@ -16,6 +16,8 @@
 #include <algorithm>
 #include <functional>
 #include <initializer_list>
+#include <string>
+#include <vector>
 
 // The line of a list that the user has chosen, -1 for none. The current line may be another one, which
 // nobody chose: after a deletion, say.
@@ -29,6 +31,9 @@ int BotonElegido(std::initializer_list<const QAbstractButton *> botones);
 
 // A click on the button opens a page of the manual above the dialog.
 void AbreAyuda(QDialog &dialogo, QPushButton &boton, int pagina);
+
+// Adds lines to a list. Windows-1252.
+void PonerLineas(QListWidget &lista, const std::vector<std::string> &lineas);
 
 // An entry of the menu bar of the dialog, behind those that stand there; the first one brings the bar. Windows-1252, with
 // its mnemonic behind "&"; the name of the entry is its text without marks.
@@ -97,13 +102,18 @@ template <class Formulario> struct DialogoConFormulario {
 
     Ventana *ventana() { return AVentana(&dialogo); }
 
-    // The texts are in their places by now, and the dialog takes the room that they ask for.
-    bool Ejecutar() {
+    // The dialog takes the room that its texts ask for, with those that were shown or changed while it is open.
+    void Ajustar() {
         QSize lado = dialogo.sizeHint().expandedTo(ladoInicial).expandedTo({AnchoConTitulo(dialogo), 0});
         const QLayout &l = *dialogo.layout();
         if (l.hasHeightForWidth())
             lado.setHeight(std::max(lado.height(), l.totalHeightForWidth(lado.width())));
         dialogo.resize(lado);
+    }
+
+    // The texts are in their places by now.
+    bool Ejecutar() {
+        Ajustar();
         return Modal(dialogo) == QDialog::Accepted;
     }
 

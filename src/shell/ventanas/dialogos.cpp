@@ -54,7 +54,7 @@ void DialogoLista(Ventana *ventana, const DatosDialogo &datos) {
     DialogoConFormulario<Ui::ListadoElementos> d(ventana);
     d.dialogo.setWindowTitle(QDe1252(TituloLista(lista)));
     d.ui.lista->setFont(FuenteFijaDePantalla());
-    for (const std::string &linea : LineasLista(lista)) d.ui.lista->addItem(QDe1252(linea));
+    PonerLineas(*d.ui.lista, LineasLista(lista));
     QObject::connect(d.ui.Borrar, &QPushButton::clicked, &d.dialogo, [&] {
         const int elegida = FilaElegida(*d.ui.lista);
         if (elegida < 0) return;

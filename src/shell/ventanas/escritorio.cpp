@@ -6,7 +6,9 @@
 #include "charts/resultados/ventanas/ventana_resultado_qt.h"
 #include "data/ventanas/dialogos_datos.h"
 #include "data/ventanas/ventana_editor.h"
+#include "estimation/ventanas/dialogo_estimacion.h"
 #include "hypothesis/ventanas/dialogos_autocorrelacion.h"
+#include "hypothesis/ventanas/dialogos_contrastes.h"
 #include "language/lote_sentencias.h"
 #include "platform/qt/dialogo_decimales.h"
 #include "platform/qt/impresora_qt.h"
@@ -41,6 +43,16 @@ constexpr FilaDeDialogo Dialogos[] = {
     {Dialogo::Prediccion, DialogoPrediccion},
     {Dialogo::Descriptivos, DialogoDescriptivos},
     {Dialogo::Transformacion, DialogoTransformacion},
+    {Dialogo::MC, DialogoMC},
+    {Dialogo::MCP, DialogoMCP},
+    // No routine draws these charts yet.
+    {Dialogo::GraficoValores, DialogoNoEnsamblada},
+    {Dialogo::GraficoResiduos, DialogoNoEnsamblada},
+    {Dialogo::HipotesisNula, DialogoHipotesisNula},
+    {Dialogo::ModeloRestringido, DialogoModeloRestringido},
+    {Dialogo::GoldfeldQuandt, DialogoGoldfeldQuandt},
+    {Dialogo::White, DialogoWhite},
+    {Dialogo::Rangos, DialogoRangos},
 };
 
 // No routine draws a chart yet.

@@ -16,7 +16,7 @@ namespace {
 
 void Mostrar(QListWidget &lista, const std::vector<std::string> &codigos) {
     lista.clear();
-    for (const std::string &codigo : codigos) lista.addItem(QDe1252(codigo));
+    PonerLineas(lista, codigos);
 }
 
 using DialogoDeListas = DialogoConFormulario<Ui::Seleccion>;
