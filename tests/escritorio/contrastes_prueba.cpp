@@ -6,6 +6,7 @@
 #include "language/lote_sentencias.h"
 #include "platform/qt/ventana_qt.h"
 #include "store/archivo.h"
+#include "store/periodos.h"
 
 #include <QAction>
 #include <QApplication>
@@ -291,6 +292,8 @@ TEST_F(Contrastes, GoldfeldQuandt) {
 // ----- White, ranks
 
 TEST_F(Contrastes, White) {
+    Muestra.InicioRegresion = 0;
+    Muestra.FinRegresion = 9; // rows enough, but no residuals
     ConGuion({{CWH,
                [](QDialog &d) {
                    EXPECT_EQ(TextoDe(d, "productosCruzados"), "¿Se incluyen &productos cruzados?");

@@ -4,6 +4,7 @@
 #include "estimation/dialogo_mc.h"
 #include "estimation/ecuaciones.h"
 #include "store/archivo.h"
+#include "store/periodos.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -108,6 +109,9 @@ TEST_F(Estimaciones, SeComponeConListasYBotones) {
 
 // All of it without the mouse, from the equation to the answer about the report.
 TEST_F(Estimaciones, SinRaton) {
+    // Without limits the coefficients as a series would leave the second estimation two rows.
+    MuestraDeSentencia("MUEST " + std::string(TextoPeriodo(0)) + " " +
+                       std::string(TextoPeriodo(ArchivoTrabajo.NumObs - 1)));
     ConGuion({{MC,
                [](QDialog &d) {
                    Activar(d);
