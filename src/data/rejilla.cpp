@@ -221,6 +221,13 @@ void PulsarCampo(int columna) {
     Editor.cursorCampo = std::clamp(columna, 0, UltimaColumnaCampo);
 }
 
+// Normal is what has its full width and no blank in front, unless all of it is blank.
+void NormalizarRotulo(char *rotulo, int ancho) {
+    const bool entero = std::strlen(rotulo) == static_cast<std::size_t>(ancho - 1);
+    if (entero && (rotulo[0] != ' ' || CadenaDeCaracter(rotulo, ' ') == 1)) return;
+    PonerCampo(rotulo, std::string(Recortado(rotulo)), ancho);
+}
+
 } // namespace
 
 const ModoDeRejilla &RejillaActual() {
@@ -308,13 +315,6 @@ std::string NumeroDeCelda(double valor, int decimales) {
 
 std::string NumeroCompleto(double valor) {
     return Formatear("%20.10f", valor);
-}
-
-// Normal is what has its full width and no blank in front, unless all of it is blank.
-static void NormalizarRotulo(char *rotulo, int ancho) {
-    const bool entero = std::strlen(rotulo) == static_cast<std::size_t>(ancho - 1);
-    if (entero && (rotulo[0] != ' ' || CadenaDeCaracter(rotulo, ' ') == 1)) return;
-    PonerCampo(rotulo, std::string(Recortado(rotulo)), ancho);
 }
 
 void NormalizarRotulos() {
