@@ -28,7 +28,8 @@ protected:
     void SetUp() override {
         Escritorio::SetUp();
         // The toolkit's own names of folders can hold a hyphen, which the exchange refuses.
-        carpeta = QDir::tempPath() + QStringLiteral("/tabira_intercambio");
+        carpeta = QDir::tempPath() +
+                  QStringLiteral("/tabira_intercambio_%1").arg(QCoreApplication::applicationPid());
         QDir(carpeta).removeRecursively();
         ASSERT_TRUE(QDir().mkpath(carpeta));
         PonerDatos(TipoAnual, "1990#1992");
