@@ -124,7 +124,8 @@ TEST_F(VentanasDeResultado, AbreSusGraficos) {
 
 // Copied and saved like a report: lines, table, picture and pages.
 TEST_F(VentanasDeResultado, CopiarYGuardar) {
-    QDir carpeta(QDir::tempPath() + QStringLiteral("/tabira_ventanas_resultado"));
+    QDir carpeta(QDir::tempPath() +
+                 QStringLiteral("/tabira_ventanas_resultado_%1").arg(QCoreApplication::applicationPid()));
     carpeta.removeRecursively();
     ASSERT_TRUE(carpeta.mkpath(QStringLiteral(".")));
     for (const ClaseDeVentana &clase : Clases) {
