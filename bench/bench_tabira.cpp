@@ -3,6 +3,8 @@
 #include "analysis/prediccion.h"
 #include "apoyo/cadena_formulas.h"
 #include "apoyo/plataforma_prueba.h"
+#include "data/fichero_trabajo.h"
+#include "data/observaciones.h"
 #include "hypothesis/dialogo_goldfeld.h"
 #include "language/asignaciones.h"
 #include "language/lote_sentencias.h"
@@ -14,6 +16,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 #include <map>
 #include <random>
 #include <spawn.h>
@@ -290,6 +293,48 @@ void Goldfeld(benchmark::State &estado) {
     for (auto _ : estado) AceptarGoldfeld(nullptr, {"X10", "1", "1500", "2501", "4000", false});
 }
 
+// ----- A full work file: on disk, and its observations sorted
+
+void LlenarTrabajo() {
+    EmpezarConDatos(TipoSinPeriodicidad, "");
+    std::mt19937 azar(5);
+    std::normal_distribution<double> normal(0.0, 1.0);
+    ArchivoTrabajo.NumSeries = MaxSeries;
+    for (int s = 0; s < MaxSeries; ++s) {
+        PonerCodigoSerie(s, "S" + std::to_string(s));
+        for (int i = 0; i < MaxObservaciones; ++i) PonerObservacion(i, s, normal(azar), 1);
+    }
+    for (int m = 0; m < MaxMatrices; ++m) {
+        double *elementos = AnadirMatriz(TablaMatrices, "M" + std::to_string(m), 200, 200);
+        std::generate_n(elementos, MaxElementos, [&] { return normal(azar); });
+    }
+}
+
+std::string RutaTrabajo() {
+    return (std::filesystem::temp_directory_path() / ("bench" + std::to_string(getpid()) + ".TR2")).string();
+}
+
+void GuardarLleno(benchmark::State &estado) {
+    LlenarTrabajo();
+    for (auto _ : estado) benchmark::DoNotOptimize(EscribirFicheroTrabajo(RutaTrabajo()));
+}
+
+void AbrirLleno(benchmark::State &estado) {
+    LlenarTrabajo();
+    EscribirFicheroTrabajo(RutaTrabajo());
+    for (auto _ : estado) benchmark::DoNotOptimize(LeerFicheroTrabajo(RutaTrabajo()));
+    std::filesystem::remove(RutaTrabajo());
+}
+
+// Each time by another series, so that it finds the rows out of order.
+void Ordenar(benchmark::State &estado) {
+    LlenarTrabajo();
+    ArchivoTrabajo.NumSeries = MaxSeries - 1;
+    int serie = 0;
+    for (auto _ : estado)
+        AceptarOrdenacion(nullptr, "S" + std::to_string(serie++ % ArchivoTrabajo.NumSeries), false);
+}
+
 // ----- The batch runner as a process
 
 long MemoriaDelProceso = 0; // kB, the largest run
@@ -363,6 +408,9 @@ int main(int numArgumentos, char **argumentos) {
     registrar("AlmacenDeVuelta", AlmacenDeVuelta, benchmark::kMicrosecond);
     registrar("Rangos", Rangos, benchmark::kMillisecond);
     registrar("Goldfeld", Goldfeld, benchmark::kMillisecond);
+    registrar("GuardarLleno", GuardarLleno, benchmark::kMillisecond);
+    registrar("AbrirLleno", AbrirLleno, benchmark::kMillisecond);
+    registrar("Ordenar", Ordenar, benchmark::kMillisecond);
     registrar("ProcesoKlein", ProcesoKlein, benchmark::kMillisecond);
     benchmark::Initialize(&numArgumentos, argumentos);
     Recogedor recogedor;
@@ -400,6 +448,9 @@ int main(int numArgumentos, char **argumentos) {
           "times", "at most 40");
     Razon("500 replications of a regression, 100 rows / 500 regressions alone",
           t("Replicas") / t("RegresionesSueltas"), "times", "at most 1.5");
+    Razon("A full work file saved", t("GuardarLleno") / 1e6, "ms", "below 200");
+    Razon("  opened", t("AbrirLleno") / 1e6, "ms", "below 100");
+    Razon("4,000 rows of 99 series sorted", t("Ordenar") / 1e6, "ms", "below 100");
     Razon("tabira-lote on Klein's example, the whole process", t("ProcesoKlein") / 1e6, "ms", "below 20");
     Razon("  its memory", static_cast<double>(MemoriaDelProceso) / 1024.0, "MB", "below 64");
     return 0;

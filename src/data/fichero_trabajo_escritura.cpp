@@ -31,20 +31,20 @@ bool EnBlanco(std::string_view texto) {
     return CadenaDeCaracter(texto, ' ') == 1;
 }
 
-FilasAbiertas PrepararInsercion(Tablas *t, const std::string &tabla, int columnas) {
+FilasAbiertas PrepararInsercion(BaseDeTablas *t, const std::string &tabla, int columnas) {
     std::string sql = "INSERT INTO " + tabla + " VALUES(?";
     for (int c = 1; c < columnas; ++c) sql += ",?";
     return PrepararFilas(t, sql + ")");
 }
 
-FilasAbiertas CrearTablaDeTrabajo(Tablas *t, TablasDeTrabajo cual) {
+FilasAbiertas CrearTablaDeTrabajo(BaseDeTablas *t, TablasDeTrabajo cual) {
     const TablaDeFichero &tabla = EsquemaTrabajo[cual];
     if (!EjecutarEnTablas(t, CrearTabla(tabla.nombre, tabla.columnas))) return nullptr;
     return PrepararInsercion(t, tabla.nombre, tabla.numColumnas);
 }
 
 // Creates a table and adds `numero` rows; `poner` sets the cells of row i.
-template <class Poner> bool EscribirTabla(Tablas *t, TablasDeTrabajo cual, int numero, Poner poner) {
+template <class Poner> bool EscribirTabla(BaseDeTablas *t, TablasDeTrabajo cual, int numero, Poner poner) {
     const FilasAbiertas f = CrearTablaDeTrabajo(t, cual);
     bool bien = f != nullptr;
     for (int i = 0; i < numero && bien; ++i) {
@@ -82,9 +82,9 @@ int LugaresEscritos() {
     return n;
 }
 
-bool EscribirCabecera(Tablas *t, int filas, int lugares) {
+bool EscribirCabecera(BaseDeTablas *t, int filas, int lugares) {
     const CabeceraArchivo &a = ArchivoTrabajo;
-    return EscribirTabla(t, TablaCabecera, 1, [&](Filas *f, int) {
+    return EscribirTabla(t, TablaCabecera, 1, [&](FilasDeTabla *f, int) {
         PonerTexto(f, 0, Campo(a.NombreProyecto));
         PonerEntero(f, 1, a.TipoDatos);
         PonerTexto(f, 2, Campo(a.TextoIntervalo));
@@ -96,9 +96,9 @@ bool EscribirCabecera(Tablas *t, int filas, int lugares) {
     });
 }
 
-bool EscribirSeries(Tablas *t, int lugares) {
+bool EscribirSeries(BaseDeTablas *t, int lugares) {
     const auto fila = [](std::int16_t f) { return std::clamp<int>(f, 0, MaxObservaciones - 1) + 1; };
-    return EscribirTabla(t, TablaDeSeries, lugares, [&](Filas *f, int s) {
+    return EscribirTabla(t, TablaDeSeries, lugares, [&](FilasDeTabla *f, int s) {
         PonerEntero(f, 0, s + 1);
         PonerTexto(f, 1, Campo(ArchivoTrabajo.Codigos[s]));
         PonerEntero(f, 2, fila(ArchivoTrabajo.PrimeraObs[s]));
@@ -106,7 +106,7 @@ bool EscribirSeries(Tablas *t, int lugares) {
     });
 }
 
-bool EscribirObservaciones(Tablas *t, int filas, int lugares) {
+bool EscribirObservaciones(BaseDeTablas *t, int filas, int lugares) {
     const CabeceraArchivo &a = ArchivoTrabajo;
     if (!EjecutarEnTablas(t, CrearTabla(TablaObservaciones, ColumnasObservaciones(lugares)))) return false;
     const FilasAbiertas f = PrepararInsercion(t, TablaObservaciones, ColumnasAntesDeSeries + lugares);
@@ -125,9 +125,9 @@ bool EscribirObservaciones(Tablas *t, int filas, int lugares) {
 // ---------------------------------------------------------------------------------------------------------------
 // Matrices, scalars, equations, panel
 
-bool EscribirMatrices(Tablas *t) {
+bool EscribirMatrices(BaseDeTablas *t) {
     const TablaDeMatrices &m = TablaMatrices;
-    return EscribirTabla(t, TablaMatricesFichero, m.numero, [&](Filas *f, int i) {
+    return EscribirTabla(t, TablaMatricesFichero, m.numero, [&](FilasDeTabla *f, int i) {
         const RegistroMatriz &r = m.registro[i];
         PonerEntero(f, 0, i + 1);
         PonerTexto(f, 1, Campo(r.Codigo));
@@ -137,8 +137,8 @@ bool EscribirMatrices(Tablas *t) {
     });
 }
 
-bool EscribirEscalares(Tablas *t) {
-    return EscribirTabla(t, TablaEscalaresFichero, TablaEscalares.numero, [](Filas *f, int i) {
+bool EscribirEscalares(BaseDeTablas *t) {
+    return EscribirTabla(t, TablaEscalaresFichero, TablaEscalares.numero, [](FilasDeTabla *f, int i) {
         PonerEntero(f, 0, i + 1);
         PonerTexto(f, 1, Campo(TablaEscalares.registro[i].Codigo));
         PonerValor(f, 2, TablaEscalares.registro[i].Valor, true);
@@ -146,15 +146,15 @@ bool EscribirEscalares(Tablas *t) {
 }
 
 // Texts as they were typed, with their blanks.
-bool EscribirEcuaciones(Tablas *t) {
-    return EscribirTabla(t, TablaEcuacionesFichero, TablaEcuaciones.numero, [](Filas *f, int i) {
+bool EscribirEcuaciones(BaseDeTablas *t) {
+    return EscribirTabla(t, TablaEcuacionesFichero, TablaEcuaciones.numero, [](FilasDeTabla *f, int i) {
         PonerEntero(f, 0, i + 1);
         PonerTexto(f, 1, TablaEcuaciones.Codigos[i]);
         PonerTexto(f, 2, TablaEcuaciones.TextosEcuacion[i]);
     });
 }
 
-bool EscribirPanelIndividuos(Tablas *t, int entradas) {
+bool EscribirPanelIndividuos(BaseDeTablas *t, int entradas) {
     const FilasAbiertas f = CrearTablaDeTrabajo(t, TablaPanelIndividuos);
     bool bien = f != nullptr;
     for (int e = 0; e < entradas; ++e) {
@@ -170,24 +170,24 @@ bool EscribirPanelIndividuos(Tablas *t, int entradas) {
     return bien;
 }
 
-bool EscribirPanel(Tablas *t) {
+bool EscribirPanel(BaseDeTablas *t) {
     const DescripcionDePanel &p = DescripcionPanel;
     const bool variable = p.FormaPanel == PanelVariable;
     const bool individuos = variable && p.PrimerConcepto == IndividuoPrimero;
     const int entradas =
         !variable ? std::max(p.NumEntradas, 0)
                   : std::clamp<int>(p.NumEntradas, 0, individuos ? MaxIndividuosEtiqueta : MaxPeriodosPanel);
-    const auto ponerPanel = [&](Filas *f, int) {
+    const auto ponerPanel = [&](FilasDeTabla *f, int) {
         PonerEntero(f, 0, p.FormaPanel);
         PonerEntero(f, 1, p.PrimerConcepto);
         PonerEntero(f, 2, entradas);
         PonerEntero(f, 3, p.TipoPeriodoPanel);
     };
-    const auto ponerEtiqueta = [&](Filas *f, int i) {
+    const auto ponerEtiqueta = [&](FilasDeTabla *f, int i) {
         PonerEntero(f, 0, i + 1);
         PonerTexto(f, 1, Campo(p.EtiquetasIndividuo[i]));
     };
-    const auto ponerPeriodo = [&](Filas *f, int i) {
+    const auto ponerPeriodo = [&](FilasDeTabla *f, int i) {
         PonerEntero(f, 0, i + 1);
         PonerTexto(f, 1, Campo(p.periodos[i].periodo));
         PonerEntero(f, 2, p.periodos[i].individuos);
@@ -202,7 +202,7 @@ bool EscribirPanel(Tablas *t) {
 // For who opens the file with another program: the series under their codes, the elements of the matrices one by one.
 // Nothing here is read again, so what fails is left out.
 
-void EscribirVistas(Tablas *t, int lugares) {
+void EscribirVistas(BaseDeTablas *t, int lugares) {
     std::string datos = "CREATE VIEW datos AS SELECT fila, periodo, etiqueta";
     for (int s = 1; s <= lugares; ++s) {
         const std::string_view codigo = Campo(ArchivoTrabajo.Codigos[s - 1]);

@@ -33,7 +33,7 @@ constexpr std::int64_t MaxEntero = std::numeric_limits<std::int32_t>::max();
 
 // A whole number of the row into a field of any width, which holds the bounds.
 template <class Campo>
-bool Entero(Filas *f, int columna, std::int64_t minimo, std::int64_t maximo, Campo &campo) {
+bool Entero(FilasDeTabla *f, int columna, std::int64_t minimo, std::int64_t maximo, Campo &campo) {
     std::int64_t valor = 0;
     if (!LeerEnteroDeFila(f, columna, minimo, maximo, valor)) return false;
     campo = static_cast<Campo>(valor);
@@ -41,7 +41,7 @@ bool Entero(Filas *f, int columna, std::int64_t minimo, std::int64_t maximo, Cam
 }
 
 // A text of the row into a field of its width, padded with blanks.
-template <std::size_t N> bool Texto(Filas *f, int columna, char (&campo)[N]) {
+template <std::size_t N> bool Texto(FilasDeTabla *f, int columna, char (&campo)[N]) {
     std::string texto;
     if (!LeerTextoDeFila(f, columna, static_cast<int>(N) - 1, texto)) return false;
     PonerCampo(campo, texto, static_cast<int>(N));
@@ -49,7 +49,7 @@ template <std::size_t N> bool Texto(Filas *f, int columna, char (&campo)[N]) {
 }
 
 // The same, as it stands in the file.
-template <std::size_t N> bool TextoSinRellenar(Filas *f, int columna, char (&campo)[N]) {
+template <std::size_t N> bool TextoSinRellenar(FilasDeTabla *f, int columna, char (&campo)[N]) {
     std::string texto;
     if (!LeerTextoDeFila(f, columna, static_cast<int>(N) - 1, texto)) return false;
     std::memcpy(campo, texto.c_str(), texto.size() + 1);
@@ -65,8 +65,8 @@ bool EsCodigo(const char *codigo) {
 // Reads all rows of a table, at least `minimo` and at most `maximo`; `leer` reads row i. False at the first that is
 // refused.
 template <class Leer>
-bool RecorrerFilas(Tablas *t, const std::string &tabla, const std::string &orden, int minimo, int maximo,
-                   Leer leer) {
+bool RecorrerFilas(BaseDeTablas *t, const std::string &tabla, const std::string &orden, int minimo,
+                   int maximo, Leer leer) {
     // An index that somebody added may be damaged; the order of the rows is the table's own.
     const FilasAbiertas f = PrepararFilas(t, "SELECT * FROM " + tabla + " NOT INDEXED ORDER BY " + orden);
     if (f == nullptr) return false;
@@ -77,14 +77,15 @@ bool RecorrerFilas(Tablas *t, const std::string &tabla, const std::string &orden
     }
 }
 
-template <class Leer> bool LeerTabla(Tablas *t, TablasDeTrabajo cual, int minimo, int maximo, Leer leer) {
+template <class Leer>
+bool LeerTabla(BaseDeTablas *t, TablasDeTrabajo cual, int minimo, int maximo, Leer leer) {
     const TablaDeFichero &tabla = EsquemaTrabajo[cual];
     return EsTabla(t, tabla.nombre, CrearTabla(tabla.nombre, tabla.columnas)) &&
            RecorrerFilas(t, tabla.nombre, "rowid", minimo, maximo, leer);
 }
 
 // The number of a row stands in its first cell: rows from 1 on, without a gap.
-bool EsFila(Filas *f, int i) {
+bool EsFila(FilasDeTabla *f, int i) {
     std::int64_t numero = 0;
     return LeerEnteroDeFila(f, 0, i + 1, i + 1, numero);
 }
@@ -96,8 +97,8 @@ struct MedidasDeFichero {
     int filas, lugares;
 };
 
-bool LeerCabecera(Tablas *t, CabeceraArchivo &a, MedidasDeFichero &medidas) {
-    return LeerTabla(t, TablaCabecera, 1, 1, [&](Filas *f, int) {
+bool LeerCabecera(BaseDeTablas *t, CabeceraArchivo &a, MedidasDeFichero &medidas) {
+    return LeerTabla(t, TablaCabecera, 1, 1, [&](FilasDeTabla *f, int) {
         return Texto(f, 0, a.NombreProyecto) && Entero(f, 1, TipoSinPeriodicidad, TipoPanel, a.TipoDatos) &&
                Texto(f, 2, a.TextoIntervalo) && Entero(f, 3, 1, MaxObservaciones, a.NumObs) &&
                Entero(f, 4, 0, MaxSeries, a.NumSeries) && Entero(f, 5, 0, 1, a.ConEtiquetas) &&
@@ -106,8 +107,8 @@ bool LeerCabecera(Tablas *t, CabeceraArchivo &a, MedidasDeFichero &medidas) {
     });
 }
 
-bool LeerSeries(Tablas *t, CabeceraArchivo &a, int lugares) {
-    return LeerTabla(t, TablaDeSeries, lugares, lugares, [&](Filas *f, int s) {
+bool LeerSeries(BaseDeTablas *t, CabeceraArchivo &a, int lugares) {
+    return LeerTabla(t, TablaDeSeries, lugares, lugares, [&](FilasDeTabla *f, int s) {
         if (!EsFila(f, s) || !Texto(f, 1, a.Codigos[s]) ||
             !Entero(f, 2, 1, MaxObservaciones, a.PrimeraObs[s]) ||
             !Entero(f, 3, 1, MaxObservaciones, a.UltimaObs[s]))
@@ -118,27 +119,29 @@ bool LeerSeries(Tablas *t, CabeceraArchivo &a, int lugares) {
     });
 }
 
-bool LeerObservaciones(Tablas *t, CabeceraArchivo &a, MedidasDeFichero medidas) {
+bool LeerObservaciones(BaseDeTablas *t, CabeceraArchivo &a, MedidasDeFichero medidas) {
     if (!EsTabla(t, TablaObservaciones,
                  CrearTabla(TablaObservaciones, ColumnasObservaciones(medidas.lugares))))
         return false;
-    return RecorrerFilas(t, TablaObservaciones, "rowid", medidas.filas, medidas.filas, [&](Filas *f, int i) {
-        bool bien = EsFila(f, i) && Texto(f, 1, a.TextosPeriodo[i]) && Texto(f, 2, a.EtiquetasObs[i]);
-        for (int s = 0; s < medidas.lugares && bien; ++s) {
-            bool presente = false;
-            bien = LeerValorDeFila(f, ColumnasAntesDeSeries + s, a.ValoresObs[i][s], presente);
-            a.PresenciaObs[i][s] = presente ? 1 : 0;
-            if (presente || std::bit_cast<std::uint64_t>(a.ValoresObs[i][s]) != 0) a.FilasEscritas[s] = i + 1;
-        }
-        return bien;
-    });
+    return RecorrerFilas(
+        t, TablaObservaciones, "rowid", medidas.filas, medidas.filas, [&](FilasDeTabla *f, int i) {
+            bool bien = EsFila(f, i) && Texto(f, 1, a.TextosPeriodo[i]) && Texto(f, 2, a.EtiquetasObs[i]);
+            for (int s = 0; s < medidas.lugares && bien; ++s) {
+                bool presente = false;
+                bien = LeerValorDeFila(f, ColumnasAntesDeSeries + s, a.ValoresObs[i][s], presente);
+                a.PresenciaObs[i][s] = presente ? 1 : 0;
+                if (presente || std::bit_cast<std::uint64_t>(a.ValoresObs[i][s]) != 0)
+                    a.FilasEscritas[s] = i + 1;
+            }
+            return bien;
+        });
 }
 
 // ---------------------------------------------------------------------------------------------------------------
 // Matrices, scalars, equations
 
-bool LeerMatrices(Tablas *t, TablaDeMatrices &tabla) {
-    return LeerTabla(t, TablaMatricesFichero, 0, MaxMatrices, [&](Filas *f, int i) {
+bool LeerMatrices(BaseDeTablas *t, TablaDeMatrices &tabla) {
+    return LeerTabla(t, TablaMatricesFichero, 0, MaxMatrices, [&](FilasDeTabla *f, int i) {
         Codigo codigo;
         int filas = 0, columnas = 0;
         if (!EsFila(f, i) || !Texto(f, 1, codigo) || !EsCodigo(codigo) ||
@@ -151,8 +154,8 @@ bool LeerMatrices(Tablas *t, TablaDeMatrices &tabla) {
     });
 }
 
-bool LeerEscalares(Tablas *t, TablaDeEscalares &tabla) {
-    return LeerTabla(t, TablaEscalaresFichero, 0, MaxEscalares, [&](Filas *f, int i) {
+bool LeerEscalares(BaseDeTablas *t, TablaDeEscalares &tabla) {
+    return LeerTabla(t, TablaEscalaresFichero, 0, MaxEscalares, [&](FilasDeTabla *f, int i) {
         RegistroEscalar &r = tabla.registro[i];
         bool presente = false;
         tabla.numero = i + 1;
@@ -161,8 +164,8 @@ bool LeerEscalares(Tablas *t, TablaDeEscalares &tabla) {
     });
 }
 
-bool LeerEcuaciones(Tablas *t, TablaDeEcuaciones &tabla) {
-    return LeerTabla(t, TablaEcuacionesFichero, 0, MaxEcuaciones, [&](Filas *f, int i) {
+bool LeerEcuaciones(BaseDeTablas *t, TablaDeEcuaciones &tabla) {
+    return LeerTabla(t, TablaEcuacionesFichero, 0, MaxEcuaciones, [&](FilasDeTabla *f, int i) {
         tabla.numero = static_cast<std::int16_t>(i + 1);
         return EsFila(f, i) && TextoSinRellenar(f, 1, tabla.Codigos[i]) &&
                TextoSinRellenar(f, 2, tabla.TextosEcuacion[i]);
@@ -172,9 +175,9 @@ bool LeerEcuaciones(Tablas *t, TablaDeEcuaciones &tabla) {
 // ---------------------------------------------------------------------------------------------------------------
 // Panel
 
-bool LeerPanelIndividuos(Tablas *t, DescripcionDePanel &p, int entradas) {
+bool LeerPanelIndividuos(BaseDeTablas *t, DescripcionDePanel &p, int entradas) {
     int leidas = 0;
-    const auto leerFila = [&](Filas *f, int) {
+    const auto leerFila = [&](FilasDeTabla *f, int) {
         int entrada = 0, orden = 0;
         char periodo[sizeof p.individuos[0].periodos[0]];
         // A row goes on with the individual before it or begins the next one.
@@ -195,8 +198,8 @@ bool LeerPanelIndividuos(Tablas *t, DescripcionDePanel &p, int entradas) {
            leidas == entradas;
 }
 
-bool LeerPanel(Tablas *t, DescripcionDePanel &p) {
-    const auto leerPanel = [&](Filas *f, int) {
+bool LeerPanel(BaseDeTablas *t, DescripcionDePanel &p) {
+    const auto leerPanel = [&](FilasDeTabla *f, int) {
         return Entero(f, 0, PanelConstante, PanelVariable, p.FormaPanel) &&
                Entero(f, 1, PeriodoPrimero, IndividuoPrimero, p.PrimerConcepto) &&
                Entero(f, 2, 0, MaxEntero, p.NumEntradas) && Entero(f, 3, 0, TipoMensual, p.TipoPeriodoPanel);
@@ -207,10 +210,10 @@ bool LeerPanel(Tablas *t, DescripcionDePanel &p) {
     if (variable && p.NumEntradas > (individuos ? MaxIndividuosEtiqueta : MaxPeriodosPanel)) return false;
     const int entradas = variable ? p.NumEntradas : 0;
     const int periodos = individuos ? 0 : entradas;
-    const auto leerEtiqueta = [&](Filas *f, int i) {
+    const auto leerEtiqueta = [&](FilasDeTabla *f, int i) {
         return EsFila(f, i) && Texto(f, 1, p.EtiquetasIndividuo[i]);
     };
-    const auto leerPeriodo = [&](Filas *f, int i) {
+    const auto leerPeriodo = [&](FilasDeTabla *f, int i) {
         return EsFila(f, i) && Texto(f, 1, p.periodos[i].periodo) &&
                Entero(f, 2, 0, MaxEntero, p.periodos[i].individuos);
     };
@@ -228,7 +231,7 @@ void EmpezarCopia(CopiaTrabajo &c) {
     for (auto &texto : c.archivo.TextosPeriodo) RellenarCadena(texto, ' ', AnchoPeriodo - 1);
 }
 
-bool LeerCopia(Tablas *t, CopiaTrabajo &c) {
+bool LeerCopia(BaseDeTablas *t, CopiaTrabajo &c) {
     MedidasDeFichero medidas{};
     EmpezarCopia(c);
     return LeerCabecera(t, c.archivo, medidas) && LeerSeries(t, c.archivo, medidas.lugares) &&

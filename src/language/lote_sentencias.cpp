@@ -8,6 +8,7 @@
 #include <algorithm>
 
 EstadoLote Lote{1, 2, 0, 0};
+void (*AntesDeCadaLote)() = nullptr;
 
 namespace {
 
@@ -63,6 +64,7 @@ int MensajeNumerado(Ventana *ventana, int punto, std::string_view texto) {
 
 int ProcesarLote(Ventana *ventana, ControlTexto *control, int origen, std::string_view texto, int primera,
                  int ultima) {
+    if (AntesDeCadaLote != nullptr) AntesDeCadaLote();
     Lote.detenido = 1;
     ultima = FinDeCalculo(ultima);
     Evaluador.ventana = ventana;

@@ -18,6 +18,9 @@ extern EstadoLote Lote;
 // Start values.
 void IniciarLote();
 
+// Called before each batch, where a program sets it: the desktop keeps a copy of the work, since a batch may never end.
+extern void (*AntesDeCadaLote)();
+
 // Runs a batch. `origen` 0 runs the selection of `control` and ignores `texto`; any other value runs `texto` as one
 // statement. `primera` and `ultima` are the rows to work on. Result always 0; Lote.detenido tells how it ended.
 int ProcesarLote(Ventana *ventana, ControlTexto *control, int origen, std::string_view texto, int primera,

@@ -2,6 +2,8 @@
 #include "lote/acciones.h"
 
 #include "charts/resultados/seleccion.h"
+#include "data/observaciones.h"
+#include "data/trabajo.h"
 #include "estimation/ecuaciones.h"
 #include "estimation/listados_regresion.h"
 #include "estimation/regresion.h"
@@ -13,6 +15,7 @@
 #include "lote/tipo.h"
 #include "platform/archivos.h"
 #include "platform/campos_texto.h"
+#include "platform/numeros.h"
 #include "platform/texto.h"
 #include "shell/listas.h"
 #include "shell/ultima_regresion.h"
@@ -140,6 +143,26 @@ bool LeerRuta(const std::string &valor, Accion &) {
     return !valor.empty();
 }
 
+constexpr std::string_view NombresOrden[] = {"ascendente", "descendente"}; // the first one is never written
+
+bool LeerOrdenacion(const std::string &valor, Accion &accion) {
+    const std::size_t dosPuntos = std::min(valor.find(':'), valor.size());
+    accion.elemento = Texto1252DeUtf8(std::string_view(valor).substr(0, dosPuntos));
+    if (accion.elemento.empty()) return false;
+    if (dosPuntos == valor.size()) return true;
+    return Elegir(NombresOrden, std::string_view(valor).substr(dosPuntos + 1), accion.numero) &&
+           accion.numero == 1;
+}
+
+// From 1 on in the command line, from 0 on in the tables.
+bool LeerObservacion(const std::string &valor, Accion &accion) {
+    constexpr std::size_t Cifras = 4;
+    if (valor.empty() || valor.size() > Cifras || valor.find_first_not_of("0123456789") != std::string::npos)
+        return false;
+    accion.numero = LeerEntero(valor) - 1;
+    return accion.numero >= 0 && accion.numero < MaxObservaciones;
+}
+
 // ---------------------------------------------------------------------------------------------------------------
 // The actions
 
@@ -182,6 +205,41 @@ bool HacerImportar(const Accion &accion) {
 bool HacerExportar(const Accion &accion) {
     ActualizarMuestra();
     return EjecutarIntercambio(nullptr, Corrida.formato, false, accion.valor);
+}
+
+bool HacerTrabajo(const Accion &accion, ComandosDeTrabajo comando) {
+    ActualizarMuestra();
+    Corrida.archivo = accion.valor;
+    return EjecutarTrabajo(nullptr, comando);
+}
+
+bool HacerAbrir(const Accion &accion) {
+    return HacerTrabajo(accion, AbrirTrabajo);
+}
+
+bool HacerGuardar(const Accion &accion) {
+    return HacerTrabajo(accion, GuardarTrabajoComo);
+}
+
+// What comes before the two commands on observations, as in the editor: its guard, what it greys, its check.
+bool EmpezarConObservaciones(const char *accion) {
+    if (!HayTipoDeDatos("Tipo de datos no válido"_w)) return false;
+    ActualizarMuestra();
+    if (ConObservacionesLibres()) return EmpezarObservaciones(nullptr);
+    Quejarse(std::string(accion) + " solo es posible con datos sin periodicidad");
+    return false;
+}
+
+bool HacerOrdenar(const Accion &accion) {
+    return EmpezarConObservaciones("--ordenar") &&
+           AceptarOrdenacion(nullptr, accion.elemento, accion.numero == 1) == OrdenacionHecha;
+}
+
+bool HacerEliminarObservacion(const Accion &accion) {
+    if (!EmpezarConObservaciones("--eliminar-observacion") || !EliminarObservacion(nullptr, accion.numero))
+        return false;
+    ActualizarLimitesSeries(); // as the editor does when it is left
+    return true;
 }
 
 bool HacerProcesar(const Accion &accion) {
@@ -323,6 +381,11 @@ constexpr FilaDeAccion TablaAcciones[] = {
      "formato de registro: variable:OP,... o fijo:..."},
     {"--importar", "ARCHIVO", LeerTexto, HacerImportar, "importa series de un archivo ASCII"},
     {"--exportar", "ARCHIVO", LeerTexto, HacerExportar, "exporta las series a un archivo ASCII"},
+    {"--abrir", "ARCHIVO", LeerRuta, HacerAbrir, "abre un archivo de trabajo (*.TR2)"},
+    {"--guardar", "ARCHIVO", LeerRuta, HacerGuardar, "guarda el archivo de trabajo"},
+    {"--ordenar", "X[:descendente]", LeerOrdenacion, HacerOrdenar, "ordena las observaciones por una serie"},
+    {"--eliminar-observacion", "N", LeerObservacion, HacerEliminarObservacion,
+     "elimina una observación, desde 1"},
     {"--procesar", "ARCHIVO", LeerTexto, HacerProcesar,
      "procesa un archivo de sentencias (-: entrada estándar)"},
     {"--sentencia", "TEXTO", LeerTexto, HacerSentencia, "ejecuta una sentencia"},
@@ -348,12 +411,8 @@ constexpr FilaDeAccion TablaAcciones[] = {
     {"--transformar", "X:DESTINO:OP=N,...", LeerTransformacion, HacerTransformar,
      "transforma X; OP: boxcox, estacional, regular"},
     {"--volcado", nullptr, nullptr, HacerVolcado, "muestra el contenido del archivo de trabajo"},
-    {"--abrir", "ARCHIVO", nullptr, nullptr, nullptr},
-    {"--guardar", "ARCHIVO", nullptr, nullptr, nullptr},
     {"--histograma", "X", nullptr, nullptr, nullptr},
     {"--grafico", "G", nullptr, nullptr, nullptr},
-    {"--ordenar", "X", nullptr, nullptr, nullptr},
-    {"--eliminar-observacion", "N", nullptr, nullptr, nullptr},
     {"--graficos", "DIR", nullptr, nullptr, nullptr},
 };
 

@@ -3,7 +3,7 @@
 
 #include "lote/formato.h"
 
-#include <string_view>
+#include <string>
 
 enum RespuestasDeCorrida { ResponderSi, ResponderNo, ResponderCancelar };
 
@@ -13,6 +13,7 @@ struct EstadoDeCorrida {
     bool imprimirSalidas;          // print every result window, too
     RespuestasDeCorrida respuesta; // to the questions that follow
     FormatoAscii formato;          // of the imports and exports that follow
+    std::string archivo;           // what the action at hand answers when a file is asked for
 };
 
 extern EstadoDeCorrida Corrida;

@@ -219,6 +219,11 @@ void InstalarPlataformaLote() {
         .textoDeControl = TextoDelControl,
         .seleccionDeControl = SeleccionDelControl,
         .mostrarResultado = MostrarResultado,
+        .elegirArchivo =
+            [](Ventana *, const PeticionArchivo &, std::string &ruta) {
+                ruta = Corrida.archivo;
+                return true;
+            },
         .segundos = [] { return static_cast<std::int32_t>(std::time(nullptr)); },
     };
     InstalarPlataforma(Operaciones);

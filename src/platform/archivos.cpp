@@ -1,6 +1,8 @@
 // Reading and writing whole files.
 #include "platform/archivos.h"
 
+#include "platform/texto.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
@@ -101,4 +103,18 @@ bool EscribirArchivo(const std::string &ruta, std::string_view contenido) {
 bool ExisteArchivo(const std::string &ruta) {
     std::error_code error;
     return std::filesystem::exists(ruta, error);
+}
+
+std::string NombreDeRuta(const std::string &ruta) {
+    return Texto1252DeUtf8(std::filesystem::path(ruta).stem().string());
+}
+
+std::string CarpetaDeRuta(const std::string &ruta) {
+    return std::filesystem::path(ruta).parent_path().string();
+}
+
+std::string RutaJunto(const std::string &ruta, std::string_view nombre) {
+    if (nombre.empty() || nombre == "." || nombre == ".." || nombre.find('/') != std::string_view::npos)
+        return {};
+    return (std::filesystem::path(ruta).parent_path() / Utf8De1252(nombre)).string();
 }

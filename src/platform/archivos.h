@@ -20,3 +20,15 @@ bool LeerEntradaEstandar(std::string &contenido);
 bool EscribirArchivo(const std::string &ruta, std::string_view contenido);
 
 bool ExisteArchivo(const std::string &ruta);
+
+// ---------------------------------------------------------------------------------------------------------------
+// Parts of paths
+
+// The last name of a path without its ending, as text of the core: characters that Windows-1252 lacks become "?".
+std::string NombreDeRuta(const std::string &ruta);
+
+// The folder of a path, empty where it names none.
+std::string CarpetaDeRuta(const std::string &ruta);
+
+// The path of the file of this name, text of the core, in the folder of `ruta`. Empty for a name that can't be one.
+std::string RutaJunto(const std::string &ruta, std::string_view nombre);

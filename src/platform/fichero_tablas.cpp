@@ -9,13 +9,13 @@
 #include <cstring>
 #include <sqlite3.h>
 
-struct Tablas {
+struct BaseDeTablas {
     sqlite3 *base = nullptr;
     std::string bytes; // what was read; the database stands on it
     int trozosDeTrabajo = 0;
 };
 
-struct Filas {
+struct FilasDeTabla {
     sqlite3_stmt *sentencia = nullptr;
     bool bien = true; // every cell that was set was taken
 };
@@ -54,18 +54,18 @@ double LeerDoble(const unsigned char *origen) {
 }
 
 TablasAbiertas AbrirEnMemoria() {
-    TablasAbiertas t(new Tablas);
+    TablasAbiertas t(new BaseDeTablas);
     const int modo = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_MEMORY;
     if (sqlite3_open_v2(":memory:", &t->base, modo, nullptr) != SQLITE_OK) return nullptr;
     return t;
 }
 
 int GastarTrabajo(void *tablas) {
-    return ++static_cast<Tablas *>(tablas)->trozosDeTrabajo > MaxTrozosDeTrabajo ? 1 : 0;
+    return ++static_cast<BaseDeTablas *>(tablas)->trozosDeTrabajo > MaxTrozosDeTrabajo ? 1 : 0;
 }
 
 // Whatever stands in the file: nothing in it runs, and what it may take has bounds.
-void Proteger(Tablas *t) {
+void Proteger(BaseDeTablas *t) {
     constexpr int Apagados[] = {SQLITE_DBCONFIG_TRUSTED_SCHEMA, SQLITE_DBCONFIG_ENABLE_VIEW,
                                 SQLITE_DBCONFIG_ENABLE_TRIGGER, SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION,
                                 SQLITE_DBCONFIG_ENABLE_FTS3_TOKENIZER};
@@ -90,12 +90,12 @@ LecturasDeTablas MirarCabecera(std::string_view bytes, const MarcaDeFichero &mar
 
 } // namespace
 
-void CierreDeTablas::operator()(Tablas *tablas) const {
+void CierreDeTablas::operator()(BaseDeTablas *tablas) const {
     sqlite3_close(tablas->base);
     delete tablas;
 }
 
-void CierreDeFilas::operator()(Filas *filas) const {
+void CierreDeFilas::operator()(FilasDeTabla *filas) const {
     sqlite3_finalize(filas->sentencia);
     delete filas;
 }
@@ -115,7 +115,7 @@ TablasAbiertas CrearTablas(const MarcaDeFichero &marca) {
     return bien ? std::move(t) : nullptr;
 }
 
-bool EscribirTablas(Tablas *tablas, const std::string &ruta) {
+bool EscribirTablas(BaseDeTablas *tablas, const std::string &ruta) {
     if (!EjecutarEnTablas(tablas, "COMMIT")) return false;
     sqlite3_int64 n = 0;
     unsigned char *bytes = sqlite3_serialize(tablas->base, "main", &n, 0);
@@ -142,11 +142,11 @@ TablasAbiertas LeerTablas(const std::string &ruta, const MarcaDeFichero &marca, 
     return t;
 }
 
-bool EjecutarEnTablas(Tablas *tablas, const std::string &sql) {
+bool EjecutarEnTablas(BaseDeTablas *tablas, const std::string &sql) {
     return sqlite3_exec(tablas->base, Utf8De1252(sql).c_str(), nullptr, nullptr, nullptr) == SQLITE_OK;
 }
 
-bool EsTabla(Tablas *tablas, const std::string &nombre, const std::string &sql) {
+bool EsTabla(BaseDeTablas *tablas, const std::string &nombre, const std::string &sql) {
     // The type too: a view may bear the name, and the text of a virtual table would run its module.
     const FilasAbiertas f =
         PrepararFilas(tablas, "SELECT type, sql FROM sqlite_master WHERE name = '" + nombre + "'");
@@ -159,8 +159,8 @@ bool EsTabla(Tablas *tablas, const std::string &nombre, const std::string &sql) 
 // ---------------------------------------------------------------------------------------------------------------
 // Rows
 
-FilasAbiertas PrepararFilas(Tablas *tablas, const std::string &sql) {
-    FilasAbiertas f(new Filas);
+FilasAbiertas PrepararFilas(BaseDeTablas *tablas, const std::string &sql) {
+    FilasAbiertas f(new FilasDeTabla);
     if (sqlite3_prepare_v2(tablas->base, sql.c_str(), -1, &f->sentencia, nullptr) != SQLITE_OK)
         return nullptr;
     return f;
@@ -168,23 +168,23 @@ FilasAbiertas PrepararFilas(Tablas *tablas, const std::string &sql) {
 
 namespace {
 
-void Anotar(Filas *filas, int resultado) {
+void Anotar(FilasDeTabla *filas, int resultado) {
     if (resultado != SQLITE_OK) filas->bien = false;
 }
 
 } // namespace
 
-void PonerEntero(Filas *filas, int columna, std::int64_t valor) {
+void PonerEntero(FilasDeTabla *filas, int columna, std::int64_t valor) {
     Anotar(filas, sqlite3_bind_int64(filas->sentencia, columna + 1, valor));
 }
 
-void PonerTexto(Filas *filas, int columna, std::string_view texto) {
+void PonerTexto(FilasDeTabla *filas, int columna, std::string_view texto) {
     const std::string utf8 = Utf8De1252(texto);
     Anotar(filas, sqlite3_bind_text(filas->sentencia, columna + 1, utf8.c_str(),
                                     static_cast<int>(utf8.size()), SQLITE_TRANSIENT));
 }
 
-void PonerDobles(Filas *filas, int columna, const double *valores, int n) {
+void PonerDobles(FilasDeTabla *filas, int columna, const double *valores, int n) {
     const std::size_t bytes = static_cast<std::size_t>(n) * BytesDeDoble;
     auto *destino = static_cast<unsigned char *>(sqlite3_malloc64(bytes > 0 ? bytes : 1));
     if (destino == nullptr) {
@@ -196,7 +196,7 @@ void PonerDobles(Filas *filas, int columna, const double *valores, int n) {
     Anotar(filas, sqlite3_bind_blob64(filas->sentencia, columna + 1, destino, bytes, sqlite3_free));
 }
 
-void PonerValor(Filas *filas, int columna, double valor, bool presente) {
+void PonerValor(FilasDeTabla *filas, int columna, double valor, bool presente) {
     const auto bits = std::bit_cast<std::uint64_t>(valor);
     if (!presente && bits == 0) {
         Anotar(filas, sqlite3_bind_null(filas->sentencia, columna + 1));
@@ -210,13 +210,13 @@ void PonerValor(Filas *filas, int columna, double valor, bool presente) {
     }
 }
 
-bool AnadirFila(Filas *filas) {
+bool AnadirFila(FilasDeTabla *filas) {
     const bool hecho = filas->bien && sqlite3_step(filas->sentencia) == SQLITE_DONE;
     Anotar(filas, sqlite3_reset(filas->sentencia));
     return hecho;
 }
 
-PasosDeFila SiguienteFila(Filas *filas) {
+PasosDeFila SiguienteFila(FilasDeTabla *filas) {
     switch (sqlite3_step(filas->sentencia)) {
     case SQLITE_ROW: return HayFila;
     case SQLITE_DONE: return NoHayMasFilas;
@@ -224,7 +224,7 @@ PasosDeFila SiguienteFila(Filas *filas) {
     }
 }
 
-bool LeerEnteroDeFila(Filas *filas, int columna, std::int64_t minimo, std::int64_t maximo,
+bool LeerEnteroDeFila(FilasDeTabla *filas, int columna, std::int64_t minimo, std::int64_t maximo,
                       std::int64_t &valor) {
     if (sqlite3_column_type(filas->sentencia, columna) != SQLITE_INTEGER) return false;
     const std::int64_t leido = sqlite3_column_int64(filas->sentencia, columna);
@@ -233,7 +233,7 @@ bool LeerEnteroDeFila(Filas *filas, int columna, std::int64_t minimo, std::int64
     return true;
 }
 
-bool LeerTextoDeFila(Filas *filas, int columna, int maximo, std::string &texto) {
+bool LeerTextoDeFila(FilasDeTabla *filas, int columna, int maximo, std::string &texto) {
     if (sqlite3_column_type(filas->sentencia, columna) != SQLITE_TEXT) return false;
     const auto *utf8 = reinterpret_cast<const char *>(sqlite3_column_text(filas->sentencia, columna));
     const int n = sqlite3_column_bytes(filas->sentencia, columna);
@@ -246,7 +246,7 @@ bool LeerTextoDeFila(Filas *filas, int columna, int maximo, std::string &texto) 
     return true;
 }
 
-bool LeerDoblesDeFila(Filas *filas, int columna, double *valores, int n) {
+bool LeerDoblesDeFila(FilasDeTabla *filas, int columna, double *valores, int n) {
     if (sqlite3_column_type(filas->sentencia, columna) != SQLITE_BLOB) return false;
     const auto *bytes = static_cast<const unsigned char *>(sqlite3_column_blob(filas->sentencia, columna));
     if (static_cast<std::size_t>(sqlite3_column_bytes(filas->sentencia, columna)) !=
@@ -256,7 +256,7 @@ bool LeerDoblesDeFila(Filas *filas, int columna, double *valores, int n) {
     return true;
 }
 
-bool LeerValorDeFila(Filas *filas, int columna, double &valor, bool &presente) {
+bool LeerValorDeFila(FilasDeTabla *filas, int columna, double &valor, bool &presente) {
     sqlite3_stmt *s = filas->sentencia;
     switch (sqlite3_column_type(s, columna)) {
     case SQLITE_NULL:

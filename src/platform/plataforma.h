@@ -38,6 +38,7 @@ struct PeticionArchivo {
     std::string_view nombre;                  // suggested
     // Whoever asks looks at the name: one with another ending keeps it, and no question is put before a file is replaced.
     bool nombreLibre = false;
+    std::string_view carpeta = {}; // path of the one to begin with; empty: the user's documents
 };
 
 // What a program doesn't give is null, and does nothing: no text, no selection, no file, second 0. A box it always gives.

@@ -3,10 +3,14 @@
 
 #include "analysis/prediccion.h"
 #include "charts/resultados/listados.h"
+#include "data/copia_seguridad.h"
+#include "data/fichero_sentencias.h"
 #include "data/intercambio.h"
 #include "data/rejilla.h"
+#include "data/trabajo.h"
+#include "language/lote_sentencias.h"
 #include "language/palabras.h"
-#include "platform/campos_texto.h"
+#include "platform/carpeta_estado.h"
 #include "shell/ayuda.h"
 #include "shell/listas.h"
 #include "store/archivo.h"
@@ -32,6 +36,14 @@ void Salir(Ventana *ventana, int) {
     CerrarPrograma(ventana);
 }
 
+template <ComandosDeTrabajo cual> void ConTrabajo(Ventana *ventana, int) {
+    EjecutarTrabajo(ventana, cual);
+}
+
+template <ComandosDeSentencias cual> void ConSentencias(Ventana *ventana, int) {
+    ComandoSentencias(ventana, Escritorio->pantallaEdicion(ventana), cual);
+}
+
 void Deshacer(Ventana *ventana, int) {
     Escritorio->editar(ventana, EditarDeshacer);
 }
@@ -47,8 +59,7 @@ void Pegar(Ventana *ventana, int) {
 
 void ElegirTipo(Ventana *ventana, int) {
     AbrirDialogo(ventana, Dialogo::TipoDatos);
-    // The title is rebuilt whether the user accepted or not.
-    PonerTitulo(ventana, "Tabira: " + std::string(Recortado(ArchivoTrabajo.NombreProyecto, RecorteDerecha)));
+    PonerTituloTrabajo(ventana); // whether the user accepted or not
 }
 
 void Procesar(Ventana *ventana, int) {
@@ -118,9 +129,11 @@ constexpr const char *MenuDeAyuda = "A&yuda";
 // Entries without a routine are announced and not built yet; they all open the same dialog. Those with the id
 // ComandoSinEnsamblar are announced for good: three entries share it.
 const Comando TablaComandos[] = {
-    {ComandoAbrirTrabajo, Archivo, "&Abrir archivo trabajo...", true, nullptr, nullptr},
-    {ComandoGuardarTrabajo, Archivo, "&Guardar archivo trabajo ... ", true, nullptr, nullptr},
-    {ComandoGuardarTrabajoComo, Archivo, "Guardar archivo &trabajo como ...", true, nullptr, nullptr},
+    {ComandoAbrirTrabajo, Archivo, "&Abrir archivo trabajo...", true, nullptr, ConTrabajo<AbrirTrabajo>},
+    {ComandoGuardarTrabajo, Archivo, "&Guardar archivo trabajo ... ", true, nullptr,
+     ConTrabajo<GuardarTrabajo>},
+    {ComandoGuardarTrabajoComo, Archivo, "Guardar archivo &trabajo como ...", true, nullptr,
+     ConTrabajo<GuardarTrabajoComo>},
     {ComandoSalir, Archivo, "&Salir", false, nullptr, Salir},
     {ComandoDeshacer, Edicion, "&Deshacer", false, nullptr, Deshacer},
     {ComandoCortar, Edicion, "&Cortar", false, nullptr, Cortar},
@@ -175,9 +188,12 @@ const Comando TablaComandos[] = {
     {ComandoImportar, Util, "I&mportar de ASCII...", true, SinTipo, Importar},
     {ComandoSinEnsamblar, Util, "&Combinar archivos", false, nullptr, NoEstaEnsamblada},
     {ComandoImprimirSeleccion, Util, "&Imprimir selección"_w, false, nullptr, ImprimirTexto},
-    {ComandoAbrirSentencias, Util, "&Abrir fichero sentencias...", false, nullptr, nullptr},
-    {ComandoGuardarSentencias, Util, "&Guardar fichero sentencias...", false, nullptr, nullptr},
-    {ComandoAnadirSentencias, Util, "Aña&dir fichero sentencias..."_w, false, nullptr, nullptr},
+    {ComandoAbrirSentencias, Util, "&Abrir fichero sentencias...", false, nullptr,
+     ConSentencias<AbrirSentencias>},
+    {ComandoGuardarSentencias, Util, "&Guardar fichero sentencias...", false, nullptr,
+     ConSentencias<GuardarSentencias>},
+    {ComandoAnadirSentencias, Util, "Aña&dir fichero sentencias..."_w, false, nullptr,
+     ConSentencias<AnadirSentencias>},
     {ComandoAyudaReglas, MenuDeAyuda, "&Reglas generales...", false, nullptr, VerAyuda},
     {ComandoAyudaMuestra, MenuDeAyuda, "Acotación de la muestra..."_w, false, nullptr, VerAyuda},
     {ComandoAyudaSeries, MenuDeAyuda, "&Transformación de series..."_w, false, nullptr, VerAyuda},
@@ -220,17 +236,15 @@ void EjecutarComando(Ventana *ventana, int id) {
 }
 
 bool CerrarPrograma(Ventana *ventana) {
+    Respuesta respuesta = RespuestaNo;
     // With neither series nor matrices the question isn't asked, even if there are scalars.
-    if (ArchivoTrabajo.NumSeries > 0 || TablaMatrices.numero > 0) {
-        const Respuesta respuesta = MostrarCaja(ventana, "¿Desea guardar su trabajo?"_w, TituloAviso,
-                                                IconoPregunta, BotonesSiNoCancelar);
-        if (respuesta == RespuestaCancelar) return false;
-        if (respuesta == RespuestaSi) {
-            EjecutarComando(ventana, ComandoGuardarTrabajo);
-            // Saving isn't built yet: whoever asked for it keeps the work and the program.
-            return false;
-        }
-    }
+    if (ArchivoTrabajo.NumSeries > 0 || TablaMatrices.numero > 0)
+        respuesta = MostrarCaja(ventana, "¿Desea guardar su trabajo?"_w, TituloAviso, IconoPregunta,
+                                BotonesSiNoCancelar);
+    if (respuesta == RespuestaCancelar) return false;
+    if (respuesta == RespuestaSi) EjecutarComando(ventana, ComandoGuardarTrabajo);
+    // The program ends also when the save came to nothing: the copy is kept then, for the next start.
+    if (!TerminarCopias(respuesta == RespuestaSi)) return false;
     LiberarMatrices();
     Escritorio->destruir(ventana);
     return true;
@@ -239,4 +253,11 @@ bool CerrarPrograma(Ventana *ventana) {
 void IniciarPrograma() {
     IniciarArchivoTrabajo();
     IniciarProcedimientos();
+    Trabajo = {};
+}
+
+void IniciarCopias(Ventana *ventana) {
+    EmpezarCopias(CarpetaDeEstado());
+    AntesDeCadaLote = GuardarCopia;
+    OfrecerCopia(ventana);
 }

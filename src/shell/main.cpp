@@ -1,4 +1,5 @@
 // tabira: the desktop program. It takes no options.
+#include "platform/qt/ventana_qt.h"
 #include "shell/comandos.h"
 #include "shell/ventanas/aplicacion.h"
 #include "shell/ventanas/escritorio.h"
@@ -13,5 +14,6 @@ int main(int numArgumentos, char **argumentos) {
     VentanaPrincipal ventana;
     ventana.showMaximized();
     IniciarPrograma();
+    IniciarCopias(AVentana(&ventana));
     return QApplication::exec();
 }

@@ -1,13 +1,16 @@
 // The main window from its first paint to its end.
 #include "apoyo_escritorio.h"
 
+#include "data/copia_seguridad.h"
 #include "platform/campos_texto.h"
 #include "platform/qt/ventana_qt.h"
 #include "shell/comandos.h"
 #include "store/archivo.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QLabel>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QWindow>
 
@@ -52,7 +55,7 @@ constexpr CasoCierre Casos[] = {
     {"a series, cancel", true, false, false, "Cancelar", false},
     {"a matrix, no", false, true, false, "No", true},
     {"a matrix, cancel", false, true, true, "Cancelar", false},
-    {"a series, yes", true, false, false, "Si", false}, // saving isn't built: the work isn't thrown away
+    {"a series, yes", true, false, false, "Si", true}, // the save is cancelled: the work stays as a copy
 };
 
 // How often the picture is painted, and under which cursor.
@@ -92,9 +95,14 @@ TEST_F(Cierre, ConSuPregunta) {
             Guion guion;
             if (c.boton != nullptr) guion.push_back(Pregunta(c.boton));
             if (c.boton != nullptr && std::string(c.boton) == "Si")
-                guion.push_back(Pulsando("Opción del menú", "OK"));
+                guion.push_back(ConEscape("Guardar archivo de trabajo"));
+            const QTemporaryDir estado;
+            EmpezarCopias(estado.path().toStdString());
             EXPECT_EQ(Cerrar(*ventana, forma, guion), c.termina);
             EXPECT_EQ(ventana->isVisible(), !c.termina);
+            EXPECT_EQ(QDir(estado.path()).entryList({QStringLiteral("*.TR2")}).size(),
+                      guion.size() == 2 ? 1 : 0);
+            TerminarCopias(false);
             if (c.termina) continue;
             EXPECT_EQ(ArchivoTrabajo.NumSeries, c.serie ? 1 : 0);
             EXPECT_EQ(TablaMatrices.numero, c.matriz ? 1 : 0);

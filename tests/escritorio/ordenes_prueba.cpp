@@ -25,9 +25,9 @@ constexpr const char *Heteroscedasticidad = "Contrastes/Contrastes de heterosced
 constexpr const char *Autocorrelacion = "Contrastes/Contrastes de autocorrelación";
 
 constexpr EntradaEsperada Entradas[] = {
-    {2055, "Archivo", "&Abrir archivo trabajo...", nullptr, true},
-    {2056, "Archivo", "&Guardar archivo trabajo ... ", nullptr, true},
-    {2057, "Archivo", "Guardar archivo &trabajo como ...", nullptr, true},
+    {2055, "Archivo", "&Abrir archivo trabajo..."},
+    {2056, "Archivo", "&Guardar archivo trabajo ... "},
+    {2057, "Archivo", "Guardar archivo &trabajo como ..."},
     {2021, "Archivo", "&Salir"},
     {2047, "Edición", "&Deshacer"},
     {2048, "Edición", "&Cortar"},
@@ -67,9 +67,9 @@ constexpr EntradaEsperada Entradas[] = {
     {2072, "Util.", "I&mportar de ASCII...", Plural},
     {2002, "Util.", "&Combinar archivos", nullptr, true},
     {2088, "Util.", "&Imprimir selección"},
-    {2092, "Util.", "&Abrir fichero sentencias...", nullptr, true},
-    {2091, "Util.", "&Guardar fichero sentencias...", nullptr, true},
-    {2090, "Util.", "Aña&dir fichero sentencias...", nullptr, true},
+    {2092, "Util.", "&Abrir fichero sentencias..."},
+    {2091, "Util.", "&Guardar fichero sentencias..."},
+    {2090, "Util.", "Aña&dir fichero sentencias..."},
     {2067, "Ayuda", "&Reglas generales..."},
     {2101, "Ayuda", "Acotación de la muestra..."},
     {2051, "Ayuda", "&Transformación de series..."},

@@ -18,7 +18,7 @@ int main(int numArgumentos, char **argumentos) {
     qputenv("HOME", casa.toUtf8());
     qputenv("XDG_DOCUMENTS_DIR", (casa + QStringLiteral("/Documents")).toUtf8());
     qputenv("CUPS_SERVER", "127.0.0.1:1");
-    for (const char *variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "PRINTER", "LPDEST"})
+    for (const char *variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME", "PRINTER", "LPDEST"})
         qunsetenv(variable);
     // Of windows without a screen the toolkit says nothing of interest.
     qputenv("QT_LOGGING_RULES", "qt.qpa.*=false;default.warning=false");

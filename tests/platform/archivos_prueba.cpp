@@ -149,4 +149,37 @@ TEST_F(Archivos, UnDispositivoSeEscribeEnSuSitio) {
     EXPECT_TRUE(fs::is_character_file("/dev/null"));
 }
 
+TEST_F(Archivos, HastaUnMaximoPropio) {
+    ASSERT_TRUE(EscribirArchivo(Ruta("a"), std::string(1000, 'x')));
+    std::string leido;
+    EXPECT_TRUE(LeerArchivo(Ruta("a"), leido, 1000));
+    EXPECT_EQ(leido.size(), 1000u);
+    EXPECT_FALSE(LeerArchivo(Ruta("a"), leido, 999));
+    EXPECT_FALSE(LeerArchivo("/dev/zero", leido, 100000));
+}
+
+TEST(Rutas, Partes) {
+    struct {
+        const char *ruta, *nombre, *carpeta;
+    } const casos[] = {
+        {"/casa/klein.TR2", "klein", "/casa"},
+        {"klein", "klein", ""},
+        {"a/b.c.TR2", "b.c", "a"},
+        {"/klein.TR2", "klein", "/"},
+        {"/a.b/c", "c", "/a.b"},
+        {"/x/.TR2", ".TR2", "/x"},
+        {"/x/pe\xC3\xB1\xC3\xB3n.tr2", "pe\xF1\xF3n", "/x"},
+        {"/x/\xE6\x97\xA5.tr2", "?", "/x"},
+        {"", "", ""},
+    };
+    for (const auto &c : casos) {
+        EXPECT_EQ(NombreDeRuta(c.ruta), c.nombre);
+        EXPECT_EQ(CarpetaDeRuta(c.ruta), c.carpeta);
+    }
+    EXPECT_EQ(RutaJunto("/casa/klein.TR2", "otro.TR2"), "/casa/otro.TR2");
+    EXPECT_EQ(RutaJunto("klein.TR2", "otro.TR2"), "otro.TR2");
+    EXPECT_EQ(RutaJunto("/x/klein.TR2", "a\xF1o"), "/x/a\xC3\xB1o");
+    for (const char *nombre : {"", ".", "..", "a/b", "/etc"}) EXPECT_EQ(RutaJunto("/x/y", nombre), "");
+}
+
 } // namespace

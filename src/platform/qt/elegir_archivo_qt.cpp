@@ -28,8 +28,11 @@ QString ConTerminacion(const QString &ruta, std::span<const FormatoArchivo> form
 bool ElegirArchivoQt(Ventana *ventana, const PeticionArchivo &peticion, std::string &ruta) {
     QStringList filtros;
     for (const FormatoArchivo &f : peticion.formatos) filtros << QDe1252(f.filtro);
-    QFileDialog dialogo(DeVentana(ventana), QDe1252(peticion.titulo),
-                        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+    const QString carpeta = peticion.carpeta.empty()
+                                ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                                : QString::fromLocal8Bit(peticion.carpeta.data(),
+                                                         static_cast<qsizetype>(peticion.carpeta.size()));
+    QFileDialog dialogo(DeVentana(ventana), QDe1252(peticion.titulo), carpeta,
                         filtros.join(QStringLiteral(";;")));
     dialogo.setAcceptMode(peticion.guardar ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     if (!peticion.guardar) dialogo.setFileMode(QFileDialog::ExistingFile);

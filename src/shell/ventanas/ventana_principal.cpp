@@ -1,6 +1,7 @@
 // The main window.
 #include "shell/ventanas/ventana_principal.h"
 
+#include "data/copia_seguridad.h"
 #include "data/ventanas/ventana_editor.h"
 #include "platform/qt/superficie_qt.h"
 #include "platform/qt/texto_qt.h"
@@ -19,6 +20,8 @@
 #include <QTimer>
 
 namespace {
+
+constexpr int MinutoEnMilisegundos = 60'000;
 
 // Two things that the toolkit's control does otherwise. It writes the letter of Alt+letter. And it looks at the first
 // format of what is pasted: version 6.4 ends the program when the clipboard has none, on a desktop where nothing was copied
@@ -82,6 +85,10 @@ VentanaPrincipal::VentanaPrincipal()
     statusBar()->hide(); // it takes room from the first note on
     resize(640, 400);
     CrearMenus();
+    auto *reloj = new QTimer(this);
+    reloj->setObjectName(QStringLiteral("relojDeCopias"));
+    connect(reloj, &QTimer::timeout, this, GuardarCopia);
+    reloj->start(MinutoEnMilisegundos);
     PantallaEdicion->setFocus();
 }
 
