@@ -1,4 +1,5 @@
 // The kinds of print jobs with their routines, whatever room they belong to.
+#include "charts/graficos/impresion_grafico.h"
 #include "charts/resultados/informe_impreso.h"
 #include "charts/resultados/listados.h"
 
@@ -16,6 +17,12 @@ constexpr FilaDeImpresion Filas[] = {
     {ImprimirVarianza, ConSusDatos<&ImprimirTextoInforme>},
     {ImprimirPrediccion, ConSusDatos<&ImprimirTextoInforme>},
     {ImprimirNormalidad, ConSusDatos<&ImprimirTextoInforme>},
+    {ImprimirGraficoAutocorrelacion, ConSusDatos<&ImprimirGrafico>},
+    {ImprimirHistograma, ConSusDatos<&ImprimirGrafico>},
+    {ImprimirGraficoSeries, ConSusDatos<&ImprimirGrafico>},
+    {ImprimirGraficoValores, ConSusDatos<&ImprimirGrafico>},
+    {ImprimirGraficoResiduos, ConSusDatos<&ImprimirGrafico>},
+    {ImprimirGraficoPrediccion, ConSusDatos<&ImprimirGrafico>},
     {ImprimirPantalla, ConSusDatos<&ListarPantalla>},
 };
 

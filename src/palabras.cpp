@@ -2,6 +2,8 @@
 // folders: a room that brings a word is named here, and the language never hears of the room.
 #include "language/palabras.h"
 
+#include "charts/graficos/histograma.h"
+#include "charts/graficos/series_grafico.h"
 #include "estimation/regresion.h"
 #include "hypothesis/durbin_wallis.h"
 #include "hypothesis/goldfeld.h"
@@ -31,8 +33,16 @@ template <int (*Contraste)(LineasSentencia &, Ventana *)> int Contrastar(Orden &
     return Contraste(o.lineas, o.ventana);
 }
 
-int PorEnsamblar(Orden &o) {
-    return NoEnsamblada(o.ventana);
+std::string_view RestoDeLinea(const Orden &o) {
+    return std::string_view(o.lineas[0]).substr(static_cast<std::size_t>(o.detras));
+}
+
+int Grafica(Orden &o) {
+    return EjecutarGRAF(o.ventana, RestoDeLinea(o), o.primera, o.ultima);
+}
+
+int Histogramas(Orden &o) {
+    return EjecutarHIST(o.ventana, RestoDeLinea(o), o.primera, o.ultima);
 }
 
 // FICTIC has no row: it is found behind SER.
@@ -41,8 +51,8 @@ constexpr Palabra Tabla[] = {
     {"MIENTRAS", OrdenDesconocida, SoloSeleccion, FueraDeBloques, EjecutarControl},
     {"SI", OrdenDesconocida, SoloSeleccion, FueraDeBloques, EjecutarControl},
     {"MUEST", OrdenDesconocida, Siempre, FueraDeBloques, EjecutarMUEST},
-    {"GRAF", OrdenDesconocida, Siempre, FueraDeBloques, PorEnsamblar},
-    {"HIST", OrdenDesconocida, Siempre, FueraDeBloques, PorEnsamblar},
+    {"GRAF", OrdenDesconocida, Siempre, FueraDeBloques, Grafica},
+    {"HIST", OrdenDesconocida, Siempre, FueraDeBloques, Histogramas},
     {"DECI", OrdenDesconocida, Siempre, FueraDeBloques, EjecutarDECI},
     {"AES", OrdenAES, Siempre, FueraDeBloques, EjecutarNada},
     {"AED", OrdenAED, Siempre, FueraDeBloques, EjecutarNada},

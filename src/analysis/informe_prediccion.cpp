@@ -1,6 +1,7 @@
 // The report of a prediction.
 #include "analysis/informe_prediccion.h"
 
+#include "analysis/diagrama_prediccion.h"
 #include "analysis/prediccion.h"
 #include "charts/resultados/partes_informe.h"
 #include "estimation/regresion.h"
@@ -100,6 +101,6 @@ void MostrarPrediccion(Ventana *ventana) {
     salida.lineas = &lineas;
     salida.tabla = tabla;
     // The diagram compares rates or increments.
-    if (Prediccion.modoEvaluacion != EvaluarOriginales) salida.graficos = NoEnsamblada;
+    if (Prediccion.modoEvaluacion != EvaluarOriginales) salida.graficos = AbrirDiagramaPrediccion;
     MostrarVentanaResultado(ventana, salida);
 }

@@ -1,6 +1,7 @@
 // The autocorrelation functions of a series.
 #include "hypothesis/autocorrelacion.h"
 
+#include "charts/graficos/grafico.h"
 #include "charts/resultados/partes_informe.h"
 #include "language/lote_sentencias.h"
 #include "platform/campos_texto.h"
@@ -145,7 +146,7 @@ void Mostrar(Ventana *ventana) {
     salida.titulo = TituloAutocorrelacion(Autocorrelacion.funcion);
     salida.lineas = &lineas;
     salida.tabla = tabla;
-    salida.graficos = NoEnsamblada;
+    salida.graficos = AbrirGraficoAutocorrelacion;
     MostrarVentanaResultado(ventana, salida);
 }
 
@@ -209,4 +210,24 @@ std::string TablaAutocorrelacion() {
         t += "\n";
     }
     return t;
+}
+
+int AbrirGraficoAutocorrelacion(Ventana *ventana) {
+    const EstadoAutocorrelacion &a = Autocorrelacion;
+    Grafico g = GraficoNuevo(GraficoAutocorrelacion, a.observaciones);
+    g.tituloVentana = TituloAutocorrelacion(a.funcion);
+    DatosAutocorrelacion &d = g.autocorrelacion;
+    d.coeficientes.assign(std::begin(a.coeficientes), std::end(a.coeficientes));
+    d.desviaciones.assign(std::begin(a.desviaciones), std::end(a.desviaciones));
+    d.retardos = a.retardos;
+    d.observaciones = a.observaciones;
+    d.bandaUniforme = a.bandaUniforme;
+    d.tipoBanda = a.tipoBanda; // both enumerations have the numbers of the dialog
+    d.marcas = a.marcas;
+    d.conTitulo = a.conTitulo;
+    d.tituloAbajo = a.tituloAbajo;
+    d.titulo = a.titulo;
+    d.parcial = a.funcion == FuncionEstimada ? 0 : 1;
+    AbrirVentanaGrafico(ventana, g);
+    return 1;
 }

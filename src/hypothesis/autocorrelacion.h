@@ -63,3 +63,6 @@ int AceptarAutocorrelacion(Ventana *ventana, int funcion, const ValoresAutocorre
 // The listing, and the same for a spreadsheet.
 TextoSalida LineasAutocorrelacion();
 std::string TablaAutocorrelacion();
+
+// The chart of the function that the listing shows, under its title. Always 1.
+int AbrirGraficoAutocorrelacion(Ventana *ventana);

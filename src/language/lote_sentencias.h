@@ -42,7 +42,3 @@ int EjecutarSentencia(int origen, LineasSentencia &lineas, int fin, int &posicio
 
 // The box "Punto %d, %s", title "Proceso cancelado". Always returns 0, the result of a statement that stops.
 int MensajeNumerado(Ventana *ventana, int punto, std::string_view texto);
-
-// The box "No ensamblada", title "Opción del menú", for a feature that is announced and not built yet. Returns 0: the
-// batch stops. All statements that are not built yet come here.
-int NoEnsamblada(Ventana *ventana);

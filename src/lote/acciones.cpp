@@ -1,6 +1,8 @@
 // The actions of tabira-lote. Each one calls the routine that the menu or the statement calls; it computes nothing.
 #include "lote/acciones.h"
 
+#include "analysis/diagrama_prediccion.h"
+#include "charts/graficos/regresion_grafico.h"
 #include "charts/resultados/seleccion.h"
 #include "data/observaciones.h"
 #include "data/trabajo.h"
@@ -10,6 +12,7 @@
 #include "language/lote_sentencias.h"
 #include "lote/acciones_analisis.h"
 #include "lote/corrida.h"
+#include "lote/graficos.h"
 #include "lote/impresora.h"
 #include "lote/sucesos.h"
 #include "lote/tipo.h"
@@ -44,6 +47,7 @@ struct Accion {
     std::string valor;
     PropuestaTipoDatos tipo;
     FormatoAscii formato;
+    PeticionHistograma histograma;
     int numero;           // a choice or a count, by action
     std::string elemento; // behind the first ":" or "=" of the value, in the characters of the core
     std::string codigo;   // before that "="
@@ -69,6 +73,8 @@ constexpr std::string_view NombresElemento[] = {"serie", "matriz", "escalar"};
 constexpr std::string_view NombresListado[] = {"series", "matrices"}; // in the order of ModosSeleccion
 constexpr std::string_view ListadosDeRegresion[] = {"covarianza", "valores",
                                                     "varianza"}; // by ListadosRegresion
+constexpr std::string_view NombresGrafico[] = {"residuos", "residuos:estandarizados", "valores",
+                                               "prediccion"};
 constexpr std::string_view NombresRespuesta[] = {"si", "no", "cancelar"};
 
 template <std::size_t N>
@@ -137,6 +143,14 @@ bool LeerPrediccion(const std::string &valor, Accion &) {
 
 bool LeerTransformacion(const std::string &valor, Accion &) {
     return SeLeeTransformacion(valor);
+}
+
+bool LeerGrafico(const std::string &valor, Accion &accion) {
+    return Elegir(NombresGrafico, valor, accion.numero);
+}
+
+bool LeerHistograma(const std::string &valor, Accion &accion) {
+    return LeerPeticionHistograma(Texto1252DeUtf8(valor), accion.histograma);
 }
 
 bool LeerRuta(const std::string &valor, Accion &) {
@@ -345,6 +359,37 @@ bool HacerTransformar(const Accion &accion) {
     return EjecutarTransformacion(accion.valor);
 }
 
+// The charts of a regression belong to the estimation dialogs, which open with this guard.
+bool HacerGrafico(const Accion &accion) {
+    static constexpr struct {
+        ClasesDeGrafico clase;
+        ResiduosDelGrafico residuos;
+    } Graficos[] = {{GraficoResiduos, ResiduosOrdinarios},
+                    {GraficoResiduos, ResiduosEstandarizados},
+                    {GraficoValores, ResiduosOrdinarios}};
+    if (!HayTipoDeDatos()) return false;
+    ActualizarMuestra();
+    if (accion.numero == static_cast<int>(std::size(Graficos))) {
+        AbrirDiagramaPrediccion(nullptr); // a prediction of original values has none
+        return true;
+    }
+    return AbrirGraficoDeRegresion(nullptr, Graficos[accion.numero].clase,
+                                   Graficos[accion.numero].residuos) == 1;
+}
+
+bool HacerHistograma(const Accion &accion) {
+    if (!HayTipoDeDatos("Tipo de datos no válido"_w)) return false;
+    ActualizarMuestra();
+    return AceptarHistograma(nullptr, accion.histograma.opciones, accion.histograma.serie,
+                             Muestra.InicioMuestra, Muestra.FinMuestra) == 1;
+}
+
+bool HacerGraficos(const Accion &accion) {
+    if (ElegirCarpetaDeGraficos(accion.valor)) return true;
+    Quejarse("no se puede crear '" + accion.valor + "'");
+    return false;
+}
+
 bool HacerImprimir(const Accion &accion) {
     ElegirDocumento(accion.valor);
     return true;
@@ -400,6 +445,11 @@ constexpr FilaDeAccion TablaAcciones[] = {
      "imprime también cada ventana de resultados"},
     {"--listado", "series:X,Y|matrices:A,B", LeerListado, HacerListado,
      "imprime series o matrices; covarianza, valores, varianza: de la regresión"},
+    {"--histograma", "X[:OP,...]", LeerHistograma, HacerHistograma,
+     "histograma: clases=N, limites=a/b/c, min=A, max=B"},
+    {"--grafico", "residuos|valores|prediccion", LeerGrafico, HacerGrafico,
+     "gráfico de la última regresión o predicción (también residuos:estandarizados)"},
+    {"--graficos", "DIR", LeerRuta, HacerGraficos, "cada gráfico que sigue, también como imagen en DIR"},
     {"--estadisticos", "X,Y,...", LeerTexto, HacerEstadisticos, "medidas descriptivas y correlaciones"},
     {"--normalidad", "X", LeerTexto, ConTipoDeDatos<EjecutarNormalidad>, "contraste de normalidad"},
     {"--fac", "X:N[:BANDA]", LeerFuncion<false>, ConTipoDeDatos<EjecutarFac>,
@@ -411,9 +461,6 @@ constexpr FilaDeAccion TablaAcciones[] = {
     {"--transformar", "X:DESTINO:OP=N,...", LeerTransformacion, HacerTransformar,
      "transforma X; OP: boxcox, estacional, regular"},
     {"--volcado", nullptr, nullptr, HacerVolcado, "muestra el contenido del archivo de trabajo"},
-    {"--histograma", "X", nullptr, nullptr, nullptr},
-    {"--grafico", "G", nullptr, nullptr, nullptr},
-    {"--graficos", "DIR", nullptr, nullptr, nullptr},
 };
 
 void MostrarUso() {
@@ -469,6 +516,7 @@ bool LeerLinea(const std::vector<std::string> &argumentos, std::vector<Accion> &
 int EjecutarLinea(const std::vector<std::string> &argumentos) {
     Corrida = {};
     OlvidarDocumentos();
+    OlvidarGraficos();
     Corrida.formato = FormatoInicial();
     std::vector<Accion> acciones;
     std::string queja;
@@ -489,6 +537,7 @@ int EjecutarLinea(const std::vector<std::string> &argumentos) {
     }
     // What was printed before a failure is kept.
     if (!EscribirDocumentos()) estado = EstadoFallo;
+    if (!GraficosEscritos()) estado = EstadoFallo;
     SucesoFin(estado);
     return estado;
 }

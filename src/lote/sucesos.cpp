@@ -4,6 +4,7 @@
 #include "charts/resultados/impresion.h"
 #include "charts/resultados/ventana_resultado.h"
 #include "lote/corrida.h"
+#include "lote/graficos.h"
 #include "lote/impresora.h"
 #include "lote/json.h"
 #include "platform/campos_texto.h"
@@ -22,6 +23,10 @@ constexpr const char *NombresRespuesta[] = {"aceptar", "cancelar", "si", "no"};
 constexpr const char *NombresVentana[] = {"resultado",  "hipotesis",    "autocorrelacion", "normalidad",
                                           "prediccion", "descriptivos", "histograma",      "ultima-regresion",
                                           "muestra",    "relacion"};
+
+// By ClasesDeGrafico.
+constexpr const char *NombresGrafico[] = {"series",     "dispersion",      "residuos",  "valores",
+                                          "prediccion", "autocorrelacion", "histograma"};
 
 std::string AbrirSuceso(const char *suceso) {
     std::string json = "{";
@@ -55,6 +60,33 @@ const TablaCoeficientes *TablaDeLaLinea(const SalidaResultado &salida, int linea
         std::find_if(salida.tablas->begin(), salida.tablas->end(),
                      [&](const TablaCoeficientes &c) { return linea >= c.primera && linea <= c.ultima; });
     return t != salida.tablas->end() ? &*t : nullptr;
+}
+
+void PonerColorJson(std::string &json, const Color &c) {
+    json += Formatear("[%d,%d,%d", c.r, c.g, c.b);
+}
+
+// Lines and rectangles end with their pen; a rectangle with what fills it, too.
+void PonerOrdenJson(std::string &json, const OrdenDibujo &o) {
+    PonerComaJson(json);
+    if (o.clase == OrdenTexto) {
+        json += Formatear("[\"texto\",%d,%d,", o.x1, o.y1);
+        PonerTextoJson(json, o.texto);
+        json += ']';
+        return;
+    }
+    json += Formatear("[\"%s\",%d,%d,%d,%d,", o.clase == OrdenLinea ? "linea" : "rectangulo", o.x1, o.y1,
+                      o.x2, o.y2);
+    PonerColorJson(json, o.pluma.color);
+    json += Formatear(",%d,%d]", o.pluma.ancho, o.pluma.estilo);
+    if (o.clase == OrdenRectangulo && o.conRelleno) {
+        json += ',';
+        PonerColorJson(json, o.relleno);
+        json += ']';
+    } else if (o.clase == OrdenRectangulo) {
+        json += ",null";
+    }
+    json += ']';
 }
 
 // One line between the side rules of a block so wide, cut as the window cuts it. The rows of a table get their vertical
@@ -112,6 +144,8 @@ void SeleccionDelControl(ControlTexto *control, int &desde, int &hasta) {
 void MostrarResultado(Ventana *, const SalidaResultado &salida) {
     SucesoSalida(salida);
     if (Corrida.imprimirSalidas) ImprimirResultado(nullptr, salida);
+    // The chart behind the window's command is told, too; that of a prediction has an action of its own.
+    if (salida.graficos != nullptr && salida.tipo != SalidaPrediccion) salida.graficos(nullptr);
 }
 
 } // namespace
@@ -171,6 +205,26 @@ void SucesoLineas(TiposDeSalida tipo, std::string_view titulo, const std::vector
     EscribirLinea(json + "]}");
 }
 
+void SucesoGrafico(const Grafico &grafico, const Superficie &superficie,
+                   const std::vector<OrdenDibujo> &ordenes) {
+    if (!Corrida.json) {
+        EscribirLinea("");
+        EscribirLinea("Gráfico: " + Utf8De1252(grafico.tituloVentana));
+        return;
+    }
+    std::string json = AbrirSuceso("grafico");
+    PonerParJson(json, "ventana", NombresGrafico[grafico.clase]);
+    PonerParJson(json, "titulo", grafico.tituloVentana);
+    PonerParJson(json, "ancho", superficie.ancho);
+    PonerParJson(json, "alto", superficie.alto);
+    PonerParJson(json, "c", superficie.anchoCaracter);
+    PonerParJson(json, "h", superficie.altoLinea);
+    PonerClaveJson(json, "ordenes");
+    json += '[';
+    for (const OrdenDibujo &o : ordenes) PonerOrdenJson(json, o);
+    EscribirLinea(json + "]}");
+}
+
 void SucesoImpresion(const TrabajoImpreso &trabajo) {
     if (!Corrida.json) {
         for (std::size_t p = 0; p < trabajo.paginas.size(); ++p) {
@@ -224,6 +278,7 @@ void InstalarPlataformaLote() {
                 ruta = Corrida.archivo;
                 return true;
             },
+        .mostrarGrafico = MostrarGraficoDeCorrida,
         .segundos = [] { return static_cast<std::int32_t>(std::time(nullptr)); },
     };
     InstalarPlataforma(Operaciones);

@@ -1,6 +1,7 @@
 // The events of a run, printed on standard output: as JSON objects, or as text for people.
 #pragma once
 
+#include "charts/graficos/grafico.h"
 #include "charts/resultados/resultado.h"
 #include "platform/impresora_grabadora.h"
 #include "platform/plataforma.h"
@@ -18,6 +19,10 @@ void SucesoSalida(const SalidaResultado &salida);
 
 // The same for a dialog that shows lines of one kind.
 void SucesoLineas(TiposDeSalida tipo, std::string_view titulo, const std::vector<std::string> &lineas);
+
+// A chart, with what was drawn on its surface.
+void SucesoGrafico(const Grafico &grafico, const Superficie &superficie,
+                   const std::vector<OrdenDibujo> &ordenes);
 
 // A print job that is over.
 void SucesoImpresion(const TrabajoImpreso &trabajo);

@@ -31,6 +31,8 @@ enum class Dialogo {
     GoldfeldQuandt,
     White,
     Rangos,
+    GraficosSeries, // modo: ModosDeGraficos
+    Histograma,
     Total // not a dialog: how many there are
 };
 

@@ -2,6 +2,7 @@
 #include "shell/comandos.h"
 
 #include "analysis/prediccion.h"
+#include "charts/graficos/series_grafico.h"
 #include "charts/resultados/listados.h"
 #include "data/copia_seguridad.h"
 #include "data/fichero_sentencias.h"
@@ -154,12 +155,14 @@ const Comando TablaComandos[] = {
     {ComandoProcesar, Proced, "&Procesar", true, SinTipo, Procesar},
     {ComandoDescriptivos, Estadistica, "&Estadísticos descriptivos..."_w, true, SinTipo,
      Abre<Dialogo::Descriptivos>},
-    {ComandoHistograma, Estadistica, "&Histograma...", true, SinTipoSingular, nullptr},
+    {ComandoHistograma, Estadistica, "&Histograma...", true, SinTipoSingular, Abre<Dialogo::Histograma>},
     {ComandoPrediccion, Estadistica, "&Predicción y evaluación..."_w, false, SinTipoSingular, Predecir},
     {ComandoTransformacion, Estadistica, "Transformación de series..."_w, true, nullptr,
      Abre<Dialogo::Transformacion>},
-    {ComandoGraficosTemporales, Graficos, "&Gráficos temporales..."_w, true, nullptr, nullptr},
-    {ComandoGraficosDispersion, Graficos, "Gráficos &de dispersión..."_w, true, nullptr, nullptr},
+    {ComandoGraficosTemporales, Graficos, "&Gráficos temporales..."_w, true, nullptr,
+     Abre<Dialogo::GraficosSeries, GraficosTemporales>},
+    {ComandoGraficosDispersion, Graficos, "Gráficos &de dispersión..."_w, true, nullptr,
+     Abre<Dialogo::GraficosSeries, GraficosDeDispersion>},
     {ComandoMinimosCuadrados, Estimacion, "&Mínimos cuadrados..."_w, true, SinTipo, Estima<Dialogo::MC>},
     {ComandoMinimosPonderados, Estimacion, "Mínimos &cuadrados ponderados..."_w, true, SinTipo,
      Estima<Dialogo::MCP>},

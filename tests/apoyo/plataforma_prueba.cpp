@@ -1,6 +1,7 @@
 // The platform of the tests.
 #include "apoyo/plataforma_prueba.h"
 
+#include "charts/graficos/grafico.h"
 #include "language/palabras.h"
 #include "platform/campos_texto.h"
 #include "platform/texto.h"
@@ -34,9 +35,19 @@ std::vector<std::pair<int, std::string>> Lineas(const TextoSalida *texto) {
     return r;
 }
 
-void Resultado(Ventana *, const SalidaResultado &s) {
+void MostrarGrafico(Ventana *, Grafico &g) {
+    GraficoVisto visto = {Utf8De1252(g.tituloVentana), {}};
+    Superficie s = SuperficieGrabadora(visto.ordenes, 1024, 768, 8, 16);
+    PintarGrafico(s, g);
+    Prueba.graficos.push_back(std::move(visto));
+    if (Prueba.enGrafico) Prueba.enGrafico(g);
+}
+
+// In the table of a histogram the user chooses the command "&Gráficos".
+void Resultado(Ventana *ventana, const SalidaResultado &s) {
     Prueba.resultados.push_back(
         {s.tipo, Utf8De1252(s.titulo), s.Clase, s.Contenido, Lineas(s.lineas), Lineas(s.fijas)});
+    if (s.tipo == SalidaHistograma && s.graficos != nullptr) s.graficos(ventana);
 }
 
 int VecesDelPaso[NumPasosDeImpresora];
@@ -98,7 +109,7 @@ const OperacionesPlataforma Operaciones = {
         },
     .ponerTitulo = [](Ventana *, std::string_view titulo) { Prueba.titulo = Utf8De1252(titulo); },
     .mostrarResultado = Resultado,
-    .mostrarGrafico = [](Ventana *, Grafico &grafico) { Prueba.graficos.push_back(&grafico); },
+    .mostrarGrafico = MostrarGrafico,
     .abrirDialogo =
         [](Ventana *, Dialogo cual, const DatosDialogo &datos) {
             Prueba.dialogos.push_back({cual, datos});

@@ -32,6 +32,12 @@ struct ResultadoVisto {
     std::vector<std::pair<int, std::string>> fijas;
 };
 
+// A chart that was opened, as its window of 1024 x 768 units and cells of 8 x 16 shows it.
+struct GraficoVisto {
+    std::string titulo;
+    std::vector<OrdenDibujo> ordenes;
+};
+
 // A print job that came to its end. The pages are kept as drawn, too.
 struct TrabajoVisto {
     std::string titulo, documento;
@@ -65,8 +71,10 @@ struct ArchivoPedido {
 struct PlataformaDePrueba {
     std::vector<CajaVista> cajas;
     std::vector<ResultadoVisto> resultados;
-    std::deque<Respuesta> respuestas; // for the questions to come; when empty, yes or OK
-    int refrescos = 0;                // calls of RefrescarEditor
+    std::vector<GraficoVisto> graficos;
+    std::function<void(Grafico &)> enGrafico; // what is done with an open chart, after its first painting
+    std::deque<Respuesta> respuestas;         // for the questions to come; when empty, yes or OK
+    int refrescos = 0;                        // calls of RefrescarEditor
     Cursor cursor = CursorFlecha;
     std::int32_t segundos = 1234567; // what SegundosDeCalendario answers
     std::vector<TrabajoVisto> trabajos;
@@ -77,7 +85,6 @@ struct PlataformaDePrueba {
     std::vector<DialogoPedido> dialogos;
     // Run when a dialog is asked for, in its place: what the user does there.
     std::function<void(const DialogoPedido &)> enDialogo;
-    std::vector<Grafico *> graficos; // charts that were shown
     std::vector<ArchivoPedido> archivos;
     std::deque<std::string> rutas; // answers to the files asked for; when empty, the user cancels
     std::string titulo;            // of the window

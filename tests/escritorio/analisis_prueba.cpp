@@ -179,7 +179,11 @@ TEST_F(Analisis, ParcialSinBanda) {
                    Pulsar(d, "Cancela");
                }},
               PideGraficos(ListadoFacp),
-              Caja("Opción del menú", "No ensamblada")},
+              {ListadoFacp,
+               [](QDialog &d) {
+                   EXPECT_EQ(d.objectName(), QStringLiteral("ventanaGrafico")); // under the listing's title
+                   d.reject();
+               }}},
              [&] { Ordenar(2093); });
 }
 
@@ -275,7 +279,7 @@ TEST_F(Analisis, PrediccionPrediceYQueda) {
                }},
               PideGraficos(Evaluacion), // of original values there is no diagram
               PideGraficos(Evaluacion),
-              Caja("Opción del menú", "No ensamblada"),
+              Cierra("Diagrama predicción-observación"),
               Cierra(Evaluacion)},
              [&] { Ordenar(2036); });
     for (const char *codigo : {"_PRED", "_DTPVM", "_DTPVI", "P", "M", "I"})

@@ -178,7 +178,8 @@ TEST_F(Estimaciones, Mensajes) {
               Caja("Aviso", "Efectue primero una regresión"),
               Caja("Proceso cancelado", "Serie desconocida:[NADA]. Pto 2663"),
               Caja("Aviso", "Secuencia de series no válida"),
-              Pulsando("Opción del menú", "OK")},
+              Caja("Gráfico de los residuos", "¿Desea ver los residuos estandarizados?", "Cancelar",
+                   QMessageBox::Question)},
              [&] { Ordenar(2004); });
 }
 

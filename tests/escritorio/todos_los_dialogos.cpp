@@ -1,6 +1,7 @@
 // Every dialog of the program and how a user gets to it.
 #include "todos_los_dialogos.h"
 
+#include "charts/graficos/ventanas/dialogos_opciones.h"
 #include "charts/resultados/ventanas/dialogo_seleccion.h"
 #include "platform/qt/cajas_qt.h"
 #include "platform/qt/dialogo_decimales.h"
@@ -174,6 +175,47 @@ std::vector<AperturaDeDialogo> TodosLosDialogos() {
          Orden(2079),
          {"variable", "series", "OK", "Cancela"},
          false},
+        {"Gráficos temporales",
+         {},
+         Orden(2013),
+         {"disponibles", "Anadir", "Eliminar", "elegidas", "OK", "Cancela"},
+         false},
+        {"Gráficos de dispersión",
+         {},
+         Orden(2023),
+         {"disponibles", "Anadir", "Eliminar", "elegidas", "codigoX", "OK", "Cancela"},
+         false},
+        {"HISTOGRAMA",
+         {},
+         Orden(2007),
+         {"series", "modo0", "divisiones", "minYDefecto", "maxYDefecto", "conTitulo", "titulo",
+          "tituloArriba", "OK", "Cancela"},
+         false},
+        {"Gráficos temporales: Intervalos y títulos",
+         {},
+         [](VentanaPrincipal &v) {
+             OpcionesGrafico o = OpcionesPorDefecto(10);
+             DialogoIntervalos(AVentana(&v), GraficoSeries, o);
+         },
+         {"titulo", "tituloY", "tituloX", "intervalosY", "intervalosX", "verLeyenda", "leyendaConMarco",
+          "minYDefecto", "minY", "maxYDefecto", "maxY", "minXDefecto", "minX", "maxXDefecto", "maxX", "OK",
+          "Cancela"}},
+        {"Gráfico de los residuos: Formas y colores",
+         {},
+         [](VentanaPrincipal &v) {
+             OpcionesGrafico o = OpcionesPorDefecto(10);
+             DialogoFormas(AVentana(&v), GraficoResiduos, o, {"_RES"});
+         },
+         {"series", "forma0", "color0", "SiColor", "grosor0", "SiGrosor", "trazo0", "SiTrazo", "OK",
+          "Cancela"},
+         false},
+        {"Gráfico de los residuos: Otras opciones",
+         {},
+         [](VentanaPrincipal &v) {
+             Grafico g = GraficoNuevo(GraficoResiduos, 10);
+             DialogoOtrasOpciones(AVentana(&v), g);
+         },
+         {"conBanda", "alMedioX", "OK", "Cancela"}},
         {"Acerca de..", {}, Orden(2046), {"OK"}},
         {"Reglas generales", {}, Orden(2067), {"Siguiente", "Cancelar", "texto"}, false},
         {"Reglas generales",

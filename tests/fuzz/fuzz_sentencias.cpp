@@ -1,4 +1,5 @@
 // Any bytes as the text of the edit screen, processed whole over a small work file that starts anew each time.
+#include "charts/graficos/grafico.h"
 #include "charts/resultados/resultado.h"
 #include "estimation/regresion.h"
 #include "language/palabras.h"
@@ -30,6 +31,13 @@ Respuesta Caja(Ventana *, std::string_view texto, std::string_view titulo, Icono
                                                : RespuestaNo;
 }
 
+void PintarEnElAire(Ventana *, Grafico &g) {
+    std::vector<OrdenDibujo> ordenes;
+    Superficie s = SuperficieGrabadora(ordenes, 1024, 768, 8, 16);
+    PintarGrafico(s, g);
+    ImprimirVentanaGrafico(nullptr, g);
+}
+
 const OperacionesPlataforma Muda = [] {
     OperacionesPlataforma o{};
     o.caja = Caja;
@@ -39,7 +47,10 @@ const OperacionesPlataforma Muda = [] {
         desde = 0;
         hasta = static_cast<int>(Pantalla.size());
     };
-    o.mostrarResultado = [](Ventana *, const SalidaResultado &) {};
+    o.mostrarGrafico = PintarEnElAire;
+    o.mostrarResultado = [](Ventana *ventana, const SalidaResultado &salida) {
+        if (salida.graficos != nullptr) salida.graficos(ventana);
+    };
     o.refrescarEditor = [] {};
     o.segundos = [] { return std::int32_t{1}; };
     return o;

@@ -166,9 +166,11 @@ const CasoSentencia Sentencias[] = {
     {"CAL 3 >= 3", {"   1.0000 "}, true},
     {"CAL 3 <> 3", {"   0.0000 "}, true},
     {"CAL 3 <= 2", {"   0.0000 "}, true},
-    // Not built yet.
-    {"GRAF X", {"No ensamblada"}, false},
-    {"HIST X", {"No ensamblada"}, false},
+    // A chart goes on whatever becomes of it.
+    {"GRAF X", {}, true},
+    {"GRAF QQ", {"No se ha introducido ninguna serie válida"}, true},
+    {"HIST X", {}, true},
+    {"HIST QQ", {"Variable no encontrada"}, true},
     // Tests, without a regression.
     {"CHN", {"Introduzca factor restricciones: []. Pto 2663"}, false},
     {"CGQ X", {"Indroduzca ponderación. Pto 1633"}, false},
@@ -216,9 +218,9 @@ TEST(Lote, TitulosDeLasCajas) {
     const struct {
         const char *texto, *titulo;
     } casos[] = {
-        {"QQ", "Proceso Cancelado"},   {"SER Z = (X", "Proceso cancelado"},
-        {"VSR", "Proceso cancelado"},  {"CAL 1", "Resultado"},
-        {"GRAF X", "Opción del menú"}, {"SER FICTIC NADA", "Serie no existe"},
+        {"QQ", "Proceso Cancelado"},  {"SER Z = (X", "Proceso cancelado"},
+        {"VSR", "Proceso cancelado"}, {"CAL 1", "Resultado"},
+        {"GRAF QQ", "Aviso"},         {"SER FICTIC NADA", "Serie no existe"},
     };
     for (const auto &c : casos) {
         SCOPED_TRACE(c.texto);

@@ -176,6 +176,9 @@ TEST(Comandos, LoQuePidenAlEscritorio) {
         {2036, {}}, // without a regression there is a box instead
         {2039, {Abre(Dialogo::Descriptivos)}},
         {2094, {Abre(Dialogo::Transformacion)}},
+        {2013, {Abre(Dialogo::GraficosSeries, 0)}},
+        {2023, {Abre(Dialogo::GraficosSeries, 1)}},
+        {2007, {Abre(Dialogo::Histograma)}},
         {2001, {Abre(Dialogo::NoEnsamblada)}},
         {2002, {Abre(Dialogo::NoEnsamblada)}},
         {2003, {Abre(Dialogo::NoEnsamblada)}},

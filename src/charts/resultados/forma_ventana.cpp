@@ -48,7 +48,8 @@ constexpr FormaVentana Formas[] = {
      TitulosEntreReglas, "Evaluación de la capacidad predicitiva"_w, 0},
     {SalidaDescriptivos, 0, ImprimirDescriptivos, AnchoBloque, 100, BloqueCentradoAncho, true, 3, 0, false,
      TitulosEntreReglas, "Medidas descriptivas", 0},
-    {SalidaHistograma, 0, ImprimirHistograma, AnchoBloque, 4000, BloqueCentradoAncho, true, 3, 0, false,
+    // Paper has a kind for the chart of a histogram; its table goes there as a report.
+    {SalidaHistograma, 0, ImprimirInforme, AnchoBloque, 4000, BloqueCentradoAncho, true, 3, 0, true,
      TitulosEncima, nullptr, 0},
 };
 

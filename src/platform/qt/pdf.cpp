@@ -15,22 +15,6 @@
 
 namespace {
 
-QGuiApplication *Propia = nullptr;
-
-// Fonts need a QGuiApplication. One of our own takes no display, reads no arguments of the user's, and says nothing:
-// its warnings on the locale or the run-time folder are none of the user's business. It stays until the process ends,
-// since fonts that were used once remember it.
-void CrearAplicacionSinPantalla() {
-    static char nombre[] = "tabira", opcion[] = "-platform", valor[] = "offscreen";
-    static char *argumentos[] = {nombre, opcion, valor, nullptr};
-    static int numero = 3;
-    const auto anterior =
-        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    Propia = new QGuiApplication(numero, argumentos);
-    qInstallMessageHandler(anterior);
-    std::setlocale(LC_NUMERIC, "C"); // the toolkit takes the desktop's locale, and numbers don't
-}
-
 void PintarPagina(QPainter &pintor, const QFont &fuente, const PaginaImpresa &pagina) {
     PintorSuperficie propio;
     Superficie s = SuperficieDePintor(propio, pintor, fuente, AnchoPagina, AltoPagina);
@@ -52,6 +36,20 @@ QByteArray Componer(std::string_view titulo, const std::deque<PaginaImpresa> &pa
 }
 
 } // namespace
+
+// Fonts need a QGuiApplication. One of our own takes no display, reads no arguments of the user's, and says nothing:
+// its warnings on the locale or the run-time folder are none of the user's business. It stays until the process ends,
+// since fonts that were used once remember it.
+void CrearAplicacionSinPantalla() {
+    static char nombre[] = "tabira", opcion[] = "-platform", valor[] = "offscreen";
+    static char *argumentos[] = {nombre, opcion, valor, nullptr};
+    static int numero = 3;
+    const auto anterior =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    new QGuiApplication(numero, argumentos); // NOLINT: it stays
+    qInstallMessageHandler(anterior);
+    std::setlocale(LC_NUMERIC, "C"); // the toolkit takes the desktop's locale, and numbers don't
+}
 
 bool PintarPaginas(QPagedPaintDevice &papel, const std::deque<PaginaImpresa> &paginas) {
     QPainter pintor;

@@ -5,6 +5,9 @@
 
 #include <QPagedPaintDevice>
 
+// A QGuiApplication without a display, for a program that has none: fonts need one. It stays until the process ends.
+void CrearAplicacionSinPantalla();
+
 // Paints the pages on paper or on what stands in for it. False when the device refuses.
 bool PintarPaginas(QPagedPaintDevice &papel, const std::deque<PaginaImpresa> &paginas);
 

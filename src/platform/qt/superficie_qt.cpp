@@ -9,6 +9,9 @@
 #include <QGuiApplication>
 #include <QPen>
 
+#include <algorithm>
+#include <cstdlib>
+
 namespace {
 
 PintorSuperficie &Propio(void *p) {
@@ -21,28 +24,41 @@ QColor De(Color c) {
 
 QPen De(const Pluma &pluma) {
     static constexpr Qt::PenStyle Estilos[] = {Qt::SolidLine, Qt::DotLine, Qt::DashLine, Qt::DashDotLine};
-    QPen p(De(pluma.color), pluma.ancho, Estilos[pluma.estilo]);
+    // A style is drawn with one unit only: wider pens are solid.
+    QPen p(De(pluma.color), pluma.ancho, pluma.ancho > 1 ? Qt::SolidLine : Estilos[pluma.estilo]);
     p.setCapStyle(Qt::FlatCap);
     return p;
 }
 
+// Lines of one pen come by the thousand: it is set once.
+void Usar(PintorSuperficie &s, const Pluma &pluma) {
+    const auto igual = [](const Color &a, const Color &b) { return a.r == b.r && a.g == b.g && a.b == b.b; };
+    if (s.conPluma && s.puesta.ancho == pluma.ancho && s.puesta.estilo == pluma.estilo &&
+        igual(s.puesta.color, pluma.color))
+        return;
+    s.pintor->setPen(De(pluma));
+    s.puesta = pluma;
+    s.conPluma = true;
+}
+
 void PintarLinea(void *p, int x1, int y1, int x2, int y2, const Pluma &pluma) {
-    Propio(p).pintor->setPen(De(pluma));
+    Usar(Propio(p), pluma);
     Propio(p).pintor->drawLine(x1, y1, x2, y2);
 }
 
 void PintarRectangulo(void *p, int x1, int y1, int x2, int y2, const Pluma &pluma, const Color *relleno) {
     QPainter &pintor = *Propio(p).pintor;
-    pintor.setPen(De(pluma));
+    Usar(Propio(p), pluma);
     pintor.setBrush(relleno != nullptr ? QBrush(De(*relleno)) : QBrush(Qt::NoBrush));
-    pintor.drawRect(QRect(QPoint(x1, y1), QPoint(x2 - 1, y2 - 1)));
+    pintor.drawRect(QRect(std::min(x1, x2), std::min(y1, y2), std::abs(x2 - x1), std::abs(y2 - y1)));
 }
 
 // Each character is set in its own cell: the columns stand even where a fallback font brings a character, or where
 // the advance of the font isn't a whole number of units.
 void PintarTexto(void *p, int x, int y, std::string_view texto) {
-    const PintorSuperficie &s = Propio(p);
+    PintorSuperficie &s = Propio(p);
     s.pintor->setPen(Qt::black);
+    s.conPluma = false;
     const QString todo = QDe1252(texto);
     for (qsizetype i = 0; i < todo.size(); ++i) {
         if (todo[i] == u' ') continue;

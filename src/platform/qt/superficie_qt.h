@@ -16,7 +16,9 @@ QFont FuenteFijaDePantalla();
 struct PintorSuperficie {
     QPainter *pintor;
     int anchoCaracter;
-    int ascenso; // from the cell's top to the base line
+    int ascenso;           // from the cell's top to the base line
+    Pluma puesta = {};     // the pen that the painter has now
+    bool conPluma = false; // it has one of ours
 };
 
 // A surface of the given size over an active painter, whose font is set. `propio` is filled by the call.

@@ -2,6 +2,10 @@
 #include "shell/ventanas/escritorio.h"
 
 #include "analysis/ventanas/dialogos_analisis.h"
+#include "charts/graficos/regresion_grafico.h"
+#include "charts/graficos/ventanas/dialogo_histograma.h"
+#include "charts/graficos/ventanas/dialogo_series.h"
+#include "charts/graficos/ventanas/ventana_grafico_qt.h"
 #include "charts/resultados/ventanas/dialogo_seleccion.h"
 #include "charts/resultados/ventanas/ventana_resultado_qt.h"
 #include "data/ventanas/dialogos_datos.h"
@@ -26,6 +30,11 @@ void DialogoDeSeleccion(Ventana *ventana, const DatosDialogo &datos) {
     DialogoSeleccion(ventana, static_cast<ModosSeleccion>(datos.modo));
 }
 
+// The charts that the estimation dialogs ask for.
+template <ClasesDeGrafico clase> void GraficoDeRegresion(Ventana *ventana, const DatosDialogo &) {
+    AbrirGraficoDeRegresion(ventana, clase);
+}
+
 constexpr FilaDeDialogo Dialogos[] = {
     {Dialogo::TipoDatos, ElegirTipoDatos},
     {Dialogo::Muestra, DialogoMuestra},
@@ -33,6 +42,8 @@ constexpr FilaDeDialogo Dialogos[] = {
     {Dialogo::Lista, DialogoLista},
     {Dialogo::UltimaRegresion, DialogoUltimaRegresion},
     {Dialogo::NoEnsamblada, DialogoNoEnsamblada},
+    {Dialogo::GraficosSeries, DialogoGraficosSeries},
+    {Dialogo::Histograma, DialogoHistograma},
     {Dialogo::Ayuda, DialogoAyuda},
     {Dialogo::Decimales, DialogoDecimalesDeSalida},
     {Dialogo::Seleccion, DialogoDeSeleccion},
@@ -45,20 +56,14 @@ constexpr FilaDeDialogo Dialogos[] = {
     {Dialogo::Transformacion, DialogoTransformacion},
     {Dialogo::MC, DialogoMC},
     {Dialogo::MCP, DialogoMCP},
-    // No routine draws these charts yet.
-    {Dialogo::GraficoValores, DialogoNoEnsamblada},
-    {Dialogo::GraficoResiduos, DialogoNoEnsamblada},
+    {Dialogo::GraficoValores, GraficoDeRegresion<GraficoValores>},
+    {Dialogo::GraficoResiduos, GraficoDeRegresion<GraficoResiduos>},
     {Dialogo::HipotesisNula, DialogoHipotesisNula},
     {Dialogo::ModeloRestringido, DialogoModeloRestringido},
     {Dialogo::GoldfeldQuandt, DialogoGoldfeldQuandt},
     {Dialogo::White, DialogoWhite},
     {Dialogo::Rangos, DialogoRangos},
 };
-
-// No routine draws a chart yet.
-void MostrarGraficoQt(Ventana *ventana, Grafico &) {
-    AbrirDialogo(ventana, Dialogo::NoEnsamblada);
-}
 
 } // namespace
 

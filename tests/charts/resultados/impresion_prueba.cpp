@@ -98,7 +98,7 @@ TEST(Impresion, FallosEnCadaPaso) {
 }
 
 TEST(Impresion, ClasesSinRutina) {
-    const int Clases[] = {4, 8, 11, 14, 15, 22, 1, 5, 24, -1, 1000};
+    const int Clases[] = {1, 5, 24, -1, 1000};
     for (const int clase : Clases) {
         SCOPED_TRACE(clase);
         EmpezarPrueba();

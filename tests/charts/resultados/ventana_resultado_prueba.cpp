@@ -333,6 +333,7 @@ TEST(VentanaResultado, CadaClaseTieneSuBarra) {
     } Casos[] = {
         {SalidaRegresion, 4000, false}, {SalidaHipotesis, 0, false},  {SalidaAutocorrelacion, 250, true},
         {SalidaNormalidad, 0, false},   {SalidaPrediccion, 20, true}, {SalidaDescriptivos, 100, false},
+        {SalidaHistograma, 4000, true},
     };
     const TextoSalida lineas = LineasDeGrupos(std::vector<int>(40, 0));
     for (const auto &caso : Casos) {

@@ -1,0 +1,9 @@
+// Charts on paper.
+#pragma once
+
+#include "charts/graficos/grafico.h"
+
+struct DispositivoImpresion;
+
+// The routine of every print kind of a chart: draws it on the open page.
+bool ImprimirGrafico(DispositivoImpresion *dispositivo, Ventana *ventana, const Grafico &g);
