@@ -273,12 +273,12 @@ void InstalarPlataformaLote() {
         .textoDeControl = TextoDelControl,
         .seleccionDeControl = SeleccionDelControl,
         .mostrarResultado = MostrarResultado,
+        .mostrarGrafico = MostrarGraficoDeCorrida,
         .elegirArchivo =
             [](Ventana *, const PeticionArchivo &, std::string &ruta) {
                 ruta = Corrida.archivo;
                 return true;
             },
-        .mostrarGrafico = MostrarGraficoDeCorrida,
         .segundos = [] { return static_cast<std::int32_t>(std::time(nullptr)); },
     };
     InstalarPlataforma(Operaciones);

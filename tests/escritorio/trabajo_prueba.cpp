@@ -62,7 +62,7 @@ TEST_F(TrabajoEscritorio, GuardarCerrarYAbrir) {
     // The chooser begins in the folder of the last file.
     ConGuion({{"Guardar archivo de trabajo",
                [&](QDialog &d) {
-                   EXPECT_EQ(qobject_cast<QFileDialog &>(d).directory().absolutePath(), carpeta.path());
+                   EXPECT_EQ(qobject_cast<QFileDialog *>(&d)->directory().absolutePath(), carpeta.path());
                    EXPECT_EQ(Hijo<QLineEdit>(d, "fileNameEdit")->text(), QString::fromUtf8("peñón.TR2"));
                    d.reject();
                }}},
