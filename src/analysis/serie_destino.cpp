@@ -4,12 +4,9 @@
 #include "platform/campos_texto.h"
 #include "store/archivo.h"
 
-#include <algorithm>
-
 std::string CodigoDestino(std::string_view texto, std::size_t caracteres, const char *porDefecto) {
     std::string codigo(Recortado(texto.substr(0, caracteres)));
-    std::transform(codigo.begin(), codigo.end(), codigo.begin(),
-                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
+    PonerEnMayusculas(codigo);
     return codigo.empty() ? porDefecto : codigo;
 }
 

@@ -98,6 +98,8 @@ TEST(Descriptivos, UnaSerieConstanteNoTieneCorrelacion) {
     EXPECT_EQ(CorrelacionDeSeries(0, 3, 1, 2, {0, 2}), 0.0);
     EXPECT_EQ(CorrelacionDeSeries(0, 3, 0, 3, {0, 2}), 0.0);
     EXPECT_DOUBLE_EQ(CorrelacionDeSeries(1, 2, 1, 2, {0, 2}), 1.0);
+    PonerSerie("Z", {0.001, 0.002, 0.003});
+    EXPECT_DOUBLE_EQ(CorrelacionDeSeries(2, 0.002, 2, 0.002, {0, 2}), 1.0) << "however little it varies";
 }
 
 // Deviations by hand: of 1, 2, 3, 4 the root of 5/4 = 1.11803, of 9, 4, 1, 2 that of 38/4 = 3.08220; products about the means

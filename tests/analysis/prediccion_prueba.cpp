@@ -212,6 +212,29 @@ TEST(Prediccion, LosCodigos) {
     EXPECT_EQ(ArchivoTrabajo.NumSeries, antes + 2);
 }
 
+// Regressor and target may be the first series of the table. A target that is a regressor is emptied before it is
+// read.
+TEST(Prediccion, LaPrimeraSerieDeLaTabla) {
+    EmpezarConDatos(TipoAnual, "1981#2010");
+    PonerSerie("X", Valores(X, 0, Anos - 1));
+    PonerSerie("Y", Valores(Y, 0, Anos - 1));
+    Lote.VerRegresion = 0;
+    ASSERT_TRUE(Procesar("MC Y 1 X"));
+    int filas = 0, columnas = 0;
+    const Datos beta = MatrizDe("_BETA", filas, columnas);
+    ASSERT_EQ(AceptarPrediccion(nullptr, Rango("1985", "1990")), 1);
+    const int pred = BuscarSerie("_PRED");
+    EXPECT_EQ(ArchivoTrabajo.PrimeraObs[pred], 4);
+    EXPECT_EQ(ArchivoTrabajo.UltimaObs[pred], 9);
+    for (int i = 4; i <= 9; ++i) Cerca(ArchivoTrabajo.ValoresObs[i][pred], beta[0] + beta[1] * X(i));
+    ValoresPrediccion v = Rango("1985", "1990");
+    v.codigoPred = "X";
+    ASSERT_EQ(AceptarPrediccion(nullptr, v), 1);
+    EXPECT_EQ(BuscarSerie("X"), 0);
+    for (std::size_t i = 4; i <= 9; ++i) Cerca(ValoresDe("X", 10)[i], beta[0]);
+    EXPECT_TRUE(std::isnan(ValoresDe("X", 4)[3]));
+}
+
 // ----- Evaluation
 
 namespace {
@@ -278,6 +301,8 @@ TEST(Prediccion, MedidasDeCasosParticulares) {
         {{2, 2}, {1, 3}, {1, 1, 0, 1 / std::sqrt(5.0), 0, 1, 0}},            // the predictions don't vary
         {{1, 3}, {0, 0}, {2, 5, 0, 0, 0.8, 0.2, 0}},                         // nothing observed
         {{0, 0}, {0, 0}, {0, 0, 0, 0, 0, 0, 1}},
+        // Small numbers are divided like others.
+        {{0.001, 0.003}, {0.001, 0.005}, {0.001, 2e-6, 1, 2 / std::sqrt(26.0), 0.5, 0.5, 0}},
     };
     for (const auto &c : Casos) {
         const MedidasPrediccion m = MedirPrediccion(c.p, c.a);

@@ -215,8 +215,8 @@ TEST(Transformaciones, ElLogaritmoDeCero) {
 TEST(Transformaciones, ElDestino) {
     const struct {
         const char *codigo, *serie;
-    } Casos[] = {{"NUEVA", "NUEVA"},          {"nueva", "NUEVA"}, {" N ", "N"},
-                 {"ABCDEFGHIJ", "ABCDEFGHI"}, {"", "_TRANS"},     {"VIEJA", "VIEJA"}};
+    } Casos[] = {{"NUEVA", "NUEVA"},          {"azAZ_9", "AZAZ_9"}, {"nueva", "NUEVA"}, {" N ", "N"},
+                 {"ABCDEFGHIJ", "ABCDEFGHI"}, {"", "_TRANS"},       {"VIEJA", "VIEJA"}};
     for (const auto &c : Casos) {
         SCOPED_TRACE(c.codigo);
         EmpezarTrimestral();

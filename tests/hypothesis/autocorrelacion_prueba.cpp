@@ -171,6 +171,13 @@ TEST(Autocorrelacion, HastaDondeLleganLosRetardos) {
     }
 }
 
+TEST(Autocorrelacion, UnaSerieQueVariaPoco) {
+    EmpezarConSerie({0.001, 0.002, 0.003, 0.004, 0.005});
+    ASSERT_EQ(Aceptar(FuncionEstimada, "4"), 1);
+    const double esperados[] = {0, 0.4, -0.1, -0.4, -0.4};
+    for (int k = 0; k <= 4; ++k) EXPECT_NEAR(Autocorrelacion.coeficientes[k], esperados[k], 1e-14) << k;
+}
+
 // A lag of the whole sample sums nothing.
 TEST(Autocorrelacion, ElUltimoRetardoSumaNada) {
     EmpezarConSerie({1, 2, 3, 4, 5});

@@ -47,7 +47,8 @@ TEST(Normalidad, ValoresPorSuDefinicion) {
     for (int i = 0; i < 400; ++i)
         residuos.push_back(std::sin(i * 1.3) * (1 + 0.2 * (i % 7)) - 0.02 * (i % 3));
     for (int i = 0; i < 50; ++i) lejos.push_back(1000 + std::sin(i));
-    for (const Datos &x : {residuos, Datos{1, -1, 2}, Datos{-3}, Datos{0.5, -0.25, 0.125, -4}, lejos})
+    for (const Datos &x : {residuos, Datos{1, -1, 2}, Datos{-3}, Datos{0.5, -0.25, 0.125, -4},
+                           Datos{0.01, -0.02, 0.005}, lejos})
         Iguales(ContrastarNormalidad(x), PorDefinicion(x));
     // The moments are not about the mean.
     EXPECT_NEAR(ContrastarNormalidad(lejos).curtosis, 1.0, 1e-5);
