@@ -95,7 +95,7 @@ TEST_F(Impresion, SinTexto) {
 
 TEST_F(Impresion, LaCarpetaQueFaltaSeHace) {
     VaciarDocumentos();
-    ASSERT_TRUE(Documentos().rmdir(Documentos().path()));
+    ASSERT_TRUE(Documentos().removeRecursively());
     const QString estado = Imprimir(*ventana);
     ASSERT_EQ(Escritos().size(), 1);
     EXPECT_EQ(estado, QStringLiteral("Sin impresora: impreso en ") + Documentos().filePath(Escritos()[0]));
@@ -104,7 +104,7 @@ TEST_F(Impresion, LaCarpetaQueFaltaSeHace) {
 TEST_F(Impresion, CarpetaEnLaQueNoSeEscribe) {
     VaciarDocumentos();
     const QString carpeta = Documentos().path();
-    ASSERT_TRUE(QDir().rmdir(carpeta));
+    ASSERT_TRUE(QDir(carpeta).removeRecursively());
     EscribirEn(carpeta, "mio"); // a file stands where the folder should
     const QString estado = Imprimir(*ventana);
     EXPECT_TRUE(estado.startsWith(

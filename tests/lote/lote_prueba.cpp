@@ -154,7 +154,7 @@ TEST(Lote, SinAccionesYConAyudaMuestraElUso) {
               "--seguir", "--respuesta", "--decimales", "--borrar", "--relacion", "--muestra-actual",
               "--ultima-regresion", "--imprimir", "--imprimir-salidas", "--listado", "--volcado"})
             EXPECT_NE(r.salida.find(accion), std::string::npos) << accion;
-        EXPECT_EQ(r.salida.find("--grafico"), std::string::npos) << "only what there is";
+        EXPECT_EQ(r.salida.find("--traza"), std::string::npos) << "only what there is";
     }
 }
 
