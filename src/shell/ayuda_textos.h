@@ -18,7 +18,8 @@ extern const LineaAyuda TextoProbabilidades[], TextoLogicos[], TextoFicticias[],
 extern const LineaAyuda TextoMatrices1[], TextoMatrices2[], TextoEscalares[], TextoCalculadora[];
 
 // ayuda_textos_metodos.cpp
-extern const LineaAyuda TextoMetodos1[], TextoMetodos2[], TextoMetodos3[], TextoAlisado[], TextoAutocorrelacion[];
+extern const LineaAyuda TextoMetodos1[], TextoMetodos2[], TextoMetodos3[], TextoAlisado[],
+    TextoAutocorrelacion[];
 
 // ayuda_textos_control.cpp
 extern const LineaAyuda TextoControl1[], TextoControl2[], TextoControl3[];

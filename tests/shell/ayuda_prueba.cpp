@@ -96,8 +96,7 @@ TEST(Ayuda, TablaDePaginas) {
 }
 
 TEST(Ayuda, PaginasQueNoSeMuestran) {
-    for (const int id : {0, -1, 1137, 1207, 99999})
-        EXPECT_EQ(BuscarPagina(id), nullptr) << id;
+    for (const int id : {0, -1, 1137, 1207, 99999}) EXPECT_EQ(BuscarPagina(id), nullptr) << id;
 }
 
 TEST(Ayuda, BotonesSiguiente) {
