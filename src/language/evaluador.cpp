@@ -287,18 +287,12 @@ namespace {
 // True when no word of the formula is a function that mixes rows. The words are taken as loosely as can be: a name of a
 // function inside a text that is no formula costs time and nothing else.
 bool FilasIndependientes(const std::string &texto, int posicion) {
-    const std::size_t largo = texto.size();
-    for (std::size_t i = static_cast<std::size_t>(std::max(posicion, 0)); i < largo;) {
-        const std::size_t inicio = i;
-        while (i < largo && texto[i] >= 'A' && texto[i] <= 'Z') ++i;
-        if (i > inicio) {
-            const FuncionSerie *f = BuscarFuncionSerie(std::string_view(texto).substr(inicio, i - inicio));
-            if (f != nullptr && MezclaFilas(*f)) return false;
-        } else {
-            ++i;
-        }
-    }
-    return true;
+    const std::string_view formula = texto;
+    return !AlgunaPalabra(formula.substr(static_cast<std::size_t>(std::max(posicion, 0))),
+                          [](std::string_view palabra) {
+                              const FuncionSerie *f = BuscarFuncionSerie(palabra);
+                              return f != nullptr && MezclaFilas(*f);
+                          });
 }
 
 int EvaluarFilas(LineasSentencia &lineas, int &posicion, int primera, int ultima, bool soloPrimera) {

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // The text buffers of a statement: 0 holds the statement, 1 to 11 the pieces in parentheses while a formula is
 // evaluated. They belong to a batch, so that no statement allocates.
@@ -20,6 +21,12 @@ struct ColumnaPila {
 };
 
 enum EstadosElemento { ElementoInicio = 0, ElementoOperando = 1, ElementoOperador = 2 };
+
+// An operator of the outermost level as it was applied: what stood on its right, in the row PrimeraEval.
+struct PasoNivel {
+    char operador; // 'A' for AND, 'O' for OR
+    double derecho;
+};
 
 struct EstadoEvaluador {
     ColumnaPila *PilaColumnas; // MaxColumnasPila columns, allocated for a batch; null outside one
@@ -43,6 +50,8 @@ struct EstadoEvaluador {
     std::int32_t
         SeriesPermitidas; // 0 makes the evaluator blind to the codes of series; set at every statement
     Ventana *ventana;     // owner of the messages
+    std::vector<PasoNivel> *
+        pasos; // receives the steps of the outermost level that begin at the bottom of the stack; null for none
 };
 
 extern EstadoEvaluador Evaluador;

@@ -18,6 +18,21 @@ std::string_view SiguienteToken(const std::string &texto, int &posicion);
 // one, which exists. 1, or 0 after the boxes of the levels below.
 int EvaluarTrozo(LineasSentencia &lineas, int desde, int hasta);
 
+// True when a run of capital letters in the text fulfils `condicion`(std::string_view).
+template <class Condicion> bool AlgunaPalabra(std::string_view texto, Condicion condicion) {
+    const std::size_t largo = texto.size();
+    for (std::size_t i = 0; i < largo;) {
+        const std::size_t inicio = i;
+        while (i < largo && texto[i] >= 'A' && texto[i] <= 'Z') ++i;
+        if (i == inicio) {
+            ++i;
+        } else if (condicion(texto.substr(inicio, i - inicio))) {
+            return true;
+        }
+    }
+    return false;
+}
+
 // ----- The stack
 
 // The rows that an evaluation works on; empty when `hasta` is below `desde`.
@@ -45,10 +60,17 @@ inline ColumnaPila &Columna(int k) {
     return Evaluador.PilaColumnas[Evaluador.profundidad - 1 - k];
 }
 
+// Makes one column the whole stack, with this value where ValorSuperior takes it. The bounds are those of the last evaluation.
+void PonerValorUnico(double valor);
+
 // ----- Operands
 
 // The lag of a series that was pushed just now; `posicion` is on the "(". False when it is no lag.
 bool AplicarRetardo(int serie, const std::string &texto, int &posicion);
+
+// The row of the sample that the period in front of a "]" names, by its number or by a scalar; `posicion` moves behind it. -1 when
+// there is none.
+int LeerPeriodo(const std::string &texto, int &posicion);
 
 // The period of the series on top, pushed with the lag `retardo` (0 for none); `posicion` is on the "[". False when there
 // is no such row in the sample.
@@ -67,6 +89,9 @@ bool AnotarOperador(char operador);
 
 // Applies the last pending operator, which is taken off, to the two top columns. False when it is none.
 bool AplicarOperador();
+
+// The same operators, and 'A' and 'O' for AND and OR, on one value. False when it is none of them.
+bool OperarValor(char operador, double &izquierdo, double derecho);
 
 // Applies the pending "-" as a sign to the top column. False when the zero on its left finds no room.
 bool AplicarSigno();

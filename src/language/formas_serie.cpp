@@ -77,67 +77,6 @@ int SerieDesdeMatriz(std::string_view serie, const std::string &texto, int posic
 }
 
 // ---------------------------------------------------------------------------------------------------------------
-// SER serie = serie(-n) resto
-
-namespace {
-
-// Recognises the form; `retardo` receives n and `resto` the index behind the ")".
-bool LeerRecursiva(const std::string &linea, int posicion, int &retardo, std::size_t &resto) {
-    const std::size_t desde = static_cast<std::size_t>(posicion);
-    const std::size_t abre = linea.find_first_of(" =(", desde);
-    if (abre == std::string::npos || linea[abre] != '(') return false;
-    if (std::string_view(linea).substr(desde, abre - desde) != Recortado(Evaluador.CodigoSerieDestino))
-        return false;
-    const std::size_t cierra = linea.find(')', abre);
-    if (cierra == std::string::npos) return false;
-    // Only these digits count: signs don't, and "10" is a lag of 1.
-    std::string cifras;
-    std::copy_if(linea.begin() + static_cast<std::ptrdiff_t>(abre),
-                 linea.begin() + static_cast<std::ptrdiff_t>(cierra), std::back_inserter(cifras),
-                 [](char c) { return c >= '1' && c <= '9'; });
-    retardo = LeerEntero(cifras);
-    resto = cierra + 1;
-    return true;
-}
-
-// Builds the statement of row i in buffer 0 and evaluates it from behind its "=".
-int EvaluarFila(LineasSentencia &lineas, int i, int retardo, std::string_view resto, int primera,
-                int ultima) {
-    const std::string_view serie = Recortado(Evaluador.CodigoSerieDestino);
-    LimpiarEvaluador();
-    std::string &linea = lineas[0];
-    linea.assign("OBS ").append(serie).append("[").append(TextoPeriodo(i)).append("] = ");
-    int posicion = static_cast<int>(linea.size());
-    linea.append(serie).append("[").append(TextoPeriodo(i - retardo)).append("] ").append(resto);
-    return EvaluarPrimeraFila(lineas, posicion, primera, ultima);
-}
-
-} // namespace
-
-int SerieRecursiva(int posicion, Ventana *ventana, LineasSentencia &lineas, int primera, int ultima) {
-    int retardo = 0;
-    std::size_t detras = 0;
-    if (!LeerRecursiva(lineas[0], posicion, retardo, detras)) return 0;
-    const std::string resto = lineas[0].substr(detras);
-    // With a sample that starts beyond row 0 the end falls short of the sample's by `primera` rows.
-    const std::int64_t fin = std::min<std::int64_t>(std::int64_t{ultima} - primera + 1, MaxObservaciones);
-    for (std::int64_t i = std::int64_t{std::max(primera, 0)} + retardo; i < fin; ++i) {
-        const int fila = static_cast<int>(i);
-        // This form doesn't create its series.
-        const bool existe = BuscarSerie(Evaluador.CodigoSerieDestino) >= 0;
-        if (existe && EvaluarFila(lineas, fila, retardo, resto, primera, ultima) != 1) {
-            MostrarMensaje(ventana, "Error en el cálculo"_w);
-            return 1;
-        }
-        if (!existe || GuardarObservacionMuestra(TextoPeriodo(fila), ventana) != 1) {
-            MostrarMensaje(ventana, "Error en las asignaciones");
-            return 1;
-        }
-    }
-    return 1;
-}
-
-// ---------------------------------------------------------------------------------------------------------------
 // SER FICTIC serie
 
 namespace {

@@ -50,7 +50,24 @@ bool Operar(char operador, double *a, const double *b, int n) {
     }
 }
 
+double Logico(char operador, double a, double b) {
+    return (operador == 'A' ? a > 0.0 && b > 0.0 : a > 0.0 || b > 0.0) ? 1.0 : 0.0;
+}
+
+// Keeps what is about to be done to the two top columns, for who computes other rows by the same steps.
+void AnotarPaso(char operador) {
+    const EstadoEvaluador &e = Evaluador;
+    if (e.pasos != nullptr && e.NivelLinea == 0 && e.profundidad == 2)
+        e.pasos->push_back({operador, Columna(0).valor[e.PrimeraEval]});
+}
+
 } // namespace
+
+bool OperarValor(char operador, double &izquierdo, double derecho) {
+    if (operador != 'A' && operador != 'O') return Operar(operador, &izquierdo, &derecho, 1);
+    izquierdo = Logico(operador, izquierdo, derecho);
+    return true;
+}
 
 bool EsOperador(std::string_view token) {
     return token.size() == 1 && Operadores.find(token[0]) != std::string_view::npos;
@@ -71,6 +88,7 @@ void JuntarPresencia(ColumnaPila &a, const ColumnaPila &b) {
 bool AplicarOperador() {
     EstadoEvaluador &e = Evaluador;
     const char operador = e.OperadoresPendientes[static_cast<std::size_t>(--e.numOperadores)][0];
+    AnotarPaso(operador);
     ColumnaPila &a = Columna(1);
     const ColumnaPila &b = Columna(0);
     const FilasEvaluacion f = FilasDeEvaluacion();
@@ -93,18 +111,12 @@ bool AplicarSigno() {
 
 bool AplicarLogico() {
     const std::string_view palabra = Evaluador.OperadorLogico;
+    if (palabra != "AND" && palabra != "OR") return false;
+    AnotarPaso(palabra[0]);
     ColumnaPila &a = Columna(1);
     const ColumnaPila &b = Columna(0);
     const FilasEvaluacion f = FilasDeEvaluacion();
-    if (palabra == "AND") {
-        for (int i = f.desde; i <= f.hasta; ++i)
-            a.valor[i] = a.valor[i] > 0.0 && b.valor[i] > 0.0 ? 1.0 : 0.0;
-    } else if (palabra == "OR") {
-        for (int i = f.desde; i <= f.hasta; ++i)
-            a.valor[i] = a.valor[i] > 0.0 || b.valor[i] > 0.0 ? 1.0 : 0.0;
-    } else {
-        return false;
-    }
+    for (int i = f.desde; i <= f.hasta; ++i) a.valor[i] = Logico(palabra[0], a.valor[i], b.valor[i]);
     JuntarPresencia(a, b);
     --Evaluador.profundidad;
     return true;

@@ -33,6 +33,11 @@ double ValorSuperior() {
     return Columna(0).valor[fila];
 }
 
+void PonerValorUnico(double valor) {
+    Evaluador.profundidad = 1;
+    Columna(0).valor[Evaluador.PrimeraEval] = valor;
+}
+
 namespace {
 
 bool ApilarColumna() {
@@ -117,14 +122,17 @@ bool AplicarRetardo(int serie, const std::string &texto, int &posicion) {
     return true;
 }
 
+int LeerPeriodo(const std::string &texto, int &posicion) {
+    const std::string_view token = SiguienteToken(texto, posicion);
+    const int fila = FilaDePeriodo(LeerDecimal(token));
+    if (fila >= 0) return fila;
+    const int e = token.empty() ? -1 : BuscarEscalar(token);
+    return e >= 0 ? FilaDePeriodo(TablaEscalares.registro[e].Valor) : -1;
+}
+
 bool AplicarPeriodo(int serie, int retardo, const std::string &texto, int &posicion) {
     ++posicion;
-    const std::string_view token = SiguienteToken(texto, posicion);
-    int fila = FilaDePeriodo(LeerDecimal(token));
-    if (fila < 0) {
-        const int e = token.empty() ? -1 : BuscarEscalar(token);
-        if (e >= 0) fila = FilaDePeriodo(TablaEscalares.registro[e].Valor);
-    }
+    const int fila = LeerPeriodo(texto, posicion);
     if (fila < 0) return false;
     // The flags stay as they are: a row where the series is missing stays missing.
     ColumnaPila &c = Columna(0);

@@ -115,6 +115,50 @@ TEST(UnaFila, DiezMilFormulasAlAzar) {
     CerrarPilaColumnas();
 }
 
+// The recursive form reads the text of its first row and makes the same steps for the others. What stands behind a comma is
+// ignored, but a total there makes it read every row: values, boxes and flags are the same.
+TEST(UnaFila, LaRecursivaLeaOnoCadaFila) {
+    struct Caso {
+        std::vector<double> valores;
+        std::vector<CajaVista> cajas;
+    };
+    const auto correr = [](const std::string &sentencia, bool leyendo, int primera, int ultima) {
+        Empezar();
+        Prueba.segundos = 1234;
+        const std::string cola = " , SUMSER";
+        ProcesarLote(nullptr, nullptr, 246, leyendo ? sentencia + cola : sentencia, primera, ultima);
+        Caso c;
+        for (int i = 0; i < 20; ++i) {
+            c.valores.push_back(ArchivoTrabajo.ValoresObs[i][0]);
+            c.valores.push_back(ArchivoTrabajo.PresenciaObs[i][0]);
+        }
+        for (CajaVista &caja : Prueba.cajas)
+            if (const std::size_t i = caja.texto.find(cola); i != std::string::npos)
+                caja.texto.erase(i, cola.size());
+        c.cajas = Prueba.cajas;
+        return c;
+    };
+    constexpr const char *Restos[] = {
+        "",         "* 0.5",   "* 0.5 + Y",   "+ (Y * A)", "+ X",    "* Y[1994]",  "/ A - Y(-1)",
+        "- M[1,2]", "+ LN(Y)", "* POT(Y,2)",  "> 3",       "AND Y",  "OR (Y > 2)", "+ NADIE",
+        "+ RNDN",   "+ TEND",  "+ NOBS",      "+ SUMA(M)", "Y",      "+ X[1992]",  "* -Y",
+        "- - Y",    ")(",      "+ Y[1980]",   "(-1)",      "[1994]", "+ ()",       "AND (Y OR A)",
+        ": 2",      "+",       "* (Y > (A))", "+ X2",
+    };
+    for (const char *resto : Restos)
+        for (const char *retardo : {"(-1)", "(-2)", "(0)", "(-30)"})
+            for (const int primera : {0, 3, 19})
+                for (const int ultima : {primera, 19, 100000}) {
+                    const std::string sentencia = std::string("SER X = X") + retardo + " " + resto;
+                    SCOPED_TRACE(sentencia + " " + std::to_string(primera) + " " + std::to_string(ultima));
+                    const Caso leida = correr(sentencia, true, primera, ultima);
+                    const Caso conPasos = correr(sentencia, false, primera, ultima);
+                    ASSERT_EQ(0, std::memcmp(leida.valores.data(), conPasos.valores.data(),
+                                             leida.valores.size() * sizeof(double)));
+                    ASSERT_EQ(leida.cajas, conPasos.cajas);
+                }
+}
+
 // Behind the one row nothing is computed: what stood on the stack there still stands.
 TEST(UnaFila, LasDemasFilasNoSeTocan) {
     Empezar();
