@@ -177,6 +177,45 @@ TEST_F(Graficos, CursoresDeLaLeyenda) {
     });
 }
 
+// Each handle at the middle of a side takes that side along, and the chart is painted with what came of it.
+TEST_F(Graficos, TirarDeCadaAsa) {
+    struct Asa {
+        int CajaGrafico::*lado;
+        QPoint desde, hasta; // from the centre of the legend, in halves of its sides
+        Cursor cursor;
+    };
+    const Asa asas[] = {{&CajaGrafico::izquierda, {-1, 0}, {-2, 0}, CursorHorizontal},
+                        {&CajaGrafico::derecha, {1, 0}, {2, 0}, CursorHorizontal},
+                        {&CajaGrafico::superior, {0, -1}, {0, -2}, CursorVertical},
+                        {&CajaGrafico::inferior, {0, 1}, {0, 2}, CursorVertical}};
+    for (const Asa &asa : asas) {
+        SCOPED_TRACE(&asa - asas);
+        Grafico g = DeSeries();
+        EnVentana(g, [&](QDialog &, QWidget &area) {
+            const CajaGrafico antes = g.disposicion.parte[ParteLeyenda];
+            const int ancho = antes.derecha - antes.izquierda, alto = antes.inferior - antes.superior;
+            const auto punto = [&](QPoint mitades) {
+                return Centro(antes) + QPoint(mitades.x() * ancho / 2, mitades.y() * alto / 2);
+            };
+            const QPoint desde = punto(asa.desde) - asa.desde * 2; // a little inside
+            QTest::mouseClick(&area, Qt::LeftButton, {}, desde);
+            QTest::qWait(QApplication::doubleClickInterval() + 50);
+            QTest::mousePress(&area, Qt::LeftButton, {}, desde);
+            Mover(area, desde);
+            EXPECT_EQ(g.arrastre.estadoLeyenda, LeyendaCambiandose);
+            const QPoint hasta = punto(asa.hasta);
+            Mover(area, hasta);
+            EXPECT_EQ(area.cursor().pixmap().toImage(), CursorDeGrafico(asa.cursor).pixmap().toImage());
+            QTest::mouseRelease(&area, Qt::LeftButton, {}, hasta);
+            area.grab();
+            CajaGrafico despues = antes;
+            despues.*asa.lado = asa.cursor == CursorHorizontal ? hasta.x() : hasta.y();
+            EXPECT_EQ(g.disposicion.parte[ParteLeyenda], despues);
+            EXPECT_EQ(g.arrastre.estadoLeyenda, LeyendaQuieta);
+        });
+    }
+}
+
 TEST_F(Graficos, DobleClicSueltaElTitulo) {
     Grafico g = DeSeries();
     EnVentana(g, [&](QDialog &, QWidget &area) {

@@ -1,7 +1,7 @@
 // The charts of series, and those of a regression.
 #include "charts/graficos/clases.h"
 
-#include <cstdlib>
+#include <algorithm>
 
 namespace {
 
@@ -30,9 +30,9 @@ void DibujarBanda(const Lienzo &l) {
 
 // From zero outwards, in both directions. At the left edge a label would stand on the axis of the other.
 void MarcasDesdeElMedioX(const Lienzo &l) {
-    const int intervalos = IntervalosX(l.g);
+    const int intervalos = std::max(IntervalosX(l.g), MinIntervalos);
     const int eje = l.g.marcasAlMedio != 0 ? YMedia(l) : l.d.area.inferior;
-    for (int i = 0; intervalos > 0 && i <= intervalos; ++i)
+    for (int i = 0; i <= intervalos; ++i)
         for (const int lado : {1, -1}) {
             if (i == 0 && lado < 0) continue;
             const double v = lado * (i * (l.g.limites.maxX / intervalos));
@@ -42,9 +42,9 @@ void MarcasDesdeElMedioX(const Lienzo &l) {
 }
 
 void MarcasDesdeElMedioY(const Lienzo &l) {
-    const int intervalos = IntervalosY(l.g);
+    const int intervalos = std::max(IntervalosY(l.g), MinIntervalos);
     const int eje = l.g.marcasYAlMedio != 0 ? XMedia(l) : l.d.area.izquierda;
-    for (int i = 0; intervalos > 0 && i <= intervalos; ++i)
+    for (int i = 0; i <= intervalos; ++i)
         for (const int lado : {1, -1}) {
             if (i == 0 && lado < 0) continue;
             const double v = lado * (i * (l.g.limites.maxY / intervalos));
@@ -63,7 +63,7 @@ void DibujarGraficoSeries(const Lienzo &l) {
     const double paso = PasoDeSeries(l);
     EjeHorizontal(l, l.d.area.inferior);
     EjeVertical(l, l.d.area.izquierda);
-    MarcasDePeriodos(l, l.d.area.inferior, paso);
+    MarcasDePeriodos(l, l.d.area.inferior, paso, IntervalosX(l.g));
     MarcasDeValoresY(l);
     DibujarSeries(l, {XDeFila, YDeValor, paso, l.d.area.inferior, false});
 }
@@ -81,7 +81,8 @@ void DibujarGraficoResiduos(const Lienzo &l) {
     const double paso = PasoDeResiduos(l);
     EjeHorizontal(l, YMedia(l));
     EjeVertical(l, l.d.area.izquierda);
-    MarcasDePeriodos(l, l.g.marcasAlMedio != 0 ? YMedia(l) : l.d.area.inferior, paso);
+    MarcasDePeriodos(l, l.g.marcasAlMedio != 0 ? YMedia(l) : l.d.area.inferior, paso,
+                     std::max(IntervalosX(l.g), MinIntervalos));
     MarcasSimetricas(l);
     if (l.g.conBanda != 0) DibujarBanda(l);
     DibujarSeries(l, {XDeFila, YDesdeElMedio, paso, YMedia(l), true});

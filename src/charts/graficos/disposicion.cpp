@@ -53,7 +53,7 @@ void DisponerPartes(const Grafico &g, DisposicionGrafico &d) {
         CajaDesde(2 * d.c, area.superior, 2 * d.c, static_cast<int>(o.tituloY.size()) * d.h);
 }
 
-// A title that was moved and then rewritten keeps its corner.
+// A title that was moved and then rewritten keeps its corner, that of the X axis the height that its move gave it, too.
 void DejarLasMovidas(const Grafico &g, DisposicionGrafico &d) {
     for (std::size_t i = 0; i < NumPartesDeGrafico; ++i) {
         if (!g.arrastre.movida[i]) continue;
@@ -62,7 +62,8 @@ void DejarLasMovidas(const Grafico &g, DisposicionGrafico &d) {
         d.parte[i] = i == ParteLeyenda
                          ? antes
                          : CajaDesde(antes.izquierda, antes.superior, nueva.derecha - nueva.izquierda,
-                                     nueva.inferior - nueva.superior);
+                                     i == ParteTituloX ? antes.inferior - antes.superior
+                                                       : nueva.inferior - nueva.superior);
     }
 }
 

@@ -138,6 +138,6 @@ void PintarContorno(Superficie &s, const Grafico &g) {
         {c.izquierda, MitadY(c)}, {c.derecha, MitadY(c)}, {MitadX(c), c.superior}, {MitadX(c), c.inferior}};
     for (const auto &asa : asas) {
         const int x = asa[0] - LadoDeAsa / 2, y = asa[1] - LadoDeAsa / 2;
-        Rectangulo(s, x, y, x + LadoDeAsa, y + LadoDeAsa, PlumaContorno, &PlumaContorno.color);
+        Rectangulo(s, x, y, x + LadoDeAsa, y + LadoDeAsa, PlumaEjes, &PlumaEjes.color);
     }
 }

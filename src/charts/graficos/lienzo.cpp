@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 
 namespace {
 
@@ -23,7 +22,7 @@ int Proporcion(int origen, int recorrido, double v, double minimo, double maximo
 
 int AlMenosDos(int intervalos) {
     if (intervalos < 1) return 0;
-    return std::clamp(intervalos, 2, MaxIntervalos);
+    return std::clamp(intervalos, MinIntervalos, MaxIntervalos);
 }
 
 std::string_view EtiquetaDeFila(const Grafico &g, int fila) {
@@ -115,13 +114,10 @@ int IntervalosX(const Grafico &g) {
 }
 
 int IntervalosY(const Grafico &g) {
-    // The sign of what the user wrote doesn't count.
-    const int n = std::clamp(g.opciones.intervalosY, -MaxIntervalos, MaxIntervalos);
-    return AlMenosDos(std::abs(n));
+    return AlMenosDos(g.opciones.intervalosY);
 }
 
-void MarcasDePeriodos(const Lienzo &l, int eje, double paso) {
-    const int intervalos = IntervalosX(l.g);
+void MarcasDePeriodos(const Lienzo &l, int eje, double paso, int intervalos) {
     if (intervalos == 0) return;
     const int salto = std::max(FilasTrazadas(l.g) / intervalos, 1);
     for (int t = l.g.limites.primera; t <= l.g.limites.ultima; t += salto)

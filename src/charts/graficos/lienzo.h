@@ -47,9 +47,11 @@ void MarcaEnY(const Lienzo &l, int eje, int y, std::string_view texto);
 // The intervals that an axis is divided in: of the X axis, cut to the sample; a value of 1 becomes 2; 0 for no marks.
 int IntervalosX(const Grafico &g);
 int IntervalosY(const Grafico &g);
+// The fewest where there are any. Some axes of the charts of a regression have these even where the user wants none.
+inline constexpr int MinIntervalos = 2;
 
 // Marks of periods on a line at height `eje`, and of values along the bottom and the left edge.
-void MarcasDePeriodos(const Lienzo &l, int eje, double paso);
+void MarcasDePeriodos(const Lienzo &l, int eje, double paso, int intervalos);
 void MarcasDeValoresX(const Lienzo &l);
 void MarcasDeValoresY(const Lienzo &l);
 

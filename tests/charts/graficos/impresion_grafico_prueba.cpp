@@ -66,6 +66,27 @@ TEST_F(Papel, LaLeyendaMovidaGuardaSuLugar) {
     EXPECT_EQ(Solo(EnPapel(), "caja"), (Ordenes{"caja 527,530 837,770 0,0,0"}));
 }
 
+TEST_F(Papel, LoArrastradoFueraDelTrazadoGuardaSuLugar) {
+    Prueba.enGrafico = [](Grafico &g) {
+        g.opciones.titulo = "Titulo";
+        g.opciones.tituloX = "Eje";
+        g.opciones.tituloY = "Y";
+        Redibujado(g, 640, 480); // the plot is (120, 64) to (520, 416)
+        g.arrastre.movida.fill(true);
+        g.disposicion.parte[ParteLeyenda] = {40, 432, 121, 500};  // 10 cells left of it, 23 rows down
+        g.disposicion.parte[ParteTitulo] = {560, 32, 608, 64};    // 55 cells right, 2 up
+        g.disposicion.parte[ParteTituloX] = {24, 440, 48, 462};   // 12 cells left, 23 down
+        g.disposicion.parte[ParteTituloY] = {543, 200, 559, 216}; // 52 cells right, 8 down
+        Redibujado(g, 640, 480);
+        ImprimirVentanaGrafico(nullptr, g);
+    };
+    ASSERT_TRUE(Sentencia("GRAF X"));
+    const Ordenes d = EnPapel();
+    EXPECT_EQ(Solo(d, "caja"), (Ordenes{"caja 155,1730 465,1970 0,0,0"}));
+    EXPECT_EQ(Ordenes(d.end() - 3, d.end()),
+              (Ordenes{"texto 2170,230 Titulo", "texto 2077,830 Y", "texto 93,1730 Eje"}));
+}
+
 TEST_F(Papel, SinVentanaValeLaDe640Por480) {
     ASSERT_TRUE(IniciarEleccionDeSeries(nullptr, GraficosTemporales, 0, 3));
     EXPECT_EQ(ImprimirEleccionDeSeries(nullptr, GraficosTemporales, {SeleccionDeSeries, {}, {"X"}}, "", 0, 3),

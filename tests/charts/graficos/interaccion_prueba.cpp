@@ -46,11 +46,10 @@ TEST_F(Raton, ElegirLaLeyenda) {
     EXPECT_TRUE(e.contorno);
     EXPECT_FALSE(e.repintar);
     EXPECT_EQ(g.arrastre.estadoLeyenda, LeyendaElegida);
-    EXPECT_EQ(
-        Contorno(),
-        (Ordenes{"caja 760,96 928,160 0,0,0 p", "caja 758,126 762,130 0,0,0 p relleno 0,0,0",
-                 "caja 926,126 930,130 0,0,0 p relleno 0,0,0", "caja 842,94 846,98 0,0,0 p relleno 0,0,0",
-                 "caja 842,158 846,162 0,0,0 p relleno 0,0,0"}));
+    EXPECT_EQ(Contorno(),
+              (Ordenes{"caja 760,96 928,160 0,0,0 p", "caja 758,126 762,130 0,0,0 relleno 0,0,0",
+                       "caja 926,126 930,130 0,0,0 relleno 0,0,0", "caja 842,94 846,98 0,0,0 relleno 0,0,0",
+                       "caja 842,158 846,162 0,0,0 relleno 0,0,0"}));
     const EfectoDelRaton suelta = SoltarEnGrafico(g);
     EXPECT_EQ(suelta.cursor, CursorFlecha);
     EXPECT_TRUE(suelta.repintar);
@@ -195,6 +194,7 @@ TEST_P(RatonTitulo, Sigue) {
     MoverEnGrafico(g, 0, 0);
     const Ordenes d = Redibujado(g);
     EXPECT_EQ(Solo(d, "texto 200,300").size(), 1U);
+    EXPECT_EQ(g.disposicion.parte[static_cast<std::size_t>(p.parte)], p.caja); // for the next press
 }
 INSTANTIATE_TEST_SUITE_P(
     Casos, RatonTitulo,

@@ -2,6 +2,7 @@
 // 384); 392 units to both sides, 320 up and down.
 #include "charts/graficos/graficos.h"
 
+#include "charts/graficos/lienzo.h"
 #include "charts/graficos/regresion_grafico.h"
 #include "estimation/regresion.h"
 #include "language/lote_sentencias.h"
@@ -202,10 +203,33 @@ TEST_P(GraficoMarcas, Simetricas) {
 INSTANTIATE_TEST_SUITE_P(Casos, GraficoMarcas,
                          testing::Values(IntervalosResiduos{0, 0}, IntervalosResiduos{1, 3},
                                          IntervalosResiduos{2, 3}, IntervalosResiduos{3, 3},
-                                         IntervalosResiduos{4, 5}, IntervalosResiduos{-4, 5}));
+                                         IntervalosResiduos{4, 5}, IntervalosResiduos{-4, 0}));
+
+// The axis of the observations always has two intervals, as that of the series has not.
+struct IntervalosEnX {
+    int intervalos;
+    Ordenes rotulos;
+};
+class GraficoPeriodos : public Regresion, public testing::WithParamInterface<IntervalosEnX> {};
+TEST_P(GraficoPeriodos, AlMenosDosIntervalos) {
+    Prueba.enGrafico = [](Grafico &g) {
+        g.opciones.intervalosX = GetParam().intervalos;
+        EXPECT_EQ(Solo(Redibujado(g), "texto", ",392 "), GetParam().rotulos);
+    };
+    ASSERT_EQ(AbrirGraficoDeRegresion(nullptr, GraficoResiduos, ResiduosOrdinarios), 1);
+}
+const Ordenes DosPeriodos = {"texto 128,392 90", "texto 520,392 92"};
+const Ordenes CuatroPeriodos = {"texto 128,392 90", "texto 324,392 91", "texto 520,392 92",
+                                "texto 716,392 93"};
+INSTANTIATE_TEST_SUITE_P(Casos, GraficoPeriodos,
+                         testing::Values(IntervalosEnX{-3, DosPeriodos}, IntervalosEnX{0, DosPeriodos},
+                                         IntervalosEnX{1, DosPeriodos}, IntervalosEnX{2, DosPeriodos},
+                                         IntervalosEnX{4, CuatroPeriodos},
+                                         IntervalosEnX{99, CuatroPeriodos}));
 
 TEST_F(Regresion, UnaObservacion) {
     UltimaRegresion.UltimaObsRegresion = 1;
+    Prueba.enGrafico = [](Grafico &g) { EXPECT_EQ(IntervalosX(g), 2); };
     ASSERT_EQ(AbrirGraficoDeRegresion(nullptr, GraficoResiduos, ResiduosOrdinarios), 1);
     EXPECT_EQ(Rotulos(392), (Ordenes{"90"}));
 }
@@ -294,6 +318,23 @@ TEST_F(Regresion, MarcasDeLaPrediccion) {
         EXPECT_EQ(izquierda.back(), "linea 155,700 155,708 0,0,0");
     };
     ASSERT_EQ(AbrirGraficoDePrediccion(nullptr, {{-1, 2}, {1, 4}, 1, "Y"}), 1);
+}
+
+TEST_F(Regresion, LaPrediccionTieneDosIntervalosAlMenos) {
+    for (const int intervalos : {-4, 0, 1, 2}) {
+        SCOPED_TRACE(intervalos);
+        Prueba.enGrafico = [&](Grafico &g) {
+            g.opciones.intervalosX = g.opciones.intervalosY = intervalos;
+            const Ordenes d = Redibujado(g);
+            // Steps of 2 from -4 to 4; at the ends of the X axis nothing is drawn.
+            EXPECT_EQ(Solo(d, "texto", ",392 "),
+                      (Ordenes{"texto 512,392 0.00", "texto 708,392 2.00", "texto 316,392 -2.00"}));
+            EXPECT_EQ(Solo(d, "texto 4"),
+                      (Ordenes{"texto 472,384 0.00", "texto 472,224 2.00", "texto 464,544 -2.00",
+                               "texto 472,64 4.00", "texto 464,704 -4.00"}));
+        };
+        ASSERT_EQ(AbrirGraficoDePrediccion(nullptr, {{-1, 2}, {1, 4}, 1, "Y"}), 1);
+    }
 }
 
 struct LimitesPrediccion {

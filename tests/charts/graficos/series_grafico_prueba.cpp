@@ -216,7 +216,8 @@ INSTANTIATE_TEST_SUITE_P(
                     EjeY{"GRAF MINY -5 X", "-5.00", "4.00", 11},
                     EjeY{"GRAF X MINY 2.5 MAXY 3", "2.50", "3.00", 11},
                     EjeY{"GRAF X INTERY 1", "1.00", "4.00", 3}, EjeY{"GRAF X INTERY 2", "1.00", "4.00", 3},
-                    EjeY{"GRAF X INTERY -4", "1.00", "4.00", 5}, EjeY{"GRAF X INTERY 0", "", "", 0},
+                    EjeY{"GRAF X INTERY -4", "", "", 0}, EjeY{"GRAF X INTERY -1", "", "", 0},
+                    EjeY{"GRAF X INTERY 0", "", "", 0},
                     // A flat series, and limits that the user made equal, grow by 1.
                     EjeY{"GRAF Z", "5.00", "6.00", 11}, EjeY{"GRAF X MINY 7 MAXY 7", "7.00", "8.00", 11},
                     // Crossed limits have no marks.
@@ -303,6 +304,15 @@ TEST(GrafUnaFila, DosIntervalos) {
     EXPECT_EQ(intervalos, 1);
     EXPECT_EQ(Rotulos(712), (Ordenes{"90"}));
     EXPECT_EQ(Solo(Dibujo(), "linea", "255,0,0"), (Ordenes{"linea 768,120 808,120 255,0,0"}));
+}
+
+TEST(GrafUnaFila, DosIntervalosDeLosValores) {
+    EmpezarConDatos(TipoAnual, "1990#1990");
+    PonerSerie("X", {7});
+    PonerSerie("Y", {3});
+    EXPECT_EQ(EjecutarGRAF(nullptr, "(X) Y", 0, 0), 1);
+    // From 7, on the edge of the plot, to 8.
+    EXPECT_EQ(Solo(Dibujo(), "texto", ",712 "), (Ordenes{"texto 508,712 7.50", "texto 896,712 8.00"}));
 }
 
 struct Decimales {
