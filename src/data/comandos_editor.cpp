@@ -29,9 +29,11 @@ bool BorrarSeries(Ventana *) {
     return false;
 }
 
+// The head row stands for no observation, whatever rows are hidden above it.
 bool EliminarLaObservacion(Ventana *ventana) {
     if (!ValidarYCompactar(ventana)) return false;
-    if (EliminarObservacion(ventana, FilaDeCelda(Editor.CeldaActual) - 1 + Editor.FilaInicial)) {
+    const int fila = FilaDeCelda(Editor.CeldaActual);
+    if (fila > 0 && EliminarObservacion(ventana, fila - 1 + Editor.FilaInicial)) {
         PosicionInicial();
     } else {
         IrACelda(Editor.CeldaActual); // the series may have closed up

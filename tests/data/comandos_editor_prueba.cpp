@@ -217,12 +217,16 @@ TEST(ComandosEditor, EliminarObservacion) {
     EXPECT_EQ(Editor.FilaInicial, 1);
     EXPECT_EQ(Editor.CeldaActual, CeldaEn(2, 2));
     EXPECT_EQ(Campo(), "");
-    // The head row stands for no observation, unless rows are hidden above it.
-    abrir();
-    EntrarEnEditor({BarraEnFila, 0});
-    Clic(CeldaEn(2, 0));
-    EjecutarComandoEditor(nullptr, 2076);
-    EXPECT_TRUE(Prueba.cajas.empty());
+    // The head row stands for no observation, not for the one hidden above it either.
+    for (const int filaInicial : {0, 1}) {
+        abrir();
+        EntrarEnEditor({BarraEnFila, filaInicial});
+        Clic(CeldaEn(2, 0));
+        EjecutarComandoEditor(nullptr, 2076);
+        EXPECT_TRUE(Prueba.cajas.empty());
+        EXPECT_EQ(ArchivoTrabajo.NumSeries, 1); // the codes were checked all the same
+        EXPECT_EQ(ArchivoTrabajo.ValoresObs[0][0], 1.0);
+    }
 }
 
 TEST(ComandosEditor, LosQueAbrenUnDialogo) {

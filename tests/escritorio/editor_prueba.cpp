@@ -134,6 +134,21 @@ TEST_F(EditorAbierto, Menus) {
     EXPECT_TRUE(Entrada(2077)->isEnabled());
 }
 
+// Another data type, chosen beside the open editor, counts when the keyboard comes back to it.
+TEST_F(EditorAbierto, ElMenuAlVolver) {
+    AbrirSeries();
+    EXPECT_FALSE(Entrada(2076)->isEnabled());
+    for (const int tipo : {TipoSinPeriodicidad, TipoTrimestral}) {
+        ventana->activateWindow();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == ventana.get(); }, 5000));
+        ArchivoTrabajo.TipoDatos = static_cast<std::int16_t>(tipo);
+        ventana->EditorDatos->activateWindow();
+        ASSERT_TRUE(EsperarEditor());
+        for (const int id : {2076, 2077}) EXPECT_EQ(Entrada(id)->isEnabled(), tipo == TipoSinPeriodicidad);
+        EXPECT_TRUE(Entrada(2021)->isEnabled());
+    }
+}
+
 TEST_F(EditorAbierto, SusDialogos) {
     AbrirSeries(TipoSinPeriodicidad, "");
     PonerSerie("B", {3, 1, 2});

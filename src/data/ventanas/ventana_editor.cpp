@@ -50,9 +50,21 @@ void VentanaEditor::PonerMenu() {
         if (c.entrada == nullptr) continue;
         QAction *accion = menu->addAction(QDe1252(c.entrada));
         accion->setObjectName(QStringLiteral("editor%1").arg(c.id));
-        accion->setEnabled(c.habilitado == nullptr || c.habilitado());
         connect(accion, &QAction::triggered, this, [this, id = c.id] { Ordenar(id); });
     }
+    HabilitarEntradas();
+}
+
+void VentanaEditor::HabilitarEntradas() {
+    for (const ComandoDeEditor &c : ComandosDelEditor(static_cast<ModosDeEditor>(Editor.ModoEditor)))
+        if (auto *accion = menu->findChild<QAction *>(QStringLiteral("editor%1").arg(c.id)))
+            accion->setEnabled(c.habilitado == nullptr || c.habilitado());
+}
+
+// The main window may have chosen another data type while this one stood beside it.
+void VentanaEditor::changeEvent(QEvent *suceso) {
+    QWidget::changeEvent(suceso);
+    if (suceso->type() == QEvent::ActivationChange && isActiveWindow()) HabilitarEntradas();
 }
 
 void VentanaEditor::Ordenar(int id) {

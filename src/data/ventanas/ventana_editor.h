@@ -21,9 +21,11 @@ public:
 
 protected:
     void closeEvent(QCloseEvent *suceso) override;
+    void changeEvent(QEvent *suceso) override;
 
 private:
     void PonerMenu();
+    void HabilitarEntradas();
     void Ordenar(int id);
 
     QMenuBar *menu;
