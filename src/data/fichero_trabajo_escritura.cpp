@@ -70,7 +70,7 @@ bool HayAlgo(int fila) {
 // observations leaves them there.
 int FilasDelFichero() {
     int n = MaxObservaciones;
-    const int minimo = std::clamp(static_cast<int>(ArchivoTrabajo.NumObs), 0, MaxObservaciones);
+    const int minimo = FilasEnUso();
     while (n > minimo && !HayAlgo(n - 1)) --n;
     return n;
 }

@@ -25,14 +25,8 @@ bool Rechazada(const char *serie) {
 void CopiarColumna(int serie, int primera, int ultima) {
     const ColumnaPila &columna = ColumnaSuperior();
     CabeceraArchivo &a = ArchivoTrabajo;
-    const auto limpiar = [&](int desde, int hasta) {
-        for (int i = desde; i < hasta; ++i) {
-            a.ValoresObs[i][serie] = 0.0;
-            a.PresenciaObs[i][serie] = 0;
-        }
-    };
-    limpiar(0, std::min<int>(primera, a.FilasEscritas[serie]));
-    limpiar(std::max(ultima + 1, 0), a.FilasEscritas[serie]);
+    LimpiarFilas(serie, 0, primera);
+    LimpiarFilas(serie, ultima + 1, MaxObservaciones);
     for (int i = primera; i <= ultima; ++i) {
         const bool hay = columna.presente[i] == 1;
         a.ValoresObs[i][serie] = hay ? columna.valor[i] : 0.0;
@@ -51,10 +45,7 @@ void LimpiarRetardo(int serie, int primera, int ultima) {
         desde = std::max<std::int64_t>(ultima - n + 1, primera);
         hasta = ultima;
     }
-    for (std::int64_t i = desde; i <= hasta; ++i) {
-        ArchivoTrabajo.ValoresObs[i][serie] = 0.0;
-        ArchivoTrabajo.PresenciaObs[i][serie] = 0;
-    }
+    LimpiarFilas(serie, static_cast<int>(desde), static_cast<int>(hasta) + 1);
 }
 
 int GuardarEnPeriodo(std::string_view periodo, bool fueraDeMuestra) {

@@ -19,10 +19,6 @@ int FilasConValor(int serie) {
     return n;
 }
 
-int FilasDelArchivo() {
-    return ArchivoTrabajo.NumObs <= MaxObservaciones ? ArchivoTrabajo.NumObs : MaxObservaciones;
-}
-
 std::string_view CodigoVisible(const char *codigo) {
     return Recortado(codigo, RecorteDerecha);
 }
@@ -35,7 +31,7 @@ void PonerParDeEnteros(std::string &json, const char *clave, int a, int b) {
 void PonerTextos(std::string &json, const char *clave, std::string_view (*texto)(int)) {
     PonerClaveJson(json, clave);
     json += '[';
-    for (int i = 0; i < FilasDelArchivo(); ++i) {
+    for (int i = 0; i < FilasEnUso(); ++i) {
         PonerComaJson(json);
         PonerTextoJson(json, texto(i));
     }

@@ -82,6 +82,10 @@ bool CabeOtraSerie();
 // not written yet. Codes that are taken by a matrix or a scalar are the caller's to refuse.
 int TomarSerie(std::string_view codigo);
 
+// Clears value and flag of the rows `desde` to `hasta` (not included), which may lie outside the table; the mark of the rows that
+// may hold something stays.
+void LimpiarFilas(int serie, int desde, int hasta);
+
 // Clears value and flag of all 4,000 rows.
 void LimpiarColumna(int serie);
 

@@ -18,12 +18,6 @@ constexpr std::size_t AnchoCampoMuestra = 18; // characters of a field of the sa
 
 constexpr std::int32_t SinPresencia[MaxSeries] = {};
 
-// Rows that can have texts and data, whatever a damaged file put into NumObs.
-int FilasEnUso() {
-    const int n = ArchivoTrabajo.NumObs;
-    return n > MaxObservaciones ? MaxObservaciones : std::max(n, 0);
-}
-
 int SeriesEnUso() {
     return std::min<int>(ArchivoTrabajo.NumSeries, MaxSeries);
 }
@@ -197,13 +191,17 @@ std::string TextoDeLimite(int ano, int sub, const std::string &escrito) {
 
 } // namespace
 
+int FilasEnUso() {
+    const int n = ArchivoTrabajo.NumObs;
+    return n > MaxObservaciones ? MaxObservaciones : std::max(n, 0);
+}
+
 int FinDeCalculo(int ultima) {
     return ultima < MaxObservaciones ? ultima : FilasEnUso() - 1;
 }
 
 FilasDeMuestra FilasDelArchivo(int inicio, int fin) {
-    const int ultima = std::clamp(static_cast<int>(ArchivoTrabajo.NumObs), 0, MaxObservaciones) - 1;
-    return {std::clamp(inicio, 0, MaxObservaciones), std::clamp(fin, -1, ultima)};
+    return {std::clamp(inicio, 0, MaxObservaciones), std::clamp(fin, -1, FilasEnUso() - 1)};
 }
 
 void ActualizarMuestra() {

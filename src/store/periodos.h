@@ -52,6 +52,9 @@ extern EstadoDeMuestra Muestra;
 // beyond row 0 the end is 100,000: whoever uses the bounds checks them.
 void ActualizarMuestra();
 
+// Rows of the tables that can have texts and data, 0 to 4,000, whatever a damaged file put into NumObs.
+int FilasEnUso();
+
 // The end of a sample for whoever computes: a bound behind the tables, as a sample without data has, counts as the last row
 // of the work file. A series that was declared and holds nothing yet must not stop everything else.
 int FinDeCalculo(int ultima);

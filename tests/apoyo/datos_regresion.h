@@ -2,11 +2,14 @@
 #pragma once
 
 #include "apoyo/plataforma_prueba.h"
+#include "estimation/ecuacion.h"
 #include "estimation/regresion.h"
 #include "language/lote_sentencias.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
+
+#include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
@@ -29,6 +32,19 @@ inline void EmpezarRegresion() {
     // value for each regressor and no more.
     Procesar("MUEST 1 20");
     Lote.VerRegresion = 0;
+}
+
+// Reads the equation of an MC on all 20 rows into `e`, for the routines behind it; `lineas` holds its text meanwhile. The
+// evaluation stack is opened, and the caller closes it.
+inline void LeerEcuacionMC(Estimacion &e, LineasSentencia &lineas, const char *texto) {
+    AbrirPilaColumnas();
+    LimpiarEvaluador();
+    lineas[0] = texto;
+    e.lineas = &lineas;
+    e.codigo = OrdenMC;
+    Muestra.InicioRegresion = 0;
+    Muestra.FinRegresion = 19;
+    ASSERT_EQ(LeerEcuacion(e, 0), 1);
 }
 
 // Runs the engine on a text that the statement driver may not let through. The evaluation stack is opened for it.

@@ -11,9 +11,11 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QTimer>
 
 namespace {
@@ -159,6 +161,27 @@ void Elegir(QWidget &w, const char *lista, int linea) {
     ASSERT_LT(linea, l->count());
     l->scrollToItem(l->item(linea));
     QTest::mouseClick(l->viewport(), Qt::LeftButton, {}, l->visualItemRect(l->item(linea)).center());
+}
+
+void ElegirDelMenu(QWidget &w, const char *entrada) {
+    QTimer::singleShot(20, &w, [=] {
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        for (QAction *a : menu->actions()) {
+            if (QString(a->text()).remove(u'&').toStdString() != entrada) continue;
+            menu->setActiveAction(a);
+            QTest::keyClick(menu, Qt::Key_Return);
+            return;
+        }
+        ADD_FAILURE() << "no entry " << entrada;
+        menu->close();
+    });
+}
+
+void DelMenu(QWidget &w, const char *entrada) {
+    ElegirDelMenu(w, entrada);
+    QContextMenuEvent suceso(QContextMenuEvent::Keyboard, {20, 20}, w.mapToGlobal(QPoint(20, 20)));
+    QApplication::sendEvent(&w, &suceso);
 }
 
 std::vector<std::string> CodigosDeSeries() {

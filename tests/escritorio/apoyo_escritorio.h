@@ -65,6 +65,10 @@ std::vector<std::string> LineasDe(QWidget &w, const char *lista); // of a list
 // Chooses a line of a list by a click.
 void Elegir(QWidget &w, const char *lista, int linea);
 
+// Chooses an entry (without its "&") of the context menu of `w`, once it is open; DelMenu opens it.
+void ElegirDelMenu(QWidget &w, const char *entrada);
+void DelMenu(QWidget &w, const char *entrada);
+
 // Names of the codes of the store, without their blanks.
 std::vector<std::string> CodigosDeSeries();
 std::vector<std::string> CodigosDeEscalares();

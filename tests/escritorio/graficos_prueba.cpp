@@ -81,23 +81,6 @@ std::vector<std::string> EntradasDe(QDialog &d) {
     return r;
 }
 
-void DelMenu(QWidget &area, const char *entrada) {
-    QTimer::singleShot(20, &area, [=] {
-        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        ASSERT_NE(menu, nullptr);
-        for (QAction *a : menu->actions()) {
-            if (QString(a->text()).remove(u'&').toStdString() != entrada) continue;
-            menu->setActiveAction(a);
-            QTest::keyClick(menu, Qt::Key_Return);
-            return;
-        }
-        ADD_FAILURE() << "no entry " << entrada;
-        menu->close();
-    });
-    QContextMenuEvent suceso(QContextMenuEvent::Keyboard, {20, 20}, area.mapToGlobal(QPoint(20, 20)));
-    QApplication::sendEvent(&area, &suceso);
-}
-
 void Mover(QWidget &area, QPoint a) {
     QMouseEvent suceso(QEvent::MouseMove, a, area.mapToGlobal(a), Qt::NoButton, Qt::LeftButton,
                        Qt::NoModifier);

@@ -63,29 +63,6 @@ void EnKlein(VentanaPrincipal &v, const std::function<void(QDialog &, QAbstractS
     ConGuion(guion, [&] { v.findChild<QAction *>(QStringLiteral("comando2006"))->trigger(); });
 }
 
-// Chooses an entry of the context menu, once it is open.
-void ElegirDelMenu(QAbstractScrollArea &area, const char *entrada) {
-    QTimer::singleShot(20, &area, [=] {
-        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        ASSERT_NE(menu, nullptr);
-        for (QAction *a : menu->actions()) {
-            if (QString(a->text()).remove(u'&').toStdString() != entrada) continue;
-            menu->setActiveAction(a);
-            QTest::keyClick(menu, Qt::Key_Return);
-            return;
-        }
-        ADD_FAILURE() << "no entry " << entrada;
-        menu->close();
-    });
-}
-
-void DelMenu(QAbstractScrollArea &area, const char *entrada) {
-    ElegirDelMenu(area, entrada);
-    QContextMenuEvent suceso(QContextMenuEvent::Keyboard, {20, 20},
-                             area.viewport()->mapToGlobal(QPoint(20, 20)));
-    QApplication::sendEvent(area.viewport(), &suceso);
-}
-
 std::string Portapapeles() {
     return QApplication::clipboard()->text().toStdString();
 }
@@ -239,7 +216,7 @@ TEST_F(Resultado, Desplazarse) {
 TEST_F(Resultado, Copiar) {
     EnKlein(*ventana, [](QDialog &, QAbstractScrollArea &area) {
         QApplication::clipboard()->clear();
-        DelMenu(area, "Copiar");
+        DelMenu(*area.viewport(), "Copiar");
         const std::string texto = Portapapeles();
         for (const char *numero : {"16.2366", "0.1929", "0.0898", "0.7962"})
             EXPECT_NE(texto.find(numero), std::string::npos) << numero << "\n" << texto;
@@ -258,7 +235,7 @@ TEST_F(Resultado, Copiar) {
 TEST_F(Resultado, CopiarComoTabla) {
     EnKlein(*ventana, [](QDialog &, QAbstractScrollArea &area) {
         QApplication::clipboard()->clear();
-        DelMenu(area, "Copiar como tabla");
+        DelMenu(*area.viewport(), "Copiar como tabla");
         const QStringList lineas = QApplication::clipboard()->text().split(u'\n');
         EXPECT_TRUE(lineas.contains(QStringLiteral("Nº Observaciones\t21")));
         static constexpr const char *Nombres[] = {"1", "BENEF", "BENEF(-1)", "SALARIOS"};
@@ -288,7 +265,9 @@ TEST_F(Resultado, GuardarComo) {
         {"Imagen PNG (*.png)", "otra.PDF", "otra.PDF", "%PDF"}, // the ending that was typed holds
     };
     const QDir casa(Casa());
-    const auto guardar = [](QDialog &, QAbstractScrollArea &area) { DelMenu(area, "Guardar como..."); };
+    const auto guardar = [](QDialog &, QAbstractScrollArea &area) {
+        DelMenu(*area.viewport(), "Guardar como...");
+    };
     EnKlein(*ventana, guardar, {ConEscape("Guardar como")});
     for (const auto &c : Casos) {
         SCOPED_TRACE(std::string(c.filtro) + ": " + c.nombre);
@@ -311,7 +290,9 @@ TEST_F(Resultado, GuardarComo) {
 // What is there already goes only after a question; "No" leads back to the dialog.
 TEST_F(Resultado, GuardarSobreOtro) {
     const QString ruta = Casa() + QStringLiteral("/hay.txt");
-    const auto guardar = [](QDialog &, QAbstractScrollArea &area) { DelMenu(area, "Guardar como..."); };
+    const auto guardar = [](QDialog &, QAbstractScrollArea &area) {
+        DelMenu(*area.viewport(), "Guardar como...");
+    };
     const Paso elegir = {"Guardar como", [&](QDialog &d) {
                              auto *nombre = d.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
                              nombre->setText(Casa() + QStringLiteral("/hay"));

@@ -224,16 +224,9 @@ TEST(Ponderada, LosDatosPonderadosNoSePueden) {
     for (const char *nombre : {"_XIND", "_YDEP"}) {
         EmpezarRegresion();
         ASSERT_TRUE(Procesar("SER _VORD = 1"));
-        AbrirPilaColumnas();
-        LimpiarEvaluador();
         LineasSentencia lineas;
-        lineas[0] = "Y 1 X";
         Estimacion e;
-        e.lineas = &lineas;
-        e.codigo = OrdenMC;
-        Muestra.InicioRegresion = 0;
-        Muestra.FinRegresion = 19;
-        ASSERT_EQ(LeerEcuacion(e, 0), 1);
+        LeerEcuacionMC(e, lineas, "Y 1 X");
         const int m = BuscarMatriz(nombre);
         double *bloque = std::exchange(TablaMatrices.bloque[m], nullptr);
         EXPECT_EQ(PonderarDatos(e), 0);

@@ -134,16 +134,9 @@ TEST(Formas, LoQueQueda) {
 TEST(Formas, SeisDecimales) {
     EmpezarRegresion();
     ASSERT_TRUE(Procesar("SER T = Y / 7"));
-    AbrirPilaColumnas();
-    LimpiarEvaluador();
     LineasSentencia lineas;
-    lineas[0] = "T 1 X";
     Estimacion e;
-    e.lineas = &lineas;
-    e.codigo = OrdenMC;
-    Muestra.InicioRegresion = 0;
-    Muestra.FinRegresion = 19;
-    ASSERT_EQ(LeerEcuacion(e, 0), 1);
+    LeerEcuacionMC(e, lineas, "T 1 X");
     ASSERT_EQ(EjecutarPasos(e), 1);
     SoltarTodasMatrices();
     CerrarPilaColumnas();

@@ -154,7 +154,7 @@ bool FilasAListar(int &primera, int &ultima) {
         ultima -= primera;
         primera = 0;
     }
-    ultima = std::min({ultima, ArchivoTrabajo.NumObs - 1, MaxObservaciones - 1});
+    ultima = std::min(ultima, FilasEnUso() - 1);
     return true;
 }
 
