@@ -177,7 +177,10 @@ int ContrasteHipotesisNula(LineasSentencia &lineas, int posicion, Ventana *venta
         return Rechazar(ventana, "Introduzca número restricciones: ["_w + segunda + "]", 2664);
     const int numero = LeerEntero(segunda);
     if (numero < 1) return Rechazar(ventana, "Número restricciones no válido: ["_w + segunda + "]", 2668);
-    if (palabra == "MR") return AnotarMR(ventana, numero, linea.substr(static_cast<std::size_t>(posicion)));
+    if (palabra == "MR") {
+        SaltarBlancos(linea, posicion); // they would take the room of the text's end
+        return AnotarMR(ventana, numero, linea.substr(static_cast<std::size_t>(posicion)));
+    }
     if (palabra == "FR") return AnotarFR(ventana, numero, lineas);
     h.cuentaIR = numero;
     return 1;

@@ -176,6 +176,17 @@ TEST(DialogoHipotesisNula, VuelveConLosTextos) {
     EXPECT_EQ(AbrirHipotesisNula().restricciones[1], "");
 }
 
+// Nothing of a field that is full is lost.
+TEST(DialogoHipotesisNula, UnCampoLleno) {
+    EmpezarDialogo();
+    ValoresHipotesisNula v = AbrirHipotesisNula();
+    MostrarRestricciones(nullptr, v, "1");
+    v.restricciones[0] = "BETA(1)=" + std::string(80 - 10, '0') + "15";
+    AceptarHipotesisNula(nullptr, v);
+    EXPECT_EQ(TextosDeCajas(), Textos{});
+    EXPECT_EQ(HipotesisNula.textosGuardados[0], v.restricciones[0]);
+}
+
 TEST(DialogoHipotesisNula, UnCampoEnBlanco) {
     EmpezarDialogo();
     ValoresHipotesisNula v = AbrirHipotesisNula();
