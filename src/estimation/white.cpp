@@ -110,7 +110,8 @@ int AmpliarRegresores(Estimacion &e) {
     int &series = UltimaRegresion.SeriesRegresion[OrdenCWH];
     if (series == static_cast<int>(e.columnas.size())) AnadirRegresor(e, "1", "1");
     const std::size_t originales = e.columnas.size();
-    const auto esNumero = [&](std::size_t i) { return LeerDecimal(e.textos[i]) != 0.0; };
+    // A number below one in size counts as none, and is squared like a series.
+    const auto esNumero = [&](std::size_t i) { return LeerEntero(e.textos[i]) != 0; };
     int numero = 1;
     for (std::size_t i = 0; i < originales; ++i)
         if (!esNumero(i) && AnadirProducto(e, i, i, numero) == 0) return 0;

@@ -88,6 +88,8 @@ INSTANTIATE_TEST_SUITE_P(
     Calculo, FallosRegresion,
     testing::Values(
         Fallo{"", "MC Y X X", {"Matriz singular. Pto 402", "Secuencia no válida. Pto 6535"}},
+        // White's test squares what isn't a number from one on: two constants.
+        Fallo{"MC Y 0.5 X", "CWH", {"Matriz singular. Pto 402", "Secuencia no válida. Pto 6535"}},
         Fallo{"MUEST 1 3", "MC Y 1 X Z X(-1)", {"Matriz singular. Pto 402", "Secuencia no válida. Pto 6535"}},
         // Data of so small a scale that a row of the moment matrix is below the tolerance.
         Fallo{"SER CHICA = X / 100000",
