@@ -217,11 +217,12 @@ int LeerCabecera(Estimacion &e, std::string &linea, int &posicion) {
 
 int LeerEcuacion(Estimacion &e, int posicion) {
     CuentaSeries(e) = 0;
-    // CR compares with an earlier regression; without one its sample says nothing.
-    if (e.codigo == OrdenCR && BuscarMatriz("_BETA") < 0)
-        return MensajePunto(e.ventana, "Calcule mínimo cuadrado"_w, 263);
-    if (Muestra.FinRegresion - Muestra.InicioRegresion + 1 < MinimoObservaciones)
+    // CR compares with an earlier regression. Before the first one there is no sample that could be too small.
+    const bool sinRegresion = e.codigo == OrdenCR && BuscarMatriz("_BETA") < 0;
+    const bool sinMuestra = sinRegresion && Muestra.FinRegresion == 0;
+    if (!sinMuestra && Muestra.FinRegresion - Muestra.InicioRegresion + 1 < MinimoObservaciones)
         return MensajePunto(e.ventana, "La muestra es muy pequeña"_w, 293);
+    if (sinRegresion) return MensajePunto(e.ventana, "Calcule mínimo cuadrado"_w, 263);
     std::string &linea = LineaDelNivel(*e.lineas);
     if (LeerCabecera(e, linea, posicion) == 0) return 0;
     Lector lector{&linea, posicion, e.ventana};

@@ -84,6 +84,15 @@ TEST(ModeloRestringido, LosGradosSonLosDelRangoDelMomento) {
     EXPECT_DOUBLE_EQ(EscalarDe("_FORLAR"), (scrr - scr) / (scr / (18 - 3)));
 }
 
+// A sample that a regression was tried on comes before the regression that isn't there.
+TEST(ModeloRestringido, LaMuestraAntesQueLaRegresion) {
+    EmpezarRegresion();
+    EXPECT_FALSE(Procesar("MUEST 1 2\nMC Y 1 X"));
+    Prueba.cajas.clear();
+    EXPECT_FALSE(Procesar("CR Y 1 X"));
+    EXPECT_EQ(TextosDeCajas(), Textos{"La muestra es muy pequeña. Pto 293"});
+}
+
 TEST(ModeloRestringido, FamiliaOcupada) {
     const struct {
         const char *nombre, *caja;
