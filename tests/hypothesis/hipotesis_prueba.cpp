@@ -82,6 +82,19 @@ TEST(HipotesisNula, EsLaFDeLaRegresionRestringida) {
     }());
 }
 
+// The restricted model asks the same of the regression by its sums of squares.
+TEST(HipotesisNula, ElModeloRestringidoDaLaMismaF) {
+    EmpezarHipotesis();
+    const long double completa = Completo().scr;
+    const long double restringida = Minimos(ValoresDe("Y", 20), {Unos(20), ValoresDe("X", 20)}).scr;
+    const long double f = (restringida - completa) / (completa / 17);
+    EsperarCerca(Contrastar("CHN IR 1\nCHN MR 1 BETA(3) = 0\nCHN FR 1").f, f);
+    double delModelo = NAN;
+    MirarAlMostrar([&] { delModelo = EscalarDe("_FORLAR"); });
+    EXPECT_TRUE(Procesar("CR Y 1 X"));
+    EsperarCerca(delModelo, f);
+}
+
 TEST(HipotesisNula, SuTabla) {
     EmpezarHipotesis();
     const Vistos v = Contrastar("CHN IR 1\nCHN MR 1 BETA(3) = 0\nCHN FR 1");
@@ -288,12 +301,12 @@ TEST(HipotesisNula, IREmpiezaDeNuevo) {
     EXPECT_EQ(HipotesisNula.textosGuardados[0], "BETA(3)=1");
 }
 
-// A text has 80 characters; the rest is dropped.
+// A text has 80 characters, which the blanks in front of it don't take; the rest is dropped.
 TEST(HipotesisNula, TextosLargos) {
     EmpezarHipotesis();
-    const std::string relleno(80 - 9, '0'); // the text begins with the blank behind the number
-    EXPECT_TRUE(Procesar("CHN IR 1\nCHN MR 1 BETA(1)=" + relleno + "15"));
-    EXPECT_EQ(HipotesisNula.textos[0], " BETA(1)=" + relleno);
+    const std::string texto = "BETA(1)=" + std::string(80 - 10, '0') + "15";
+    EXPECT_TRUE(Procesar("CHN IR 1\nCHN MR 1   " + texto + "3"));
+    EXPECT_EQ(HipotesisNula.textos[0], texto);
 }
 
 // More than eleven lines are counted, eleven are kept; a number above eleven is ten.
@@ -306,7 +319,7 @@ TEST(HipotesisNula, MasDeOnceRestricciones) {
     EXPECT_EQ(TextosDeCajas(), Textos{"Número de restricciones no válidas"});
     EXPECT_EQ(HipotesisNula.q, 10);
     EXPECT_EQ(HipotesisNula.cuentaMR, 12);
-    EXPECT_EQ(HipotesisNula.textos[10], " BETA(1)=11");
+    EXPECT_EQ(HipotesisNula.textos[10], "BETA(1)=11");
 }
 
 struct CasoNumero {

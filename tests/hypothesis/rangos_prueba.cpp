@@ -116,6 +116,27 @@ TEST(Rangos, LosResiduosSeBuscanConSuSigno) {
     EXPECT_EQ(rangos, (std::vector<double>{1, 2, 1, 2, 1, 2}));
 }
 
+// Ties between residuals of both signs, in the order in which the plain double loop over rows leaves them.
+TEST(Rangos, LosEmpatesDeResiduosComoElDobleBucle) {
+    EmpezarConDatos(TipoSinPeriodicidad, "");
+    const std::vector<double> e = {2, -1, 3, 1, -2, -3, 2, -1, 1, -2, 3, -3, -1, 1, 2, -2};
+    std::vector<double> orden, ordenados = e, rangos, vistos;
+    for (std::size_t i = 0; i < e.size(); ++i) orden.push_back(static_cast<double>(i));
+    PonerSerie("Y", e);
+    PonerSerie("O", orden);
+    ASSERT_TRUE(Procesar("MUEST 1 16\nVSR NO\nMC Y 1"));
+    ASSERT_EQ(ValoresDe("_RES", 16), e); // their mean is 0
+    for (std::size_t i = 0; i + 1 < e.size(); ++i)
+        for (std::size_t j = i + 1; j < e.size(); ++j)
+            if (std::fabs(ordenados[j]) < std::fabs(ordenados[i])) std::swap(ordenados[i], ordenados[j]);
+    for (const double x : e)
+        rangos.push_back(
+            1.0 + static_cast<double>(std::find(ordenados.begin(), ordenados.end(), x) - ordenados.begin()));
+    MirarAlMostrar([&] { vistos = ValoresDe("_TMP2", 16); });
+    EXPECT_TRUE(Procesar("CRA O"));
+    EXPECT_EQ(vistos, rangos);
+}
+
 // Ranks count from the start of the series; the start of the sample falls out with the mean.
 TEST(Rangos, EnParteDeLaMuestra) {
     EmpezarRangos();
