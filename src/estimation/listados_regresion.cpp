@@ -119,7 +119,7 @@ void ProducirValores(ListadoProducido &l, const PeticionListado &p, Ventana *ven
         if (p.conEtiquetas) linea += Formatear("%-13.13s", ArchivoTrabajo.EtiquetasObs[t]);
         AnadirLinea(l.lineas, GrupoFila,
                     linea + NumeroListado(p, observado) + f.separador + NumeroListado(p, estimado) +
-                        f.separador + NumeroListado(p, residuo));
+                        f.separador + NumeroListado(p, residuo) + f.separador);
         l.tabla += std::string(TextoPeriodo(t)) + "\t";
         if (p.conEtiquetas) l.tabla += std::string(Recortado(ArchivoTrabajo.EtiquetasObs[t])) + "\t";
         l.tabla +=

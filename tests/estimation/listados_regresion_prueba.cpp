@@ -169,10 +169,16 @@ TEST(ListadoValores, EnPapel) {
     EXPECT_EQ(t.paginas[0].at(1), " Período    Valores observados    Valores estimados    Residuos");
     EXPECT_EQ(t.paginas[0].at(2), "    1992                1.00             0.75             0.25");
     EXPECT_EQ(t.paginas[0].size(), 7u);
-    for (const OrdenDibujo &o : t.dibujo[0].ordenes)
-        if (o.clase == OrdenTexto && o.texto.starts_with(" Per")) {
+    for (const OrdenDibujo &o : t.dibujo[0].ordenes) {
+        if (o.clase != OrdenTexto) continue;
+        if (o.texto.starts_with(" Per")) {
             EXPECT_TRUE(o.texto.ends_with("Residuos    "));
         }
+        // Three numbers of 15 characters, two blanks behind each.
+        if (o.texto.starts_with("    1992")) {
+            EXPECT_EQ(o.texto, "    1992                1.00             0.75             0.25  ");
+        }
+    }
 }
 
 // The range as far as the tables go.
