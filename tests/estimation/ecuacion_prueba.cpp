@@ -165,6 +165,19 @@ TEST(EcuacionMC, VsrDecideSiSePregunta) {
     EXPECT_EQ(Nombres(UltimaRegresion.CodigosRegresores), "1|Z|");
 }
 
+// Before a loop it silences MC and MCP, and them only.
+TEST(EcuacionMC, VsrNoAntesDeUnBucle) {
+    EmpezarRegresion();
+    Lote.VerRegresion = 1;
+    ASSERT_TRUE(
+        Procesar("VSR NO\nREPITE J DESDE 1 HASTA 2\nMC Y 1 X Z\nMCP (X) Y 1 X Z\nFINREPITE\nCR Y 1 X\nCWH"));
+    EXPECT_EQ(UltimaRegresion.MetodoRegresion, OrdenMCP);
+    EXPECT_EQ(TextosDeCajas(), Textos{});
+    ASSERT_EQ(Prueba.resultados.size(), 2u);
+    EXPECT_EQ(Prueba.resultados[0].clase, OrdenCR);
+    EXPECT_EQ(Prueba.resultados[1].clase, OrdenCWH);
+}
+
 // ----- Texts of any length
 
 TEST(EcuacionMC, TextosLargos) {

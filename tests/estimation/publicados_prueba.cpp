@@ -147,3 +147,18 @@ TEST(Formas, SeisDecimales) {
     EXPECT_DOUBLE_EQ(EscalarDe("_DTVD"), std::sqrt(24.786735 / 19.0));
     EXPECT_DOUBLE_EQ(EscalarDe("_RC"), 1.0 - EscalarDe("_SCR") / 24.786735);
 }
+
+// Values that have nothing but what six decimals lose.
+TEST(Formas, LaVariacionEsSobreLaMediaExacta) {
+    EmpezarRegresion();
+    ASSERT_TRUE(Procesar("SER T = Y / 7000000"));
+    LineasSentencia lineas;
+    Estimacion e;
+    LeerEcuacionMC(e, lineas, "T 1 X");
+    ASSERT_EQ(EjecutarPasos(e), 1);
+    SoltarTodasMatrices();
+    CerrarPilaColumnas();
+    EXPECT_DOUBLE_EQ(EscalarDe("_MVD"), 0.000002); // of 0.00000219
+    EXPECT_NEAR(e.variacion, 1214.55 / 49e12, 1e-12 * e.variacion);
+    EXPECT_EQ(EscalarDe("_SCVD"), 0.0);
+}
