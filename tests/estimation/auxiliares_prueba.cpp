@@ -225,7 +225,6 @@ INSTANTIATE_TEST_SUITE_P(
                     CasoWhite{"MC Y 1 X Z", "RA", "1 X Z X*X Z*Z ", 4},
                     CasoWhite{"MC Y 1 X Z", "PC", "1 X Z X*X Z*Z X*Z ", 5},
                     CasoWhite{"MC Y X Z", "", "X Z 1 X*X Z*Z ", 4},               // a constant is added
-                    CasoWhite{"MC Y 0.5 X", "PC", "0.5 X X*X ", 2},               // no product of a number
                     CasoWhite{"SER D = X > 10\nMC Y 1 X D", "", "1 X D X*X ", 3}, // a dummy is its own square
                     CasoWhite{"SER XX = X * X\nMC Y 1 X XX", "", "1 X XX XX*XX ", 3},
                     CasoWhite{"MC Y 1 X(-1)", "", "1 X(-1) X(-1)*X(-1) ", 2}));
