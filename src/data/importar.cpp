@@ -1,6 +1,7 @@
 // ASCII import: records and fields of both formats, and where each goes. Everything here is met by any bytes at all.
 #include "data/intercambio.h"
 
+#include "language/notas.h"
 #include "platform/campos_texto.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
@@ -22,6 +23,8 @@ struct Importacion {
     int cuenta;        // what NumSeries will be
     int registro;      // number of the record, from 1; blank lines don't count
     std::string campo; // the field at hand
+    bool conLetras;    // a value that is no number was read as 0
+    bool conComas;     // a value was read up to its comma
 };
 
 // What follows a field.
@@ -60,10 +63,14 @@ bool EsDeMuestra(const Importacion &m, int fila) {
     return fila >= m.muestra.inicio && fila <= m.muestra.fin;
 }
 
-void PonerValor(const Importacion &m, int fila, int columna) {
+void PonerValor(Importacion &m, int fila, int columna) {
     if (!EsDeMuestra(m, fila) || columna < 0 || columna >= MaxSeries) return;
     const bool falta = CadenaDeCaracter(m.campo, ' ') == 1 || CadenaDeCaracter(m.campo, '-') == 1;
-    PonerObservacion(fila, columna, falta ? 0.0 : LeerDecimal(m.campo), falta ? 0 : 1);
+    const double valor = falta ? 0.0 : LeerDecimal(m.campo);
+    PonerObservacion(fila, columna, valor, falta ? 0 : 1);
+    if (falta) return;
+    m.conComas |= m.campo.find(',') != std::string::npos;
+    m.conLetras |= valor == 0.0 && m.campo.find_first_not_of("0+-.,eE ") != std::string::npos;
 }
 
 void PonerEtiqueta(const Importacion &m, int fila, std::string_view etiqueta) {
@@ -242,12 +249,27 @@ bool LeerRegistroFijo(Importacion &m, const LineaLeida &linea) {
 
 // ---------------------------------------------------------------------------------------------------------------
 
+// What makes a person look at the format again.
+void AnotarLectura(const Importacion &m, std::string_view texto) {
+    constexpr std::string_view Separadores = ";\t,";
+    if (m.conLetras) Anotar("Hay valores que no son números: se han leído como 0"_w);
+    if (m.conComas) Anotar("Hay valores con coma, leídos hasta ella: ¿son comas decimales?"_w);
+    if (m.cuenta - m.seriesAntes != 1) return;
+    const std::string_view linea = texto.substr(0, texto.find_first_of("\r\n"));
+    const bool conOtro = m.opciones.FormatoVariable != 0 &&
+                         linea.find(m.opciones.Separador) == std::string_view::npos &&
+                         linea.find_first_of(Separadores) != std::string_view::npos;
+    Anotar(conOtro ? "Se ha leído una sola serie: el separador parece ser otro"_w
+                   : "Se ha leído una sola serie"_w);
+}
+
 } // namespace
 
 void ImportarTexto(const OpcionesIntercambio &opciones, std::string_view texto, int inicio, int fin) {
     if (opciones.SustituirSeries != 0) BorrarTodasLasSeries(opciones.ModoEtiquetas > 0);
     // The count begins at zero, not at the series that are there: a file without fields leaves them uncounted.
-    Importacion m = {opciones, FilasDelArchivo(inicio, fin), ArchivoTrabajo.NumSeries, 0, 0, {}};
+    Importacion m = {opciones, FilasDelArchivo(inicio, fin), ArchivoTrabajo.NumSeries, 0, 0, {}, false,
+                     false};
     const auto leerRegistro = opciones.FormatoVariable != 0 ? LeerRegistroVariable : LeerRegistroFijo;
 
     std::size_t posicion = 0;
@@ -259,4 +281,5 @@ void ImportarTexto(const OpcionesIntercambio &opciones, std::string_view texto, 
     }
     ArchivoTrabajo.NumSeries = static_cast<std::uint16_t>(m.cuenta);
     ActualizarLimitesSeries();
+    AnotarLectura(m, texto);
 }

@@ -195,6 +195,28 @@ int BloqueRegresion(TextoSalida &texto, std::vector<TablaCoeficientes> &tablas, 
                                                      : MensajePunto(ventana, "Secuencia no válida"_w, 871);
 }
 
+RegresionMostrada RegresionDe(int codigo, const ParteMuestra *parte) {
+    DatosBloque d = {};
+    d.codigo = codigo;
+    d.parte = parte;
+    if (ReunirDatos(d, nullptr) == 0) return {};
+    RegresionMostrada r = {
+        codigo, d.dependiente, Muestra.InicioRegresion, Muestra.FinRegresion, d.observaciones, {}, {}};
+    if (parte != nullptr) {
+        r.observaciones = parte->ultima - parte->primera + 1;
+        r.primera = parte->fila;
+        r.ultima = parte->fila + r.observaciones - 1;
+    }
+    for (std::size_t n = 0; n < d.nombres->size(); ++n) {
+        const int i = static_cast<int>(n);
+        r.regresores.push_back({(*d.nombres)[n], EnMatriz(d.beta, d.numBeta, i),
+                                EnMatriz(d.desviacion, d.numDesviacion, i), EnSerie(d, d.serieT, i),
+                                EnSerie(d, d.serieProbabilidad, i)});
+    }
+    r.estadisticos = ValoresDeLineas(Estadisticos, codigo);
+    return r;
+}
+
 std::string TablaRegresion(int codigo, const ParteMuestra *parte) {
     const std::vector<std::string> &nombres = NombresDe(codigo);
     std::string t = "Variable Dep.\t" + DependienteDe(codigo) + "\n";

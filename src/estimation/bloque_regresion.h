@@ -20,6 +20,9 @@ struct ParteMuestra {
 int BloqueRegresion(TextoSalida &texto, std::vector<TablaCoeficientes> &tablas, Ventana *ventana, int codigo,
                     const ParteMuestra *parte);
 
+// The numbers of the block, once BloqueRegresion has found all of its results.
+RegresionMostrada RegresionDe(int codigo, const ParteMuestra *parte);
+
 // The coefficients with their statistics, then the statistics of the whole: fields parted by tabulators, numbers with all
 // their digits. Code and part select the results as above; those that are gone are left out.
 std::string TablaRegresion(int codigo, const ParteMuestra *parte = nullptr);

@@ -5,6 +5,7 @@
 #include "estimation/ponderacion.h"
 #include "estimation/white.h"
 #include "language/lote_sentencias.h"
+#include "language/notas.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
@@ -176,6 +177,8 @@ void AnalizarOpciones(const std::string &texto, int &posicion) {
         std::string_view(texto).substr(std::min<std::size_t>(posicion, texto.size()));
     const std::string_view opcion = resto.substr(0, 2);
     posicion += static_cast<int>(opcion.size());
+    if (opcion != "CN" && opcion != "CH" && opcion != "CA")
+        Anotar("La opción no es CN, CH ni CA n: las covarianzas son las habituales"_w);
     if (opcion == "CH") u.TipoCovarianza = CovarianzaHeterocedasticidad;
     if (opcion == "CA") {
         u.TipoCovarianza = CovarianzaAutocorrelacion;

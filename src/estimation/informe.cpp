@@ -102,7 +102,8 @@ void MostrarSalida(Ventana *ventana, int clase, ProductorDeInforme producir) {
                               .lineas = &informe.lineas,
                               .fijas = nullptr,
                               .tablas = &informe.tablas,
-                              .tabla = informe.tabla};
+                              .tabla = informe.tabla,
+                              .regresiones = &informe.regresiones};
     PonerClase(salida, clase);
     MostrarVentanaResultado(ventana, salida);
 }
@@ -111,6 +112,7 @@ namespace {
 
 int InformeDeRegresion(InformeProducido &informe, Ventana *ventana, int codigo) {
     if (BloqueRegresion(informe.lineas, informe.tablas, ventana, codigo, nullptr) == 0) return 0;
+    informe.regresiones.push_back(RegresionDe(codigo, nullptr));
     informe.tabla = TablaRegresion(codigo);
     return 1;
 }

@@ -14,6 +14,7 @@ std::string TituloRegresion(int codigo);
 struct InformeProducido {
     TextoSalida lineas;
     std::vector<TablaCoeficientes> tablas;
+    std::vector<RegresionMostrada> regresiones;
     std::string tabla; // may stay empty
 };
 

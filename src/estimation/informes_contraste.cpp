@@ -31,6 +31,7 @@ double Cociente(double dividendo, double divisor) {
 // The block of a regression behind the lines of a test, in the report and in its table.
 int AnadirRegresion(InformeProducido &informe, Ventana *ventana, int codigo, const ParteMuestra *parte) {
     if (BloqueRegresion(informe.lineas, informe.tablas, ventana, codigo, parte) == 0) return 0;
+    informe.regresiones.push_back(RegresionDe(codigo, parte));
     informe.tabla += "\n" + TablaRegresion(codigo, parte);
     return 1;
 }

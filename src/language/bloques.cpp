@@ -3,6 +3,7 @@
 #include "language/bloques.h"
 
 #include "language/llamada_bloque.h"
+#include "language/lugar.h"
 #include "language/palabras.h"
 #include "platform/campos_texto.h"
 #include "platform/numeros.h"
@@ -258,6 +259,7 @@ int RecorrerBloque(EntornoBloque &e, int nivel, int &posicion) {
     std::string_view cruda;
     for (int inicio = 0; LeerLineaCruda(e.cuerpo, posicion, inicio, cruda);) {
         PonerCursor(CursorEspera);
+        PonerLugarEnBloque(inicio);
         b.linea = cruda;
         PonerEnMayusculas(b.linea);
         Sustituir(b);

@@ -1,6 +1,7 @@
 // The walk over the text of a series formula: tokens, elements, levels.
 #include "language/evaluador_interno.h"
 
+#include "language/notas.h"
 #include "matrix/formula_matriz.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
@@ -266,6 +267,8 @@ int EvaluarNivel(LineasSentencia &lineas, int &posicion) {
         if (r != Bien) return MensajePunto(Evaluador.ventana, texto, r);
         SaltarBlancos(texto, posicion);
     }
+    if (CaracterEn(texto, posicion) == ',')
+        Anotar("La fórmula se lee hasta la coma; los decimales se escriben con punto"_w);
     return 1;
 }
 

@@ -1,5 +1,6 @@
 // The store operations: the top column of the stack becomes a series, a scalar or one observation.
 #include "language/asignaciones.h"
+#include "language/notas.h"
 #include "platform/numeros.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
@@ -60,7 +61,10 @@ int GuardarEnPeriodo(std::string_view periodo, bool fueraDeMuestra) {
     const int escalar = fila < 0 ? BuscarEscalar(periodo) : -1;
     if (escalar >= 0) fila = FilaDeValorPeriodo(TablaEscalares.registro[escalar].Valor, primera, ultima);
     if (fila < 0 && fueraDeMuestra) fila = FilaDeValorPeriodo(numero, 0, ArchivoTrabajo.NumObs - 1);
-    if (fila < 0) return 1;
+    if (fila < 0) {
+        Anotar("El período no está en el archivo de trabajo: no ha cambiado ninguna observación"_w);
+        return 1;
+    }
     // The value is that of the first row of the bounds, for every row, and it is stored as present even where the
     // formula had it missing.
     PonerObservacion(fila, serie, ValorSuperior(), 1);

@@ -1,14 +1,16 @@
 // The loop that runs a batch of statements: the selection of a text control, or the one statement of a dialog.
 #include "language/lote_sentencias.h"
 
+#include "language/notas.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 
 #include <algorithm>
 
-EstadoLote Lote{1, 2, 0, 0};
+EstadoLote Lote{1, 2, 0, 0, 0, {}};
 void (*AntesDeCadaLote)() = nullptr;
+void (*DespuesDeCadaLote)() = nullptr;
 
 namespace {
 
@@ -33,6 +35,13 @@ bool TomarSeleccion(Ventana *ventana, ControlTexto *control, TextoDeLote &texto)
     return false;
 }
 
+// What passes for a statement in a count: neither a comment nor the lone letter that the driver passes over.
+bool SeCuenta(const std::string &texto, int posicion) {
+    const std::size_t inicio = texto.find_first_not_of(" \t\r\n", static_cast<std::size_t>(posicion));
+    return inicio != std::string::npos && texto[inicio] != ';' && inicio + 1 < texto.size() &&
+           texto[inicio + 1] != '\r' && texto[inicio + 1] != '\n';
+}
+
 // Runs the statements. True when none of them stopped the batch.
 bool RecorrerLote(Ventana *ventana, int origen, std::string_view sentencia, const TextoDeLote &texto,
                   int primera, int ultima) {
@@ -43,18 +52,32 @@ bool RecorrerLote(Ventana *ventana, int origen, std::string_view sentencia, cons
     PonerCursor(CursorEspera);
     int codigo = OrdenDesconocida;
     for (int posicion = texto.desde; posicion < texto.hasta;) {
+        const bool cuenta = SeCuenta(texto.completo, posicion);
         if (EjecutarSentencia(origen, lineas, texto.hasta, posicion, sentencia, texto.completo, ventana,
                               primera, ultima, codigo) == 0)
             return false;
         Lote.NingunaSentenciaHecha = 0;
+        if (cuenta) ++Lote.sentencias;
     }
     return true;
+}
+
+// The same with the places of the statements told.
+void CorrerConLugares(Ventana *ventana, int origen, std::string_view sentencia, const TextoDeLote &texto,
+                      int primera, int ultima) {
+    const TextoEnCurso anterior = EmpezarLugares(texto.completo);
+    if (RecorrerLote(ventana, origen, sentencia, texto, primera, ultima)) {
+        Lote.detenido = 0;
+    } else {
+        Lote.parada = LugarActual();
+    }
+    TerminarLugares(anterior);
 }
 
 } // namespace
 
 void IniciarLote() {
-    Lote = {1, 2, 0, 0};
+    Lote = {1, 2, 0, 0, 0, {}};
 }
 
 int MensajeNumerado(Ventana *ventana, int punto, std::string_view texto) {
@@ -62,10 +85,10 @@ int MensajeNumerado(Ventana *ventana, int punto, std::string_view texto) {
     return 0;
 }
 
-int ProcesarLote(Ventana *ventana, ControlTexto *control, int origen, std::string_view texto, int primera,
-                 int ultima) {
-    if (AntesDeCadaLote != nullptr) AntesDeCadaLote();
-    Lote.detenido = 1;
+namespace {
+
+void CorrerLote(Ventana *ventana, ControlTexto *control, int origen, std::string_view texto, int primera,
+                int ultima) {
     ultima = FinDeCalculo(ultima);
     Evaluador.ventana = ventana;
     LimpiarEvaluador();
@@ -73,20 +96,28 @@ int ProcesarLote(Ventana *ventana, ControlTexto *control, int origen, std::strin
     Evaluador.PrimeraEval = primera;
     Evaluador.UltimaEval = ultima;
     Evaluador.UltimaCalculada = ultima;
-    if (ArchivoTrabajo.TipoDatos >= SinTipoDatos) {
-        MostrarMensaje(ventana, "Tipo de datos no válidos"_w);
-        return 0;
-    }
-    if (!AbrirPilaColumnas()) {
-        MensajeSinMemoria(2001, 2002, ventana);
-        return 0;
-    }
-    TextoDeLote deLote{{}, 0, 1};
+    if (ArchivoTrabajo.TipoDatos >= SinTipoDatos)
+        return MostrarMensaje(ventana, "Tipo de datos no válidos"_w);
+    if (!AbrirPilaColumnas()) return MensajeSinMemoria(2001, 2002, ventana);
+    TextoDeLote deLote{origen != 0 ? std::string(texto) : std::string(), 0, 1};
     if (origen != 0 || TomarSeleccion(ventana, control, deLote)) {
-        if (RecorrerLote(ventana, origen, texto, deLote, primera, ultima)) Lote.detenido = 0;
+        CorrerConLugares(ventana, origen, texto, deLote, primera, ultima);
         PonerCursor(CursorFlecha);
     }
     CerrarPilaColumnas();
+}
+
+} // namespace
+
+int ProcesarLote(Ventana *ventana, ControlTexto *control, int origen, std::string_view texto, int primera,
+                 int ultima) {
+    if (AntesDeCadaLote != nullptr) AntesDeCadaLote();
+    Lote.detenido = 1;
+    Lote.sentencias = 0;
+    Lote.parada = {};
+    OlvidarNotas();
+    CorrerLote(ventana, control, origen, texto, primera, ultima);
+    if (DespuesDeCadaLote != nullptr) DespuesDeCadaLote();
     return 0;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "language/evaluador.h"
+#include "language/lugar.h"
 #include "store/ordenes.h"
 
 #include <string_view>
@@ -11,6 +12,9 @@ struct EstadoLote {
     int DecimalesSalida;       // decimals of result windows; start value 2
     int NingunaSentenciaHecha; // 1 from the start of a batch until a first statement ended well
     int detenido;              // 1 when the last batch stopped before its end
+    int sentencias;            // that the last batch ran to their end, blocks counted as one, comments not
+    LugarDeSentencia
+        parada; // at which the last batch stopped; none when it didn't, or before its first statement
 };
 
 extern EstadoLote Lote;
@@ -20,6 +24,9 @@ void IniciarLote();
 
 // Called before each batch, where a program sets it: the desktop keeps a copy of the work, since a batch may never end.
 extern void (*AntesDeCadaLote)();
+
+// Called behind each batch, where a program sets it: what Lote tells is that batch's.
+extern void (*DespuesDeCadaLote)();
 
 // Runs a batch. `origen` 0 runs the selection of `control` and ignores `texto`; any other value runs `texto` as one
 // statement. `primera` and `ultima` are the rows to work on. Result always 0; Lote.detenido tells how it ended.

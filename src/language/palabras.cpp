@@ -3,12 +3,15 @@
 
 #include "language/asignaciones.h"
 #include "language/bloques.h"
+#include "language/lugar.h"
+#include "language/notas.h"
 #include "platform/campos_texto.h"
 #include "platform/numeros.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 
 #include <algorithm>
+#include <cmath>
 
 int EjecutarNada(Orden &) {
     return 1;
@@ -18,6 +21,7 @@ int EjecutarControl(Orden &o) {
     const std::size_t desde = static_cast<std::size_t>(o.posicion);
     const std::size_t largo = static_cast<std::size_t>(std::max(o.fin - o.posicion, 0));
     int avance = 0;
+    PonerBaseDeBloque(o.posicion);
     const int r = EjecutarBloque(std::string_view(o.texto).substr(desde, largo), o.lineas, avance, o.ventana,
                                  o.primera, o.ultima);
     o.posicion += avance;
@@ -29,8 +33,22 @@ int EjecutarControl(Orden &o) {
     return r;
 }
 
+namespace {
+
+// A year, or number of an observation, that a limit names and the work file doesn't have. Panels go by more than one number.
+bool FueraDelArchivo(int ano) {
+    const int ultima = FilasEnUso() - 1;
+    return ano != 0 && ultima >= 0 && ArchivoTrabajo.TipoDatos < TipoPanel &&
+           (ano < std::trunc(ArchivoTrabajo.ValoresPeriodo[0]) ||
+            ano > std::trunc(ArchivoTrabajo.ValoresPeriodo[ultima]));
+}
+
+} // namespace
+
 int EjecutarMUEST(Orden &o) {
     MuestraDeSentencia(o.lineas[0]);
+    if (FueraDelArchivo(Muestra.AnoInicial) || FueraDelArchivo(Muestra.AnoFinal))
+        Anotar("La muestra nombra un período que no está en el archivo de trabajo"_w);
     o.primera = Muestra.InicioMuestra;
     o.ultima = FinDeCalculo(Muestra.FinMuestra);
     return 1;

@@ -1,4 +1,5 @@
 // One statement: cut out of the text, checked, normalised, and handed to the routine of its first word.
+#include "language/lugar.h"
 #include "language/palabras.h"
 #include "platform/campos_texto.h"
 #include "store/archivo.h"
@@ -31,6 +32,7 @@ void CortarLinea(const std::string &texto, int fin, int &posicion, std::string &
     while (posicion <= tope && (EsFinDeLinea(en(posicion)) || en(posicion) == ' ' || en(posicion) == '\t'))
         ++posicion;
     const int inicio = posicion;
+    PonerLugar(inicio);
     while (posicion <= tope && !EsFinDeLinea(en(posicion))) ++posicion;
     linea.assign(texto, static_cast<std::size_t>(inicio), static_cast<std::size_t>(posicion - inicio));
     linea.erase(linea.find_last_not_of(' ') + 1);

@@ -11,6 +11,7 @@
 #include "estimation/regresion.h"
 #include "language/lote_sentencias.h"
 #include "lote/acciones_analisis.h"
+#include "lote/ayuda.h"
 #include "lote/corrida.h"
 #include "lote/graficos.h"
 #include "lote/impresora.h"
@@ -26,6 +27,7 @@
 #include "store/periodos.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstdio>
 #include <string_view>
 
@@ -105,6 +107,17 @@ bool LeerDecimales(const std::string &valor, Accion &accion) {
     return accion.numero >= 0 && accion.numero <= 6;
 }
 
+// A number that a clock of whole seconds can show.
+bool LeerSemilla(const std::string &valor, Accion &accion) {
+    const auto [fin, error] = std::from_chars(valor.data(), valor.data() + valor.size(), accion.numero);
+    return error == std::errc() && fin == valor.data() + valor.size() && accion.numero >= 0;
+}
+
+// What --ayuda explains; a word that isn't one of these is the next action.
+bool LeerAyuda(const std::string &valor, Accion &) {
+    return TextoDeAyuda(valor) != nullptr;
+}
+
 bool LeerRelacion(const std::string &valor, Accion &accion) {
     return Elegir(NombresLista, valor, accion.numero);
 }
@@ -182,8 +195,25 @@ bool LeerObservacion(const std::string &valor, Accion &accion) {
 
 void MostrarUso();
 
-bool HacerAyuda(const Accion &) {
-    MostrarUso();
+bool HacerAyuda(const Accion &accion) {
+    // With events in JSON standard output belongs to them alone.
+    std::FILE *f = Corrida.json ? stderr : stdout;
+    if (accion.valor.empty()) {
+        MostrarUso();
+    } else {
+        std::fputs(TextoDeAyuda(accion.valor), f);
+    }
+    return true;
+}
+
+bool HacerVersion(const Accion &) {
+    std::fputs("tabira-lote " TABIRA_VERSION "\n", Corrida.json ? stderr : stdout);
+    return true;
+}
+
+bool HacerSemilla(const Accion &accion) {
+    Corrida.conSemilla = true;
+    Corrida.semilla = accion.numero;
     return true;
 }
 
@@ -413,11 +443,14 @@ struct FilaDeAccion {
     const char *valor; // how the usage names the value, null without one
     LectorDeValor leer;
     RutinaDeAccion rutina;
-    const char *explicacion; // UTF-8, for the usage
+    const char *explicacion;    // UTF-8, for the usage
+    bool valorOpcional = false; // the value may be left out: what can't be read as one is the next action
 };
 
 constexpr FilaDeAccion TablaAcciones[] = {
-    {"--ayuda", nullptr, nullptr, HacerAyuda, "muestra este texto"},
+    {"--ayuda", "[tipo|formato|sucesos]", LeerAyuda, HacerAyuda, "muestra este texto, o explica eso", true},
+    {"-h", nullptr, nullptr, HacerAyuda, "muestra este texto"},
+    {"--version", nullptr, nullptr, HacerVersion, "muestra la versión"},
     {"--json", nullptr, nullptr, HacerJson, "cada suceso, un objeto JSON en una línea"},
     {"--seguir", nullptr, nullptr, HacerSeguir, "una acción que falla no termina la ejecución"},
     {"--respuesta", "si|no|cancelar", LeerRespuesta, HacerRespuesta, "respuesta a las preguntas que siguen"},
@@ -460,6 +493,7 @@ constexpr FilaDeAccion TablaAcciones[] = {
      "predicción y evaluación; MODO: originales, tasas, incrementos"},
     {"--transformar", "X:DESTINO:OP=N,...", LeerTransformacion, HacerTransformar,
      "transforma X; OP: boxcox, estacional, regular"},
+    {"--semilla", "N", LeerSemilla, HacerSemilla, "el reloj de RND y RNDN empieza en N y avanza en cada uso"},
     {"--volcado", nullptr, nullptr, HacerVolcado, "muestra el contenido del archivo de trabajo"},
 };
 
@@ -498,6 +532,11 @@ bool LeerLinea(const std::vector<std::string> &argumentos, std::vector<Accion> &
         Accion &accion = acciones.emplace_back();
         accion.rutina = fila->rutina;
         if (fila->valor == nullptr) continue;
+        if (fila->valorOpcional) {
+            if (i + 1 < argumentos.size() && fila->leer(argumentos[i + 1], accion))
+                accion.valor = argumentos[++i];
+            continue;
+        }
         if (++i == argumentos.size()) {
             queja = "falta el valor de " + nombre + " (" + fila->valor + ")";
             return false;

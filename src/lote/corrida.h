@@ -3,6 +3,7 @@
 
 #include "lote/formato.h"
 
+#include <cstdint>
 #include <string>
 
 enum RespuestasDeCorrida { ResponderSi, ResponderNo, ResponderCancelar };
@@ -14,6 +15,8 @@ struct EstadoDeCorrida {
     RespuestasDeCorrida respuesta; // to the questions that follow
     FormatoAscii formato;          // of the imports and exports that follow
     std::string archivo;           // what the action at hand answers when a file is asked for
+    bool conSemilla;               // the clock of the random numbers begins at a number of the command line
+    std::int32_t semilla;          // what it shows next
 };
 
 extern EstadoDeCorrida Corrida;

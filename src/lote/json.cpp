@@ -51,3 +51,8 @@ void PonerParJson(std::string &json, const char *clave, int valor) {
     PonerClaveJson(json, clave);
     json += std::to_string(valor);
 }
+
+void PonerParJson(std::string &json, const char *clave, double valor) {
+    PonerClaveJson(json, clave);
+    PonerNumeroJson(json, valor);
+}

@@ -20,3 +20,4 @@ void PonerComaJson(std::string &json);
 // A whole pair.
 void PonerParJson(std::string &json, const char *clave, std::string_view texto1252);
 void PonerParJson(std::string &json, const char *clave, int valor);
+void PonerParJson(std::string &json, const char *clave, double valor);

@@ -3,6 +3,7 @@
 
 #include "charts/resultados/impresion.h"
 #include "charts/resultados/ventana_resultado.h"
+#include "language/palabras.h"
 #include "lote/corrida.h"
 #include "lote/graficos.h"
 #include "lote/impresora.h"
@@ -14,6 +15,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
+#include <limits>
 
 namespace {
 
@@ -125,10 +127,60 @@ Respuesta RespuestaPara(Botones botones) {
     return Corrida.respuesta == ResponderSi ? RespuestaSi : RespuestaNo;
 }
 
+// The fields that say where the batch at hand is.
+void PonerLugarJson(std::string &json, const LugarDeSentencia &lugar) {
+    PonerParJson(json, "linea", lugar.linea);
+    PonerParJson(json, "sentencia", lugar.sentencia);
+}
+
+std::string_view PalabraDe(int codigo) {
+    const auto p =
+        std::find_if(Palabras.begin(), Palabras.end(), [=](const Palabra &q) { return q.codigo == codigo; });
+    return p != Palabras.end() ? p->palabra : std::string_view();
+}
+
+// In JSON alone: for people the report itself is the text.
+void SucesoRegresion(const RegresionMostrada &r) {
+    if (!Corrida.json) return;
+    std::string json = AbrirSuceso("regresion");
+    PonerParJson(json, "metodo", PalabraDe(r.metodo));
+    PonerParJson(json, "dependiente", r.dependiente);
+    PonerClaveJson(json, "muestra");
+    json += Formatear("[%d,%d]", r.primera, r.ultima);
+    PonerParJson(json, "observaciones", r.observaciones);
+    PonerClaveJson(json, "regresores");
+    json += '[';
+    for (const RegresionMostrada::Regresor &x : r.regresores) {
+        PonerComaJson(json);
+        json += '{';
+        PonerParJson(json, "codigo", x.codigo);
+        PonerParJson(json, "coeficiente", x.coeficiente);
+        PonerParJson(json, "desviacion", x.desviacion);
+        PonerParJson(json, "t", x.t);
+        PonerParJson(json, "probabilidad", x.probabilidad);
+        json += '}';
+    }
+    json += ']';
+    PonerClaveJson(json, "estadisticos");
+    json += '{';
+    for (const RegresionMostrada::Estadistico &e : r.estadisticos)
+        PonerParJson(json, Utf8De1252(Recortado(e.rotulo)).c_str(), e.valor);
+    EscribirLinea(json + "}}");
+}
+
 Respuesta Caja(Ventana *, std::string_view texto, std::string_view titulo, Icono icono, Botones botones) {
     const Respuesta respuesta = RespuestaPara(botones);
     SucesoCaja(texto, titulo, icono, botones, respuesta);
     return respuesta;
+}
+
+// Calendar time, or the clock of --semilla, which goes on by a second each time it is read.
+std::int32_t Segundos() {
+    if (!Corrida.conSemilla) return static_cast<std::int32_t>(std::time(nullptr));
+    // It begins again at the other end: what a random number needs is that its seeds differ.
+    const std::int32_t ahora = Corrida.semilla;
+    Corrida.semilla = ahora == std::numeric_limits<std::int32_t>::max() ? 0 : ahora + 1;
+    return ahora;
 }
 
 // The text of --procesar stands in the one text control of the run, wholly selected.
@@ -143,6 +195,8 @@ void SeleccionDelControl(ControlTexto *control, int &desde, int &hasta) {
 
 void MostrarResultado(Ventana *, const SalidaResultado &salida) {
     SucesoSalida(salida);
+    if (salida.regresiones != nullptr)
+        for (const RegresionMostrada &r : *salida.regresiones) SucesoRegresion(r);
     if (Corrida.imprimirSalidas) ImprimirResultado(nullptr, salida);
     // The chart behind the window's command is told, too; that of a prediction has an action of its own.
     if (salida.graficos != nullptr && salida.tipo != SalidaPrediccion) salida.graficos(nullptr);
@@ -164,6 +218,30 @@ void SucesoCaja(std::string_view texto, std::string_view titulo, Icono icono, Bo
     PonerParJson(json, "icono", NombresIcono[icono]);
     PonerParJson(json, "botones", NombresBotones[botones]);
     PonerParJson(json, "respuesta", NombresRespuesta[respuesta]);
+    if (EnLote()) PonerLugarJson(json, LugarActual());
+    EscribirLinea(json + "}");
+}
+
+void SucesoParada() {
+    // A batch that was refused before its first statement stopped at none.
+    if (Lote.detenido == 0 || Lote.parada.linea == 0) return;
+    if (!Corrida.json) {
+        EscribirLinea(Formatear("Detenido en la línea %d: ", Lote.parada.linea) +
+                      Utf8De1252(Lote.parada.sentencia));
+        return;
+    }
+    std::string json = AbrirSuceso("parada");
+    PonerLugarJson(json, Lote.parada);
+    EscribirLinea(json + "}");
+}
+
+void SucesoNota(std::string_view texto, int linea) {
+    const std::string donde = linea > 0 ? Formatear("nota, línea %d: ", linea) : std::string("nota: ");
+    Quejarse(donde + Utf8De1252(texto));
+    if (!Corrida.json) return;
+    std::string json = AbrirSuceso("nota");
+    PonerParJson(json, "texto", texto);
+    PonerParJson(json, "linea", linea);
     EscribirLinea(json + "}");
 }
 
@@ -279,8 +357,10 @@ void InstalarPlataformaLote() {
                 ruta = Corrida.archivo;
                 return true;
             },
-        .segundos = [] { return static_cast<std::int32_t>(std::time(nullptr)); },
+        .nota = SucesoNota,
+        .segundos = Segundos,
     };
+    DespuesDeCadaLote = SucesoParada;
     InstalarPlataforma(Operaciones);
     static const OperacionesImpresora OperacionesDePapel = {.terminarTrabajo = TerminarTrabajoDeCorrida};
     InstalarImpresora(OperacionesDePapel);

@@ -14,6 +14,12 @@
 void SucesoCaja(std::string_view texto, std::string_view titulo, Icono icono, Botones botones,
                 Respuesta respuesta);
 
+// Where the batch stopped that has just ended.
+void SucesoParada();
+
+// A note, also on standard error; `linea` 0 outside a batch.
+void SucesoNota(std::string_view texto, int linea);
+
 // A result window.
 void SucesoSalida(const SalidaResultado &salida);
 

@@ -88,6 +88,10 @@ void RefrescarEditor() {
     if (Instalada->refrescarEditor != nullptr) Instalada->refrescarEditor();
 }
 
+void PonerNota(std::string_view texto, int linea) {
+    if (Instalada->nota != nullptr) Instalada->nota(texto, linea);
+}
+
 std::int32_t SegundosDeCalendario() {
     return Instalada->segundos != nullptr ? Instalada->segundos() : 0;
 }

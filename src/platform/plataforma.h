@@ -59,6 +59,9 @@ struct OperacionesPlataforma {
     bool (*elegirArchivo)(Ventana *ventana, const PeticionArchivo &peticion, std::string &ruta) = nullptr;
     // The grid of the editor shows the tables anew, if it is open.
     void (*refrescarEditor)() = nullptr;
+    // A note beside the results: what was accepted though a person hardly meant it. Nothing waits for it. `linea` of the batch
+    // at hand, 0 for none.
+    void (*nota)(std::string_view texto, int linea) = nullptr;
     // Calendar time in whole seconds, the seed of the random numbers.
     std::int32_t (*segundos)() = nullptr;
 };
@@ -96,6 +99,7 @@ void MostrarVentanaResultado(Ventana *ventana, const SalidaResultado &salida);
 void MostrarVentanaGrafico(Ventana *ventana, Grafico &grafico);
 void PonerTitulo(Ventana *ventana, std::string_view titulo);
 void RefrescarEditor();
+void PonerNota(std::string_view texto, int linea);
 std::int32_t SegundosDeCalendario();
 
 // Puts a text in the place of the control's selection, so that the control's undo takes it back.

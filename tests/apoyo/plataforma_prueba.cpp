@@ -117,6 +117,10 @@ const OperacionesPlataforma Operaciones = {
         },
     .elegirArchivo = Archivo,
     .refrescarEditor = [] { ++Prueba.refrescos; },
+    .nota =
+        [](std::string_view texto, int linea) {
+            Prueba.notas.push_back({linea, Utf8De1252(texto)});
+        },
     .segundos = [] { return Prueba.segundos; },
 };
 

@@ -68,8 +68,16 @@ struct ArchivoPedido {
     std::vector<std::string> filtros;
 };
 
+// A note, in UTF-8, with the line of its batch.
+struct NotaVista {
+    int linea;
+    std::string texto;
+    bool operator==(const NotaVista &) const = default;
+};
+
 struct PlataformaDePrueba {
     std::vector<CajaVista> cajas;
+    std::vector<NotaVista> notas;
     std::vector<ResultadoVisto> resultados;
     std::vector<GraficoVisto> graficos;
     std::function<void(Grafico &)> enGrafico; // what is done with an open chart, after its first painting

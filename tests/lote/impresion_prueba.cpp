@@ -67,8 +67,8 @@ TEST(ImpresionLote, ElInformeEsTambienUnPdf) {
     EXPECT_EQ(r.estado, 0);
     EXPECT_EQ(r.errores, "");
     const auto sucesos = Sucesos(r);
-    ASSERT_EQ(sucesos.size(), 4u) << r.salida;
-    const json &salida = sucesos[1], &impresion = sucesos[2];
+    ASSERT_EQ(sucesos.size(), 5u) << r.salida;
+    const json &salida = sucesos[1], &impresion = sucesos[3];
     EXPECT_EQ(salida["suceso"], "salida");
     EXPECT_EQ(impresion["suceso"], "impresion");
     EXPECT_EQ(impresion["documento"], "Imprime1: Imprimiendo");

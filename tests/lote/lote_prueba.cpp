@@ -31,14 +31,16 @@ TEST(Lote, KleinDelArchivoAlInforme) {
     EXPECT_EQ(r.estado, 0) << r.errores;
     EXPECT_EQ(r.errores, "");
     const auto sucesos = Sucesos(r);
-    ASSERT_EQ(sucesos.size(), 4u) << r.salida;
+    ASSERT_EQ(sucesos.size(), 5u) << r.salida;
 
     EXPECT_EQ(sucesos[0], json({{"suceso", "caja"},
                                 {"titulo", "Aviso"},
                                 {"texto", "¿Desea ver la regresion?"},
                                 {"icono", "pregunta"},
                                 {"botones", "si-no"},
-                                {"respuesta", "si"}}));
+                                {"respuesta", "si"},
+                                {"linea", 4},
+                                {"sentencia", "MC CONSUMO 1 BENEF BENEF(-1) SALARIOS"}}));
 
     const json &salida = sucesos[1];
     EXPECT_EQ(salida["suceso"], "salida");
@@ -48,7 +50,8 @@ TEST(Lote, KleinDelArchivoAlInforme) {
     EXPECT_EQ(salida["contenido"], 0);
     EXPECT_EQ(salida["lineas"][0], json({0, "Variable Dep.: CONSUMO"}));
 
-    const json &volcado = sucesos[2];
+    EXPECT_EQ(sucesos[2]["suceso"], "regresion");
+    const json &volcado = sucesos[3];
     EXPECT_EQ(volcado["suceso"], "volcado");
     EXPECT_EQ(volcado["proyecto"], "PROYEC01");
     EXPECT_EQ(volcado["tipo"], 1);
@@ -72,7 +75,7 @@ TEST(Lote, KleinDelArchivoAlInforme) {
     for (std::size_t i = 0; i < 4; ++i)
         EXPECT_NEAR(beta["datos"][i].get<double>(), CoeficientesDeKlein[i], 0.0005);
 
-    EXPECT_EQ(sucesos[3], json({{"suceso", "fin"}, {"estado", 0}}));
+    EXPECT_EQ(sucesos[4], json({{"suceso", "fin"}, {"estado", 0}}));
 }
 
 TEST(Lote, InformeParaPersonas) {

@@ -138,13 +138,20 @@ bool AnadirLineas(TextoSalida &texto, std::span<const LineaDeInforme> lineas, in
     return true;
 }
 
-std::string TablaDeLineas(std::span<const LineaDeInforme> lineas, int codigo, std::span<const double> dados) {
-    std::string t;
+std::vector<RegresionMostrada::Estadistico> ValoresDeLineas(std::span<const LineaDeInforme> lineas,
+                                                            int codigo, std::span<const double> dados) {
+    std::vector<RegresionMostrada::Estadistico> valores;
     for (const LineaDeInforme &l : lineas)
         for (const CampoDeInforme &c : CamposDe(l)) {
             double valor = 0.0;
-            if (ValorDelCampo(c, codigo, dados, valor))
-                t += std::string(c.rotulo) + "\t" + NumeroExacto(valor) + "\n";
+            if (ValorDelCampo(c, codigo, dados, valor)) valores.push_back({c.rotulo, valor});
         }
+    return valores;
+}
+
+std::string TablaDeLineas(std::span<const LineaDeInforme> lineas, int codigo, std::span<const double> dados) {
+    std::string t;
+    for (const auto &e : ValoresDeLineas(lineas, codigo, dados))
+        t += std::string(e.rotulo) + "\t" + NumeroExacto(e.valor) + "\n";
     return t;
 }

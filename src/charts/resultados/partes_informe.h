@@ -102,6 +102,10 @@ struct LineaDeInforme {
 bool AnadirLineas(TextoSalida &texto, std::span<const LineaDeInforme> lineas, int codigo,
                   std::span<const double> dados = {});
 
+// The values of the same fields under their labels. A scalar that is gone is left out.
+std::vector<RegresionMostrada::Estadistico> ValoresDeLineas(std::span<const LineaDeInforme> lineas,
+                                                            int codigo, std::span<const double> dados = {});
+
 // The same fields for a spreadsheet: label, tabulator, number with all its digits. A scalar that is gone is left out.
 std::string TablaDeLineas(std::span<const LineaDeInforme> lineas, int codigo,
                           std::span<const double> dados = {});

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -52,6 +53,24 @@ struct TablaCoeficientes {
     const ReglasVerticales *reglas = &ReglasDeCoeficientes;
 };
 
+// A regression that a result shows, with all its digits: for whoever reads results and not windows.
+struct RegresionMostrada {
+    struct Regresor {
+        std::string codigo;
+        double coeficiente, desviacion, t, probabilidad;
+    };
+    struct Estadistico {
+        std::string_view rotulo; // as the report's table names it
+        double valor;
+    };
+    int metodo; // code of the statement
+    std::string dependiente;
+    int primera, ultima; // rows of the work file, both included
+    int observaciones;
+    std::vector<Regresor> regresores;
+    std::vector<Estadistico> estadisticos;
+};
+
 // What paper shows otherwise than the window. Each kind has its own titles; here stands what a result knows better.
 struct PapelDeSalida {
     std::vector<std::string_view> titulos = {}; // a row each
@@ -71,7 +90,9 @@ struct SalidaResultado {
     const TextoSalida *fijas;                     // lines that don't scroll, or null
     const std::vector<TablaCoeficientes> *tablas; // where thin vertical rules stand, or null
     std::string_view tabla = {}; // the result for a spreadsheet: tabulators, all digits; may be empty
-    int finalesSinRegla = 0;     // so many lines at the end have no rule between them, whatever their kinds
+    const std::vector<RegresionMostrada> *regresiones =
+        nullptr;             // whose blocks stand in the lines, in their order, or null
+    int finalesSinRegla = 0; // so many lines at the end have no rule between them, whatever their kinds
     PapelDeSalida papel = {};
     int (*graficos)(Ventana *ventana) =
         nullptr; // what "&Gráficos" opens; null: nothing. The result is not used
