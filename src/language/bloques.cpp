@@ -413,3 +413,8 @@ int EjecutarBloque(std::string_view cuerpo, LineasSentencia &lineas, int &avance
     }
     return 0;
 }
+
+bool EsPalabraDeControl(std::string_view palabra) {
+    return std::any_of(std::begin(PalabrasDeBloque), std::end(PalabrasDeBloque),
+                       [=](const PalabraDeBloque &p) { return p.palabra == palabra; });
+}

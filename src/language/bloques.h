@@ -8,3 +8,6 @@
 // the block took. 1, or 0 after a message.
 int EjecutarBloque(std::string_view cuerpo, LineasSentencia &lineas, int &avance, Ventana *ventana,
                    int &primera, int &ultima);
+
+// True for the words that control the flow inside a block: SI, SINO, ROMPE, CONTINUA and the closing ones. In capitals.
+bool EsPalabraDeControl(std::string_view palabra);
