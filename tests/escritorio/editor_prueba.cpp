@@ -16,6 +16,8 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
+#include <random>
+
 namespace {
 
 class EditorAbierto : public Escritorio {
@@ -487,4 +489,53 @@ TEST_F(EditorAbierto, SePinta) {
     Teclear("2");
     guardar("editor_matrices");
     EXPECT_EQ(color(rejilla->SitioDeCelda(CeldaCodigoMatriz).topLeft()), QColor(Qt::black));
+}
+
+// ----- Anything at all
+
+// Keys, clicks and bars at random on both editors. TABIRA_AZAR asks for another number of each.
+TEST_F(EditorAbierto, AlAzar) {
+    constexpr Qt::Key Teclas[] = {Qt::Key_Tab,    Qt::Key_Backtab,   Qt::Key_Return, Qt::Key_Enter,
+                                  Qt::Key_Down,   Qt::Key_Up,        Qt::Key_Home,   Qt::Key_End,
+                                  Qt::Key_PageUp, Qt::Key_PageDown,  Qt::Key_Left,   Qt::Key_Right,
+                                  Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Escape, Qt::Key_F5};
+    bool pedido = false;
+    const int pedidas = qEnvironmentVariableIntValue("TABIRA_AZAR", &pedido);
+    const int veces = pedido ? pedidas : 400;
+    std::mt19937 azar(9);
+    const auto hasta = [&](int n) { return static_cast<int>(azar() % static_cast<unsigned>(n)); };
+    for (const bool deMatrices : {false, true}) {
+        if (deMatrices) {
+            Entrada(2008)->trigger(); // without codes that keep the window open
+            Entrada(2021)->trigger();
+            AbrirMatrices();
+        } else {
+            AbrirSeries();
+        }
+        const QRect lado = rejilla->viewport()->rect();
+        for (int k = 0; k < veces; ++k) {
+            SCOPED_TRACE(k);
+            const QPoint punto(hasta(lado.width()), hasta(lado.height()));
+            switch (hasta(10)) {
+            case 0: QTest::mouseClick(rejilla->viewport(), Qt::LeftButton, {}, punto); break;
+            case 1:
+                QTest::sendKeyEvent(hasta(2) == 0 ? QTest::Press : QTest::Release, rejilla, Qt::Key_Shift,
+                                    QString(), {});
+                break;
+            case 2:
+                (hasta(2) == 0 ? rejilla->verticalScrollBar() : rejilla->horizontalScrollBar())
+                    ->triggerAction(static_cast<QAbstractSlider::SliderAction>(1 + hasta(6)));
+                break;
+            case 3:
+            case 4:
+            case 5: Tecla(Teclas[hasta(static_cast<int>(std::size(Teclas)))]); break;
+            default: QTest::keyClick(rejilla, static_cast<char>(' ' + hasta(95))); break;
+            }
+            if (k % 40 == 0) rejilla->viewport()->grab();
+            if (k % 500 == 0) Tecla(Qt::Key_C, Qt::ControlModifier);
+            ASSERT_TRUE(Editor.CeldaActual >= 17 && Editor.CeldaActual <= (deMatrices ? 102 : 101));
+            ASSERT_EQ(rejilla->verticalScrollBar()->value(), Editor.FilaInicial);
+            ASSERT_TRUE(rejilla->hasFocus());
+        }
+    }
 }
