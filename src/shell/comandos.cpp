@@ -11,6 +11,7 @@
 #include "data/trabajo.h"
 #include "language/lote_sentencias.h"
 #include "language/palabras.h"
+#include "platform/campos_texto.h"
 #include "platform/carpeta_estado.h"
 #include "shell/ayuda.h"
 #include "shell/listas.h"
@@ -18,6 +19,7 @@
 #include "store/periodos.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -109,6 +111,13 @@ void Wallis(Ventana *ventana, int) {
 
 void VerAyuda(Ventana *ventana, int id) {
     AbrirDialogo(ventana, Dialogo::Ayuda, {PaginaDeComando(id)});
+}
+
+// A series has its code from the moment it is typed into the editor, which counts it only when it checks all codes.
+bool HaySeries() {
+    return ArchivoTrabajo.NumSeries > 0 ||
+           std::any_of(std::begin(ArchivoTrabajo.Codigos), std::end(ArchivoTrabajo.Codigos),
+                       [](const char *codigo) { return CadenaDeCaracter(codigo, ' ') == 0; });
 }
 
 constexpr const char *Archivo = "&Archivo";
@@ -241,7 +250,7 @@ void EjecutarComando(Ventana *ventana, int id) {
 bool CerrarPrograma(Ventana *ventana) {
     Respuesta respuesta = RespuestaNo;
     // With neither series nor matrices the question isn't asked, even if there are scalars.
-    if (ArchivoTrabajo.NumSeries > 0 || TablaMatrices.numero > 0)
+    if (HaySeries() || TablaMatrices.numero > 0)
         respuesta = MostrarCaja(ventana, "¿Desea guardar su trabajo?"_w, TituloAviso, IconoPregunta,
                                 BotonesSiNoCancelar);
     if (respuesta == RespuestaCancelar) return false;

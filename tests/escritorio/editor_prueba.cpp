@@ -107,7 +107,13 @@ TEST_F(EditorAbierto, ElProgramaSeCierraConElEditorAbierto) {
     AbrirSeries();
     Teclear("A");
     Tecla(Qt::Key_Return);
-    ConGuion({}, [&] { Ordenar(2021); });
+    const auto cerrar = [&](const char *boton) {
+        ConGuion({Caja("Aviso", "¿Desea guardar su trabajo?", boton, QMessageBox::Question)},
+                 [&] { Ordenar(2021); });
+    };
+    cerrar("Cancelar");
+    EXPECT_TRUE(ventana->EditorDatos->isVisible());
+    cerrar("No");
     EXPECT_FALSE(ventana->EditorDatos->isVisible());
     EXPECT_TRUE(ventana->Destruida);
 }

@@ -277,6 +277,26 @@ TEST(Comandos, LaPreguntaDelCierre) {
     }
 }
 
+// What is being typed into the editor isn't counted yet, and can be lost all the same.
+TEST(Comandos, LaPreguntaDelCierreConElEditorAbierto) {
+    for (const char *codigo : {"", "A"}) {
+        EmpezarConDatos(TipoAnual, "1990#1999");
+        AbrirEditor(EditorDeSeries);
+        PonerCodigoSerie(99, codigo);
+        PonerObservacion(0, 99, 7, 1);
+        ASSERT_EQ(ArchivoTrabajo.NumSeries, 0);
+        Prueba.respuestas = {RespuestaCancelar};
+        Ordenar(2021);
+        EXPECT_EQ(Prueba.cajas.size(), *codigo != '\0' ? 1u : 0u);
+        EXPECT_EQ(Pedido.empty(), *codigo != '\0');
+    }
+    // Before the first reset a code is an empty text.
+    EmpezarPrueba();
+    IniciarArchivoTrabajo();
+    Ordenar(2021);
+    EXPECT_EQ(Pedido, std::vector<std::string>{"destruir"});
+}
+
 TEST(Comandos, ElCierreGuardaYTermina) {
     const Carpeta carpeta;
     EmpezarConDatos(TipoAnual, "1990#1999");
