@@ -229,6 +229,27 @@ INSTANTIATE_TEST_SUITE_P(
                     CasoWhite{"SER XX = X * X\nMC Y 1 X XX", "", "1 X XX XX*XX ", 3},
                     CasoWhite{"MC Y 1 X(-1)", "", "1 X(-1) X(-1)*X(-1) ", 2}));
 
+// The same column within 0.00005; one that differs by more somewhere stays, whatever its regression becomes.
+TEST(EcuacionWhiteFallos, ToleranciaDeLasRepetidas) {
+    const struct {
+        const char *diferencia, *textos;
+    } Casos[] = {
+        {"+0.000049", "1 X XX XX*XX "},
+        {"+0.000055", "1 X XX X*X XX*XX "},
+        {"-0.000049", "1 X XX XX*XX "},
+        {"-0.000055", "1 X XX X*X XX*XX "},
+    };
+    for (const auto &caso : Casos) {
+        EmpezarRegresion();
+        const std::string serie = std::string("SER XX = (X * X) + ((Z > 4) * (0") + caso.diferencia + "))";
+        ASSERT_TRUE(Procesar(serie + "\nMC Y 1 X XX")) << Unir(TextosDeCajas());
+        Corrida c;
+        Correr(c, OrdenCWH, "");
+        ASSERT_TRUE(c.leida);
+        EXPECT_EQ(Unir(c.e.textos), caso.textos) << caso.diferencia;
+    }
+}
+
 TEST(EcuacionWhiteFallos, SinResiduos) {
     EmpezarRegresion();
     ASSERT_TRUE(Procesar("MC Y 1 X"));

@@ -152,6 +152,21 @@ TEST(HipotesisNula, SusLineas) {
     EXPECT_EQ(v.lineas[5].first, grupos[1]);
 }
 
+// A number too wide for its field loses its first figures: 1,002 degrees of freedom in three characters.
+TEST(HipotesisNula, LosGradosDeLibertadPierdenSusPrimerasCifras) {
+    EmpezarConDatos(TipoSinPeriodicidad, "");
+    std::vector<double> y, x;
+    for (int i = 0; i < 1004; ++i) {
+        y.push_back(i * 7 % 13);
+        x.push_back(i * 5 % 11);
+    }
+    PonerSerie("Y", y);
+    PonerSerie("X", x);
+    ASSERT_TRUE(Procesar("MUEST 1 1004\nVSR NO\nMC Y 1 X\nCHN IR 1\nCHN MR 1 BETA(2)=0\nCHN FR 1"));
+    ASSERT_EQ(Prueba.resultados.size(), 1u);
+    EXPECT_TRUE(Prueba.resultados[0].lineas.back().second.starts_with(" Estadístico F(  1,002) :"));
+}
+
 // ----- The lines
 
 namespace {

@@ -191,6 +191,21 @@ TEST(Rangos, SuInforme) {
     EXPECT_EQ(p, v.p);
 }
 
+// Degrees of freedom have room for three figures.
+TEST(Rangos, InformeDeCienObservacionesYMas) {
+    EmpezarConDatos(TipoSinPeriodicidad, "");
+    std::vector<double> y, x;
+    for (int i = 0; i < 120; ++i) {
+        y.push_back(i * 7 % 13);
+        x.push_back(i * 5 % 11);
+    }
+    PonerSerie("Y", y);
+    PonerSerie("X", x);
+    ASSERT_TRUE(Procesar("MUEST 1 120\nVSR NO\nMC Y 1 X\nCRA X"));
+    ASSERT_EQ(Prueba.resultados.size(), 1u);
+    EXPECT_TRUE(Prueba.resultados[0].lineas.back().second.starts_with("      Estadístico t(118) :"));
+}
+
 TEST(Rangos, TrasMCPNoSeMuestra) {
     EmpezarRangos("MCP (1) Y 1 X");
     EXPECT_TRUE(Procesar("CRA O"));
