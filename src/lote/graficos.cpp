@@ -96,6 +96,7 @@ void MostrarGraficoDeCorrida(Ventana *ventana, Grafico &grafico) {
     Superficie s = SuperficieGrabadora(ordenes, Ancho, Alto, AnchoCaracter, AltoLinea);
     PintarGrafico(s, grafico);
     SucesoGrafico(grafico, s, ordenes);
+    AvisarErrorInterno(ventana, grafico);
     if (!Graficos.carpeta.empty()) {
         ++Graficos.numero;
         EscribirImagen(ordenes);

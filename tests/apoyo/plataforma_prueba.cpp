@@ -35,10 +35,11 @@ std::vector<std::pair<int, std::string>> Lineas(const TextoSalida *texto) {
     return r;
 }
 
-void MostrarGrafico(Ventana *, Grafico &g) {
+void MostrarGrafico(Ventana *ventana, Grafico &g) {
     GraficoVisto visto = {Utf8De1252(g.tituloVentana), {}};
     Superficie s = SuperficieGrabadora(visto.ordenes, 1024, 768, 8, 16);
     PintarGrafico(s, g);
+    AvisarErrorInterno(ventana, g);
     Prueba.graficos.push_back(std::move(visto));
     if (Prueba.enGrafico) Prueba.enGrafico(g);
 }

@@ -405,12 +405,44 @@ TEST_F(Graficos, ElegirSeriesDeDispersion) {
     EXPECT_EQ(OpcionesDeSeries.ejeX, "Y");
 }
 
+// The box of an error of the drawing comes once, however often the window is painted.
+TEST_F(Graficos, ErrorInternoDelDibujo) {
+    Grafico g = GraficoNuevo(GraficoAutocorrelacion, 10);
+    g.autocorrelacion.retardos = 1;
+    g.autocorrelacion.observaciones = 10;
+    g.autocorrelacion.coeficientes = {0, 2};
+    ConGuion({{"Aviso de error interno",
+               [](QDialog &d) {
+                   const QString texto = static_cast<QMessageBox &>(d).text();
+                   EXPECT_TRUE(texto.startsWith(QStringLiteral("sup "))) << texto.toStdString();
+                   EXPECT_TRUE(texto.contains(QStringLiteral(" serie[n] 2.000000 n 1 yy ")));
+                   d.accept();
+               }},
+              {"Representación gráfica",
+               [](QDialog &d) {
+                   auto *area = Hijo<QWidget>(d, "areaGrafico");
+                   area->resize(area->width() + 40, area->height() + 40);
+                   EXPECT_GT(Pintados(*area, area->rect()), 0);
+                   QCoreApplication::processEvents();
+                   d.reject();
+               }}},
+             [&] { MostrarGraficoQt(AVentana(ventana.get()), g); });
+}
+
 TEST_F(Graficos, DialogoDelHistograma) {
     ConGuion({{"HISTOGRAMA",
                [](QDialog &d) {
                    EXPECT_EQ(LineasDe(d, "series"), (std::vector<std::string>{"X", "Y"}));
                    Pulsar(d, "OK"); // no series
                    EXPECT_FALSE(Hijo<QWidget>(d, "minimo")->isEnabled());
+                   EXPECT_TRUE(Hijo<QRadioButton>(d, "modo0")->isChecked());
+                   EXPECT_EQ(TextoDe(d, "divisiones"), "10");
+                   EXPECT_TRUE(Hijo<QRadioButton>(d, "minYDefecto")->isChecked());
+                   EXPECT_TRUE(Hijo<QRadioButton>(d, "maxYDefecto")->isChecked());
+                   EXPECT_TRUE(Hijo<QCheckBox>(d, "conTitulo")->isChecked());
+                   EXPECT_TRUE(Hijo<QCheckBox>(d, "tituloArriba")->isChecked());
+                   EXPECT_EQ(TextoDe(d, "titulo"), " ");
+                   EXPECT_EQ(Hijo<QLineEdit>(d, "titulo")->maxLength(), 60);
                    Elegir(d, "series", 0);
                    Pulsar(d, "modo1");
                    Escribir(d, "minimo", "0");

@@ -1,8 +1,10 @@
 // The chart of an autocorrelation function: a bar a lag, with a band of confidence. All its geometry is whole numbers.
 #include "charts/graficos/clases.h"
 
+#include "charts/graficos/disposicion.h"
+#include "platform/texto.h"
+
 #include <algorithm>
-#include <cmath>
 #include <string>
 
 namespace {
@@ -59,21 +61,38 @@ void DibujarBandaArma(const Lienzo &l, int k, int xAnterior, int x) {
         Linea(l.s, xAnterior, AlturaDe(l, lado * En(d, k - 1)), x, AlturaDe(l, lado * En(d, k)), PlumaBanda);
 }
 
-void DibujarBarra(const Lienzo &l, int k, int x) {
-    const double v = En(l.g.autocorrelacion.coeficientes, k);
-    if (!std::isfinite(v)) return;
-    const int y = AlturaDe(l, v), eje = YMedia(l);
-    Rectangulo(l.s, x, std::min(y, eje), x + l.d.c / 2, std::max(y, eje), PlumaFina, &Negro);
+// What the box says of a bar that doesn't stand in the plot; empty for one that does. In a window too low for its margins
+// the edges of the plot have changed places.
+std::string ErrorDeBarra(const Lienzo &l, int k, int x, int y, int limite) {
+    const CajaGrafico &a = l.d.area;
+    const double coeficiente = En(l.g.autocorrelacion.coeficientes, k);
+    if (x < a.izquierda || x > a.derecha)
+        return Formatear("coluini %d izq %d n %d minimo %d separa %d ancho %d inipon %d", x, a.izquierda, k,
+                         NumeroDeBarras(l.g.autocorrelacion), l.d.separa, l.d.c / 2, limite);
+    if (y < std::min(a.superior, a.inferior) || y > std::max(a.superior, a.inferior))
+        return Formatear("sup %d alto %f filaini %d serie[n] %f n %d yy %d", a.superior,
+                         static_cast<double>(Mitad(l)), YMedia(l), coeficiente, k, y);
+    return {};
+}
+
+// A bar that has no place in the plot isn't drawn; the first such one is told.
+void DibujarBarra(const Lienzo &l, int k, int x, int limite) {
+    const int y = AlturaDe(l, En(l.g.autocorrelacion.coeficientes, k)), eje = YMedia(l);
+    const std::string error = ErrorDeBarra(l, k, x, y, limite);
+    if (error.empty())
+        Rectangulo(l.s, x, std::min(y, eje), x + l.d.c / 2, std::max(y, eje), PlumaFina, &Negro);
+    else if (l.errorInterno.empty())
+        l.errorInterno = error;
 }
 
 void DibujarBarras(const Lienzo &l) {
     const DatosAutocorrelacion &a = l.g.autocorrelacion;
     const int paso = l.d.separa + l.d.c / 2;
     int limite = l.d.area.izquierda; // where the next number may begin
-    for (int k = 1; k <= std::min(a.retardos, a.observaciones) && k < MaxRetardos; ++k) {
+    for (int k = 1; k <= NumeroDeBarras(a) && k < MaxRetardos; ++k) {
         const int x = l.d.area.izquierda + l.d.c + (k - 1) * paso;
         if (x >= l.d.area.derecha) return;
-        DibujarBarra(l, k, x);
+        DibujarBarra(l, k, x, limite);
         if (x >= limite) {
             limite += static_cast<int>(std::to_string(k).size()) * l.d.c;
             if (k % SaltoDeNumeros == 0) PonerNumero(l, k, x);
@@ -83,11 +102,9 @@ void DibujarBarras(const Lienzo &l) {
 }
 
 void DibujarTitulo(const Lienzo &l) {
-    const DatosAutocorrelacion &a = l.g.autocorrelacion;
-    if (a.conTitulo == 0) return;
-    const int x = (l.d.ancho - static_cast<int>(a.titulo.size()) * l.d.c) / 2;
-    Texto(l.s, x, a.tituloAbajo != 0 ? l.d.area.inferior + 3 * l.d.h : l.d.area.superior - 3 * l.d.h,
-          a.titulo);
+    const CajaGrafico &sitio = l.d.parte[ParteTitulo];
+    if (l.g.autocorrelacion.conTitulo != 0)
+        Texto(l.s, sitio.izquierda, sitio.superior, l.g.autocorrelacion.titulo);
 }
 
 } // namespace

@@ -24,9 +24,8 @@ CajaGrafico CajaDesde(int x, int y, int ancho, int alto) {
 
 // Bars stand half a cell wide; where there is room for more than four cells between them, the plot narrows instead.
 void DisponerBarras(const Grafico &g, DisposicionGrafico &d) {
-    const DatosAutocorrelacion &a = g.autocorrelacion;
     const int barra = d.c / 2;
-    const int numero = std::max(std::min(a.retardos, a.observaciones - 1), 0);
+    const int numero = NumeroDeBarras(g.autocorrelacion);
     const int ancho = d.area.derecha - d.area.izquierda;
     const int libre = numero > 0 ? (ancho - numero * barra) / numero : 0;
     d.separa = std::max(libre, 2 * d.c);
@@ -53,6 +52,14 @@ void DisponerPartes(const Grafico &g, DisposicionGrafico &d) {
         CajaDesde(2 * d.c, area.superior, 2 * d.c, static_cast<int>(o.tituloY.size()) * d.h);
 }
 
+// The title of autocorrelations stands in the middle of the window, not of the plot, and can't be moved.
+void DisponerTituloDeBarras(const Grafico &g, DisposicionGrafico &d) {
+    const DatosAutocorrelacion &a = g.autocorrelacion;
+    const int ancho = static_cast<int>(a.titulo.size()) * d.c;
+    const int y = a.tituloAbajo != 0 ? d.area.inferior + 3 * d.h : d.area.superior - 3 * d.h;
+    d.parte[ParteTitulo] = CajaDesde((d.ancho - ancho) / 2, y, ancho, 2 * d.h);
+}
+
 // A title that was moved and then rewritten keeps its corner, that of the X axis the height that its move gave it, too.
 void DejarLasMovidas(const Grafico &g, DisposicionGrafico &d) {
     for (std::size_t i = 0; i < NumPartesDeGrafico; ++i) {
@@ -76,6 +83,10 @@ CajaGrafico DentroDelPapel(CajaGrafico caja, const Superficie &papel) {
 
 } // namespace
 
+int NumeroDeBarras(const DatosAutocorrelacion &a) {
+    return std::max(std::min(a.retardos, a.observaciones), 0);
+}
+
 DisposicionGrafico DisponerEnVentana(const Grafico &g, const Superficie &s) {
     const bool barras = g.clase == GraficoAutocorrelacion;
     const int lado = (barras ? MargenLadoAutocorrelacion : MargenLado) * s.anchoCaracter;
@@ -88,6 +99,7 @@ DisposicionGrafico DisponerEnVentana(const Grafico &g, const Superficie &s) {
     d.area = {lado, alto, s.ancho - lado, s.alto - alto};
     if (barras) DisponerBarras(g, d);
     DisponerPartes(g, d);
+    if (barras) DisponerTituloDeBarras(g, d);
     DejarLasMovidas(g, d);
     return d;
 }

@@ -3,6 +3,9 @@
 
 #include "charts/graficos/grafico.h"
 
+// Bars that the chart of an autocorrelation function makes room for: one a lag, as far as the sample goes.
+int NumeroDeBarras(const DatosAutocorrelacion &a);
+
 // The layout in a client area. Parts that the user moved stay where they are; of the titles the corner stays.
 DisposicionGrafico DisponerEnVentana(const Grafico &g, const Superficie &s);
 

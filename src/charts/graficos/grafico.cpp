@@ -44,12 +44,19 @@ constexpr FilaDeClase Clases[NumClasesDeGrafico] = {
      DibujarGraficoHistograma},
 };
 
-void Dibujar(Superficie &s, const Grafico &g, const DisposicionGrafico &d) {
-    const Lienzo l = {s, g, d};
+// Returns the error of the drawing, empty for none.
+std::string Dibujar(Superficie &s, const Grafico &g, const DisposicionGrafico &d) {
+    std::string error;
+    const Lienzo l = {s, g, d, error};
     Clases[g.clase].dibujar(l);
-    if (!DescripcionDe(g.clase).conPartes) return;
+    if (!DescripcionDe(g.clase).conPartes) return error;
     DibujarLeyenda(l);
     DibujarTitulos(l);
+    return error;
+}
+
+void MostrarErrorInterno(Ventana *ventana, const std::string &error) {
+    if (!error.empty()) MostrarMensaje(ventana, error, "Aviso de error interno");
 }
 
 void PonerNumero(std::string &tabla, double v) {
@@ -80,7 +87,7 @@ std::string TablaDeAutocorrelacion(const DatosAutocorrelacion &a) {
     std::string tabla = "Retardo\tCoeficiente";
     if (a.tipoBanda == GraficoConBandaArma) tabla += "\tBanda";
     tabla += '\n';
-    for (std::size_t k = 1; k < a.coeficientes.size() && static_cast<int>(k) <= a.retardos; ++k) {
+    for (std::size_t k = 1; k < a.coeficientes.size() && static_cast<int>(k) <= NumeroDeBarras(a); ++k) {
         tabla += std::to_string(k);
         PonerNumero(tabla, a.coeficientes[k]);
         if (a.tipoBanda == GraficoConBandaArma) PonerNumero(tabla, En(a.desviaciones, k));
@@ -135,13 +142,17 @@ void AbrirVentanaGrafico(Ventana *ventana, Grafico &g) {
 
 void PintarGrafico(Superficie &s, Grafico &g) {
     g.disposicion = DisponerEnVentana(g, s);
-    Dibujar(s, g, g.disposicion);
+    g.errorInterno = Dibujar(s, g, g.disposicion);
 }
 
-bool ImprimirGrafico(DispositivoImpresion *dispositivo, Ventana *, const Grafico &g) {
+void AvisarErrorInterno(Ventana *ventana, const Grafico &g) {
+    MostrarErrorInterno(ventana, g.errorInterno);
+}
+
+bool ImprimirGrafico(DispositivoImpresion *dispositivo, Ventana *ventana, const Grafico &g) {
     Superficie *papel = ImpresoraEnUso().superficieDePagina(dispositivo);
     if (papel == nullptr) return false;
-    Dibujar(*papel, g, DisponerEnPapel(g, *papel));
+    MostrarErrorInterno(ventana, Dibujar(*papel, g, DisponerEnPapel(g, *papel)));
     return true;
 }
 

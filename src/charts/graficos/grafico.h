@@ -104,6 +104,7 @@ struct Grafico {
 
     LimitesGrafico limites;
     DisposicionGrafico disposicion; // of the last painting in a window
+    std::string errorInterno;       // of the same painting; empty when all of it was right
     ArrastreGrafico arrastre;
 };
 
@@ -142,8 +143,12 @@ double MaximoSeparado(double limite);
 // Limits found, then the window of the chart; returns when it is closed.
 void AbrirVentanaGrafico(Ventana *ventana, Grafico &g);
 
-// Draws the chart on a window's client area, and notes in it where its parts stand.
+// Draws the chart on a window's client area, and notes in it where its parts stand and whether the drawing went wrong.
 void PintarGrafico(Superficie &s, Grafico &g);
+
+// The box of an error of the drawing itself, title "Aviso de error interno"; nothing when the last painting was right. A
+// window shows it behind its painting, once.
+void AvisarErrorInterno(Ventana *ventana, const Grafico &g);
 
 // Draws what is selected or being dragged over the chart: outline and handles.
 void PintarContorno(Superficie &s, const Grafico &g);

@@ -5,5 +5,5 @@
 
 struct DispositivoImpresion;
 
-// The routine of every print kind of a chart: draws it on the open page.
+// The routine of every print kind of a chart: draws it on the open page, and shows the box of an error of the drawing.
 bool ImprimirGrafico(DispositivoImpresion *dispositivo, Ventana *ventana, const Grafico &g);

@@ -12,6 +12,7 @@ struct Lienzo {
     Superficie &s;
     const Grafico &g;
     const DisposicionGrafico &d;
+    std::string &errorInterno; // text of the first error of the drawing itself; empty while there is none
 };
 
 // A coordinate, rounded by truncation. Far outside any surface it stays at a bound, and so does what is no number.

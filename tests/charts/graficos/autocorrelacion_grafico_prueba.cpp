@@ -2,6 +2,11 @@
 // are 4 wide, and 288 units stand for 1.
 #include "charts/graficos/graficos.h"
 
+#include "charts/graficos/clases.h"
+#include "charts/graficos/disposicion.h"
+
+#include <algorithm>
+
 namespace {
 
 using Ordenes = std::vector<std::string>;
@@ -98,8 +103,10 @@ struct Barras {
 class GraficoBarras : public testing::TestWithParam<Barras> {};
 TEST_P(GraficoBarras, Caben) {
     EmpezarPrueba();
-    Grafico g = Autocorrelaciones(std::vector<double>(static_cast<std::size_t>(GetParam().retardos), 0.5),
-                                  GetParam().observaciones);
+    Grafico g = Autocorrelaciones(
+        std::vector<double>(static_cast<std::size_t>(std::max(GetParam().retardos, 0)), 0.5),
+        GetParam().observaciones);
+    g.autocorrelacion.retardos = GetParam().retardos;
     const Ordenes cajas = Solo(Redibujado(g), "caja");
     ASSERT_EQ(cajas.size(), GetParam().numero);
     if (cajas.empty()) return;
@@ -109,9 +116,11 @@ TEST_P(GraficoBarras, Caben) {
 INSTANTIATE_TEST_SUITE_P(
     Casos, GraficoBarras,
     testing::Values(
-        Barras{0, 10, 0, "", ""}, Barras{5, 1, 1, "caja 48", "caja 48"},
-        // Room for four bars, (944 - 4 * 2 * 36) / 2 = 328 from each side; the fifth follows all the same.
-        Barras{9, 5, 5, "caja 376", "caja 520"},
+        Barras{0, 10, 0, "", ""}, Barras{-3, 10, 0, "", ""},
+        // Room for one bar a lag, up to the size of the sample: (944 - 1 * 2 * 36) / 2 = 436 from each side, or with five
+        // (944 - 5 * 2 * 36) / 2 = 292.
+        Barras{5, 1, 1, "caja 484", "caja 484"}, Barras{9, 5, 5, "caja 340", "caja 484"},
+        Barras{5, 5, 5, "caja 340", "caja 484"},
         // (944 - 40 * 4) / 40 = 19 and 4 of the bar.
         Barras{40, 100, 40, "caja 48", "caja 945"},
         // 16 is the least, and the 47th bar would stand at 48 + 46 * 20 = 968, the 48th behind the plot.
@@ -121,9 +130,61 @@ TEST(GraficoAutocorrelaciones, LoQueNoEsNumero) {
     EmpezarPrueba();
     Grafico g = Autocorrelaciones({Nada, 0.5, std::numeric_limits<double>::infinity()}, 10);
     EXPECT_EQ(Solo(Redibujado(g), "caja").size(), 1U);
+    EXPECT_NE(g.errorInterno, "");
     g.autocorrelacion.tipoBanda = GraficoConBandaArma; // without its deviations
     Redibujado(g);
     Redibujado(g, 0, 0);
+}
+
+// Two bars, one of them above the plot: 96 + 288 - 1.5 * 288 = -48. It is left out.
+TEST(GraficoAutocorrelaciones, UnaBarraFueraDelGrafico) {
+    EmpezarPrueba();
+    Grafico g = Autocorrelaciones({1.5, -0.25, -2}, 10);
+    AbrirVentanaGrafico(nullptr, g);
+    const std::vector<CajaVista> cajas = {{"Aviso de error interno",
+                                           "sup 96 alto 288.000000 filaini 384 serie[n] 1.500000 n 1 yy -48",
+                                           IconoInformacion, BotonesAceptar}};
+    EXPECT_EQ(Prueba.cajas, cajas);
+    EXPECT_EQ(Solo(Dibujo(), "caja"), (Ordenes{"caja 448,384 452,456 0,0,0 relleno 0,0,0"}));
+    g.autocorrelacion.coeficientes = {0, -1, 1, 0};
+    Redibujado(g);
+    EXPECT_EQ(g.errorInterno, "") << "the edges belong to the plot";
+    // On paper the plot is (0, 350) to (2480, 2510).
+    Prueba.cajas.clear();
+    g.autocorrelacion.coeficientes = {0, 0.5, -1.001, 0};
+    ImprimirVentanaGrafico(nullptr, g);
+    ASSERT_EQ(Prueba.cajas.size(), 1U);
+    EXPECT_EQ(Prueba.cajas[0].texto, "sup 350 alto 1080.000000 filaini 1430 serie[n] -1.001000 n 2 yy 2511");
+}
+
+// No layout of the program's own brings a bar there: these step to the left.
+TEST(GraficoAutocorrelaciones, UnaBarraAlLadoDelGrafico) {
+    EmpezarPrueba();
+    const Grafico g = Autocorrelaciones({0.5, 0.5, 0.5}, 2);
+    std::vector<OrdenDibujo> ordenes;
+    Superficie s = SuperficieGrabadora(ordenes, 1024, 768, 8, 16);
+    DisposicionGrafico d = DisponerEnVentana(g, s);
+    d.area = {40, 96, 984, 672};
+    d.separa = -20;
+    std::string error;
+    DibujarGraficoAutocorrelacion({s, g, d, error});
+    EXPECT_EQ(error, "coluini 32 izq 40 n 2 minimo 2 separa -20 ancho 4 inipon 48");
+    EXPECT_EQ(Solo(EnLetra(ordenes), "caja"), (Ordenes{"caja 48,240 52,384 0,0,0 relleno 0,0,0"}));
+}
+
+// In a window lower than the margins the edges of the plot change places; no bar is wrong for that.
+TEST(GraficoAutocorrelaciones, UnaVentanaMuyBaja) {
+    EmpezarPrueba();
+    Grafico g = Autocorrelaciones({1, -1, 0.5}, 10);
+    for (const int alto : {0, 50, 150, 191, 192, 193, 200}) {
+        Redibujado(g, 400, alto);
+        EXPECT_EQ(g.errorInterno, "") << alto;
+    }
+}
+
+TEST(GraficoAutocorrelaciones, LaTablaLlegaHastaLaMuestra) {
+    Grafico g = Autocorrelaciones({0.5, -0.25, 0, 0}, 2);
+    EXPECT_EQ(Utf8De1252(TablaDeGrafico(g)), "Retardo\tCoeficiente\n1\t0.5\n2\t-0.25\n");
 }
 
 } // namespace

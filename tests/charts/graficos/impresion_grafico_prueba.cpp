@@ -166,4 +166,26 @@ TEST_F(Papel, Autocorrelaciones) {
     EXPECT_EQ(Solo(d, "texto", ",1490 "), (Ordenes{"texto 587,1490 5", "texto 1282,1490 10"}));
 }
 
+// The title keeps its cells from the corner of the plot, though it was centred in the window: (640 - 24) / 2 = 308 is 25 cells
+// behind the plot's 104, and 3 rows above it; below, 21 rows under its top.
+TEST_F(Papel, ElTituloDeLasAutocorrelaciones) {
+    Grafico g = GraficoNuevo(GraficoAutocorrelacion, 100);
+    DatosAutocorrelacion &a = g.autocorrelacion;
+    a.retardos = 6; // (560 - 6 * 2 * 36) / 2 = 64 from each side: 54 cells
+    a.coeficientes.assign(7, 0.5);
+    a.observaciones = 100;
+    a.conTitulo = 1;
+    a.titulo = "FAC";
+    Redibujado(g, 640, 480);
+    EXPECT_EQ(ImprimirVentanaGrafico(nullptr, g), 0);
+    // (2480 - 54 * 31) / 2 = 403: 13 cells.
+    EXPECT_EQ(EnPapel().at(0), "linea 403,890 2077,890 0,0,0 2");
+    EXPECT_EQ(EnPapel().back(), "texto 1178,170 FAC");
+    Prueba.trabajos.clear();
+    a.tituloAbajo = 1;
+    Redibujado(g, 640, 480);
+    EXPECT_EQ(ImprimirVentanaGrafico(nullptr, g), 0);
+    EXPECT_EQ(EnPapel().back(), "texto 1178,1610 FAC");
+}
+
 } // namespace

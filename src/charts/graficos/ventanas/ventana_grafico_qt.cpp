@@ -114,6 +114,11 @@ private:
         PintorSuperficie propio;
         Superficie s = SuperficieDePintor(propio, pintor, fuente, width(), height());
         PintarGrafico(s, g);
+        if (g.errorInterno.empty() || avisado) return;
+        avisado = true; // the next painting would find the same
+        // No box can stand over a window that is being painted.
+        QMetaObject::invokeMethod(
+            this, [this] { AvisarErrorInterno(AVentana(window()), g); }, Qt::QueuedConnection);
     }
 
     void Aplicar(const EfectoDelRaton &efecto) {
@@ -127,6 +132,7 @@ private:
     Grafico &g;
     QFont fuente;
     QPixmap pintado;
+    bool avisado = false;
 };
 
 int PaginaDeAyuda(ClasesDeGrafico clase) {
