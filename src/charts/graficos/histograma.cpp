@@ -33,7 +33,8 @@ int AbrirGraficoDelHistograma(Ventana *ventana) {
 std::vector<double> PartesIguales(double minimo, double maximo, int clases) {
     if (maximo == minimo) maximo = MaximoSeparado(minimo);
     std::vector<double> limites;
-    for (int i = 0; i <= clases; ++i) limites.push_back(minimo + i * ((maximo - minimo) / clases));
+    for (int i = 0; i < clases; ++i) limites.push_back(minimo + i * ((maximo - minimo) / clases));
+    limites.push_back(maximo); // the steps may add up to less, and the greatest value would count nowhere
     return limites;
 }
 

@@ -115,6 +115,16 @@ TEST_F(Hist, ValorAusenteCuentaComoCero) {
     EXPECT_EQ(h.frecuencias, (Numeros{2, 3}));
 }
 
+// Ten tenths of the distance from 0.8 to 2.6 don't reach it; the greatest value counts all the same.
+TEST_F(Hist, ElMayorValorCuenta) {
+    PonerSerie("F", {0.8, 2.6, 6.7 / 4, 1, 2.6});
+    DatosHistograma h;
+    Prueba.enGrafico = [&](Grafico &g) { h = g.histograma; };
+    ASSERT_TRUE(Sentencia("HIST F"));
+    EXPECT_EQ(h.limites.back(), 2.6);
+    EXPECT_EQ(h.frecuencias, (Numeros{1, 1, 0, 0, 1, 0, 0, 0, 0, 2}));
+}
+
 struct Divisiones {
     const char *sentencia;
     std::size_t marcas;
@@ -192,6 +202,12 @@ INSTANTIATE_TEST_SUITE_P(
         ClasesDelDialogo{ClasesEntreLimites, "0", "6", "3", {"9"}, {0, 2, 4, 6}},
         ClasesDelDialogo{ClasesEntreLimites, "0", "6", "1", {}, {0, 3, 6}},
         ClasesDelDialogo{ClasesEntreLimites, "", "6", "", {}, {0, 3, 6}},
+        ClasesDelDialogo{ClasesEntreLimites,
+                         "0",
+                         "36",
+                         "25",
+                         {},
+                         {0, 2, 4, 6, 8, 10, 12, 14, 16, 18, 20, 22, 24, 26, 28, 30, 32, 34, 36}},
         ClasesDelDialogo{ClasesDadas, "", "", "", {"1", "2", "4.5"}, {1, 2, 4.5}},
         ClasesDelDialogo{ClasesDadas, "", "", "", {"1", "2", "2", "7"}, {1, 2}},
         ClasesDelDialogo{ClasesDadas, "", "", "", {"1", "2", "1.5", "7"}, {1, 2}},
