@@ -70,10 +70,11 @@ TEST(Descriptivos, CorrelacionPorSuDefinicion) {
     PonerSerie("Y", y);
     const FilasDeMuestra filas = {10, 289};
     const MedidasDescriptivas mx = MedirSerie(0, filas), my = MedirSerie(1, filas);
-    long double n = 0, suma = 0, sxy = 0, sxx = 0, syy = 0, sumaY = 0;
+    long double n = 0, suma = 0, cuadrados = 0, sxy = 0, sxx = 0, syy = 0, sumaY = 0;
     for (std::size_t i = 10; i < 290; ++i) {
         if (!std::isnan(x[i])) {
             suma += x[i];
+            cuadrados += static_cast<long double>(x[i]) * x[i];
             ++n;
         }
         sumaY += y[i];
@@ -87,6 +88,8 @@ TEST(Descriptivos, CorrelacionPorSuDefinicion) {
         syy += dy * dy;
     }
     EXPECT_NEAR(mx.media, static_cast<double>(mediaX), 1e-10);
+    const long double desviacion = std::sqrt(cuadrados / n - mediaX * mediaX);
+    EXPECT_NEAR(mx.desviacion, static_cast<double>(desviacion), 1e-9 * static_cast<double>(desviacion));
     EXPECT_NEAR(CorrelacionDeSeries(0, mx.media, 1, my.media, filas),
                 static_cast<double>(sxy / std::sqrt(sxx * syy)), 1e-10);
 }

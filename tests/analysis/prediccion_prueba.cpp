@@ -64,7 +64,7 @@ ValoresPrediccion Rango(const std::string &inicio, const std::string &fin,
 }
 
 void Cerca(double valor, double esperado) {
-    EXPECT_NEAR(valor, esperado, 1e-9 * std::max(1.0, std::fabs(esperado)));
+    EXPECT_NEAR(valor, esperado, 1e-9 * std::fabs(esperado) + 1e-14);
 }
 
 // Coefficients, their covariances and the residuals' variance, by the normal equations in long double.
@@ -356,6 +356,22 @@ TEST(Prediccion, ElInforme) {
         {1, "                Componente aleatorio..:     0.3693"},
     };
     EXPECT_EQ(Prueba.resultados[0].lineas, esperadas);
+}
+
+// What is observed is what was predicted: no error, and its random part is all of it.
+TEST(Prediccion, ElInformeDeUnaPrediccionPerfecta) {
+    EmpezarConLaMedia();
+    PonerMatriz("_BETA", {0, 1}, 2, 1);
+    PonerSerie("VENTAS", {1, 2, 4, 8, 16, 32, 64});
+    ASSERT_EQ(AceptarPrediccion(nullptr, Rango("1981", "1987")), 1);
+    const char *const esperados[] = {"0.0000", "0.0000", "1.0000", "",
+                                     "0.0000", "0.0000", "0.0000", "1.0000"};
+    const Lineas &l = Prueba.resultados.at(0).lineas;
+    ASSERT_EQ(l.size(), 13u);
+    for (std::size_t i = 0; i < std::size(esperados); ++i) {
+        const std::string &linea = l[i + 5].second;
+        EXPECT_EQ(linea.substr(std::min(linea.size(), linea.rfind(' ') + 1)), esperados[i]) << linea;
+    }
 }
 
 TEST(Prediccion, LasCabecerasDelInforme) {

@@ -346,7 +346,11 @@ TEST(Transformaciones, Mensajes) {
         v.boxCox = v.estacionales = v.noEstacionales = true;
         v.lambda = "0";
         c.cambiar(v);
+        const int series = ArchivoTrabajo.NumSeries;
         EXPECT_EQ(AceptarTransformacion(nullptr, v), 0);
+        // Only the differences are counted after the new series has its place.
+        const bool cuenta = std::string_view(c.texto).starts_with("Las diferencias");
+        EXPECT_EQ(ArchivoTrabajo.NumSeries, series + (cuenta ? 1 : 0));
         EXPECT_EQ(Prueba.cajas,
                   (std::vector<CajaVista>{{"Aviso", c.texto, IconoInformacion, BotonesAceptar}}));
         // At most the new series stands in the table, without a value.
