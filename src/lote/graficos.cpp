@@ -5,9 +5,10 @@
 #include "lote/corrida.h"
 #include "lote/modulo_pdf.h"
 #include "lote/sucesos.h"
-#include "platform/numeros.h"
 #include "platform/texto.h"
 
+#include <charconv>
+#include <cmath>
 #include <filesystem>
 #include <system_error>
 
@@ -31,10 +32,11 @@ void EscribirImagen(const std::vector<OrdenDibujo> &ordenes) {
     Graficos.bien = false;
 }
 
-// The whole text as a number.
-bool LeerNumero(std::string_view texto, double &valor) {
-    valor = LeerDecimal(texto);
-    return !texto.empty() && texto.find_first_not_of("0123456789+-.eE") == std::string_view::npos;
+// The whole text as a number, a finite one.
+template <class Numero> bool LeerNumero(std::string_view texto, Numero &valor) {
+    if (texto.starts_with('+') && !texto.starts_with("+-")) texto.remove_prefix(1);
+    const auto [resto, error] = std::from_chars(texto.data(), texto.data() + texto.size(), valor);
+    return error == std::errc{} && resto == texto.data() + texto.size() && std::isfinite(valor);
 }
 
 bool LeerNumeros(std::string_view texto, std::vector<double> &valores) {
@@ -56,12 +58,8 @@ bool LeerOpcion(std::string_view opcion, OpcionesHistograma &o) {
         o.modo = ClasesDadas;
         return LeerNumeros(valor, o.limites);
     }
-    if (!LeerNumero(valor, numero)) return false;
-    if (nombre == "clases") {
-        o.clases = LeerEntero(valor);
-        return true;
-    }
-    if (nombre != "min" && nombre != "max") return false;
+    if (nombre == "clases") return LeerNumero(valor, o.clases);
+    if ((nombre != "min" && nombre != "max") || !LeerNumero(valor, numero)) return false;
     o.modo = ClasesEntreLimites;
     (nombre == "min" ? o.minX : o.maxX) = numero;
     (nombre == "min" ? o.minXDefecto : o.maxXDefecto) = 0;

@@ -205,6 +205,12 @@ TEST(PeticionDeHistograma, Lectura) {
         {"X:clases", false, "X", ClasesDeLosDatos, 10, {}, 0, 0, 1, 1},
         {"X:clases=", false, "X", ClasesDeLosDatos, 10, {}, 0, 0, 1, 1},
         {"X:clases=a", false, "X", ClasesDeLosDatos, 10, {}, 0, 0, 1, 1},
+        {"X:clases=2.5", false, "X", ClasesDeLosDatos, 10, {}, 0, 0, 1, 1},
+        {"X:min=-", false, "X", ClasesDeLosDatos, 10, {}, 0, 0, 1, 1},
+        {"X:min=e", false, "X", ClasesDeLosDatos, 10, {}, 0, 0, 1, 1},
+        {"X:max=1-2", false, "X", ClasesDeLosDatos, 10, {}, 0, 0, 1, 1},
+        {"X:max=inf", false, "X", ClasesDeLosDatos, 10, {}, 0, 0, 1, 1},
+        {"X:min=+1.5,max=2e1", true, "X", ClasesEntreLimites, 10, {}, 1.5, 20, 0, 0},
         {"X:nada=1", false, "X", ClasesDeLosDatos, 10, {}, 0, 0, 1, 1},
         {"X:clases=3,", false, "X", ClasesDeLosDatos, 3, {}, 0, 0, 1, 1},
     };
