@@ -63,6 +63,9 @@ bool HayTipoDeDatos(const char *mensaje) {
     return false;
 }
 
+// The text of the editor and of the tests. A name of its own: clang drops a literal made while compiling inside a template.
+constexpr const char *SinTipoElegido = "Tipo de datos no válido"_w;
+
 bool HayTipoDeDatos() {
     return HayTipoDeDatos("Tipo de datos no válidos"_w);
 }
@@ -267,7 +270,7 @@ bool HacerGuardar(const Accion &accion) {
 
 // What comes before the two commands on observations, as in the editor: its guard, what it greys, its check.
 bool EmpezarConObservaciones(const char *accion) {
-    if (!HayTipoDeDatos("Tipo de datos no válido"_w)) return false;
+    if (!HayTipoDeDatos(SinTipoElegido)) return false;
     ActualizarMuestra();
     if (ConObservacionesLibres()) return EmpezarObservaciones(nullptr);
     Quejarse(std::string(accion) + " solo es posible con datos sin periodicidad");
@@ -348,7 +351,7 @@ bool HacerUltimaRegresion(const Accion &) {
 
 // The listings are a command of the editor, which opens with this guard, or of the dialogs of the regressions.
 bool HacerListado(const Accion &accion) {
-    if (!HayTipoDeDatos("Tipo de datos no válido"_w)) return false;
+    if (!HayTipoDeDatos(SinTipoElegido)) return false;
     ActualizarMuestra();
     if (accion.deRegresion)
         return PedirListado(nullptr, static_cast<ListadosRegresion>(accion.numero),
@@ -373,7 +376,7 @@ bool HacerListado(const Accion &accion) {
 
 // What the dialogs of the tests and of the analysis do. Each has the guard of its command.
 template <auto Rutina> bool ConTipoDeDatos(const Accion &accion) {
-    if (!HayTipoDeDatos("Tipo de datos no válido"_w)) return false;
+    if (!HayTipoDeDatos(SinTipoElegido)) return false;
     ActualizarMuestra();
     return Rutina(accion.valor);
 }
@@ -408,7 +411,7 @@ bool HacerGrafico(const Accion &accion) {
 }
 
 bool HacerHistograma(const Accion &accion) {
-    if (!HayTipoDeDatos("Tipo de datos no válido"_w)) return false;
+    if (!HayTipoDeDatos(SinTipoElegido)) return false;
     ActualizarMuestra();
     return AceptarHistograma(nullptr, accion.histograma.opciones, accion.histograma.serie,
                              Muestra.InicioMuestra, Muestra.FinMuestra) == 1;

@@ -23,7 +23,7 @@ void PrepararProceso() {
     if (mkdtemp(carpeta) == nullptr || chdir(carpeta) != 0) std::abort();
     if (std::freopen("/dev/null", "r", stdin) == nullptr || std::freopen("/dev/null", "w", stdout) == nullptr)
         std::abort();
-    InstalarPlataforma(PlataformaLote);
+    InstalarPlataformaLote();
 }
 
 std::vector<std::string> Argumentos(std::string texto) {
