@@ -39,17 +39,19 @@ fuzz() {
     preparar_compilacion
     instalar clang libclang-rt-dev
     compilar fuzz
-    local objetivo segundos=${1:-30} opciones
+    local objetivo segundos=${1:-30} aqui=$PWD opciones
     [[ $segundos =~ ^[1-9][0-9]*$ ]] || rendirse "--fuzz quiere un número de segundos, no '$segundos'"
     for objetivo in $(sed -nE 's/^foreach\(objetivo (.*)\)$/\1/p' tests/fuzz/CMakeLists.txt); do
         decir "$segundos segundos de entradas al azar: $objetivo"
         mkdir -p "build/fuzz/corpus_$objetivo"
-        # Without -len_control the inputs would stay short for hours.
+        # Whole paths: one of them works in a folder of its own. Without -len_control the inputs would stay short for hours; weighing
+        # each input by how rare its features are, and a long quarantine of freed memory, cost more than they find.
         opciones=(-max_total_time="$segundos" -timeout=10 -rss_limit_mb=2048 -verbosity=0 -print_final_stats=1
-            -len_control=0 -max_len=4096 -artifact_prefix=build/fuzz/)
-        [ ! -f "tests/fuzz/diccionario_$objetivo.txt" ] || opciones+=(-dict="tests/fuzz/diccionario_$objetivo.txt")
-        UBSAN_OPTIONS=print_stacktrace=1 "build/fuzz/tests/fuzz/fuzz_$objetivo" "${opciones[@]}" \
-            "build/fuzz/corpus_$objetivo" tests/fuzz/semillas_"$objetivo" ||
+            -len_control=0 -entropic=0 -max_len=4096 -close_fd_mask=3 -artifact_prefix="$aqui/build/fuzz/")
+        [ ! -f "tests/fuzz/diccionario_$objetivo.txt" ] || opciones+=(-dict="$aqui/tests/fuzz/diccionario_$objetivo.txt")
+        ASAN_OPTIONS=quarantine_size_mb=4 UBSAN_OPTIONS=print_stacktrace=1 \
+            "build/fuzz/tests/fuzz/fuzz_$objetivo" "${opciones[@]}" \
+            "$aqui/build/fuzz/corpus_$objetivo" "$aqui/tests/fuzz/semillas_$objetivo" ||
             rendirse "fuzz_$objetivo encontró un fallo: la entrada está en build/fuzz/"
     done
 }
