@@ -78,6 +78,7 @@ estilo() {
 bench() {
     preparar_compilacion libbenchmark-dev libgtest-dev
     compilar bench
+    build/bench/bench/bench_graficos --benchmark_min_time=0.5
     build/bench/bench/bench_tabira --benchmark_min_time=0.5
 }
 

@@ -11,6 +11,11 @@ void GrabarLinea(void *propio, int x1, int y1, int x2, int y2, const Pluma &plum
     Ordenes(propio).push_back({OrdenLinea, x1, y1, x2, y2, pluma, false, {}, {}});
 }
 
+void GrabarCamino(void *propio, const PuntoDibujo *puntos, int n, const Pluma &pluma) {
+    for (int i = 1; i < n; ++i)
+        GrabarLinea(propio, puntos[i - 1].x, puntos[i - 1].y, puntos[i].x, puntos[i].y, pluma);
+}
+
 void GrabarRectangulo(void *propio, int x1, int y1, int x2, int y2, const Pluma &pluma,
                       const Color *relleno) {
     Ordenes(propio).push_back({OrdenRectangulo,
@@ -32,7 +37,8 @@ void GrabarTexto(void *propio, int x, int y, std::string_view texto) {
 
 Superficie SuperficieGrabadora(std::vector<OrdenDibujo> &ordenes, int ancho, int alto, int anchoCaracter,
                                int altoLinea) {
-    return {&ordenes, ancho, alto, anchoCaracter, altoLinea, GrabarLinea, GrabarRectangulo, GrabarTexto};
+    return {&ordenes,         ancho,      alto, anchoCaracter, altoLinea, GrabarLinea, GrabarCamino,
+            GrabarRectangulo, GrabarTexto};
 }
 
 void Reproducir(const std::vector<OrdenDibujo> &ordenes, Superficie &s) {

@@ -19,12 +19,18 @@ struct Pluma {
     EstiloPluma estilo;
 };
 
+struct PuntoDibujo {
+    int x, y;
+};
+
 struct Superficie {
     void *propio;      // what the adapter needs
     int ancho, alto;   // client area or page, in device units
     int anchoCaracter; // of the fixed-pitch font
     int altoLinea;     // height of a character plus external leading
     void (*linea)(void *propio, int x1, int y1, int x2, int y2, const Pluma &pluma);
+    // Lines from each point to the next, as `linea` draws them.
+    void (*camino)(void *propio, const PuntoDibujo *puntos, int n, const Pluma &pluma);
     // `relleno` null leaves the inside as it is.
     void (*rectangulo)(void *propio, int x1, int y1, int x2, int y2, const Pluma &pluma,
                        const Color *relleno);
@@ -34,6 +40,9 @@ struct Superficie {
 
 inline void Linea(Superficie &s, int x1, int y1, int x2, int y2, const Pluma &pluma) {
     s.linea(s.propio, x1, y1, x2, y2, pluma);
+}
+inline void Camino(Superficie &s, const std::vector<PuntoDibujo> &puntos, const Pluma &pluma) {
+    s.camino(s.propio, puntos.data(), static_cast<int>(puntos.size()), pluma);
 }
 inline void Rectangulo(Superficie &s, int x1, int y1, int x2, int y2, const Pluma &pluma,
                        const Color *relleno) {

@@ -60,8 +60,8 @@ const LineaAyuda TextoGraficos[] = {
     {T, "grosor y dibujo de cada serie. Elija una y pulse \"Si\" para confirmarlos."_w},
     {T, "Decimales: los de los números de los ejes."_w},
     {T, ""_w},
-    {T, "En la ventana del gráfico, la leyenda y los títulos se arrastran con el ratón,"_w},
-    {T, "y tirando de un borde cambian de tamaño. Imprimir lo lleva a la impresora."_w},
+    {T, "En la ventana del gráfico se arrastran con el ratón los títulos y, elegida con"_w},
+    {T, "un clic, la leyenda; sus asas cambian su tamaño. Imprimir lo lleva al papel."_w},
     {T, ""_w},
     {T, "Los datos missing se dibujan como ceros. Desde la Pantalla de Edición:"_w},
     {T, "     GRAF SERIE SERIE ...            gráfico temporal"_w},
@@ -84,8 +84,8 @@ const LineaAyuda TextoGraficosRegresion[] = {
     {T, "     Sin banda"_w},
     {T, "     Al medio, Parte inferior     dónde se señalan los períodos"_w},
     {T, ""_w},
-    {T, "La leyenda y los títulos se arrastran con el ratón, y tirando de un borde"_w},
-    {T, "cambian de tamaño. Las opciones valen hasta que se cambian."_w},
+    {T, "Con el ratón se arrastran los títulos y, elegida con un clic, la leyenda; sus"_w},
+    {T, "asas cambian su tamaño. Las opciones valen hasta que se cierra el gráfico."_w},
     {T, nullptr},
 };
 

@@ -332,6 +332,31 @@ TEST_F(Graficos, FormasSinSerieElegida) {
     EXPECT_EQ(o.forma, FormaLineas); // Cancela leaves it
 }
 
+TEST_F(Graficos, FormasConElTeclado) {
+    OpcionesGrafico o = OpcionesPorDefecto(4);
+    ConGuion({{"Gráficos temporales: Formas y colores",
+               [](QDialog &d) {
+                   Activar(d);
+                   const auto teclear = [&](std::initializer_list<Qt::Key> teclas) {
+                       for (const Qt::Key t : teclas) QTest::keyClick(d.focusWidget(), t);
+                   };
+                   // The second series; bars; red; "Si"; thick; "Si"; OK.
+                   teclear({Qt::Key_Down, Qt::Key_Down, Qt::Key_Tab});
+                   teclear({Qt::Key_Down, Qt::Key_Down, Qt::Key_Tab});
+                   teclear({Qt::Key_Down, Qt::Key_Down, Qt::Key_Tab, Qt::Key_Space, Qt::Key_Tab});
+                   teclear({Qt::Key_Down, Qt::Key_Tab, Qt::Key_Space, Qt::Key_Tab});
+                   teclear({Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Space});
+               }}},
+             [&] {
+                 DialogoFormas(AVentana(ventana.get()), GraficoSeries, o, {"X", "Y"});
+             });
+    EXPECT_EQ(o.forma, FormaBarras);
+    EXPECT_EQ(o.color[0], 0);
+    EXPECT_EQ(o.color[1], 0); // green before
+    EXPECT_EQ(o.grosor[0], 0);
+    EXPECT_EQ(o.grosor[1], 1);
+}
+
 TEST_F(Graficos, IntervalosDeLaPrediccion) {
     OpcionesGrafico o = OpcionesPorDefecto(4);
     ConGuion({{"Diagrama predicción-observación: Intervalos y títulos",

@@ -32,15 +32,25 @@ void PorCadaPunto(const Lienzo &l, const ReglaDePuntos &regla, const SerieGrafic
     for (int t = l.g.limites.primera; t <= ultima; ++t) marca(PuntoDeFila(l, regla, serie, t));
 }
 
+// A point that isn't seen parts the line.
+void TerminarCamino(const Lienzo &l, std::vector<PuntoDibujo> &camino, const Pluma &pluma) {
+    Camino(l.s, camino, pluma);
+    camino.clear();
+}
+
 void DibujarSerie(const Lienzo &l, const ReglaDePuntos &regla, const SerieGrafico &serie,
                   const Pluma &pluma) {
     const int forma = l.g.opciones.forma;
     if (forma == FormaLineas || forma == FormaLineasYSimbolos) {
-        Punto anterior{};
+        std::vector<PuntoDibujo> camino;
         PorCadaPunto(l, regla, serie, [&](const Punto &p) {
-            if (anterior.visible && p.visible) Linea(l.s, anterior.x, anterior.y, p.x, p.y, pluma);
-            anterior = p;
+            if (p.visible) {
+                camino.push_back({p.x, p.y});
+            } else {
+                TerminarCamino(l, camino, pluma);
+            }
         });
+        TerminarCamino(l, camino, pluma);
     }
     if (forma == FormaSimbolos || forma == FormaLineasYSimbolos)
         PorCadaPunto(l, regla, serie, [&](const Punto &p) {

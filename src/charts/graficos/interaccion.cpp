@@ -127,12 +127,14 @@ EfectoDelRaton SoltarEnGrafico(Grafico &g) {
 
 void PintarContorno(Superficie &s, const Grafico &g) {
     const ArrastreGrafico &a = g.arrastre;
-    const auto borde = [&](const CajaGrafico &c) {
-        Rectangulo(s, c.izquierda, c.superior, c.derecha, c.inferior, PlumaContorno, nullptr);
+    const auto borde = [&](const CajaGrafico &c, const Pluma &pluma = PlumaContorno) {
+        Rectangulo(s, c.izquierda, c.superior, c.derecha, c.inferior, pluma, nullptr);
     };
     if (a.titulo != ParteLeyenda) borde(g.disposicion.parte[static_cast<std::size_t>(a.titulo)]);
     if (a.estadoLeyenda == LeyendaQuieta) return;
     const CajaGrafico &c = g.disposicion.parte[ParteLeyenda];
+    // The dots wouldn't be seen on the frame.
+    if (a.estadoLeyenda == LeyendaElegida) borde(c, PlumaDeBorrar);
     borde(c);
     const int asas[][2] = {
         {c.izquierda, MitadY(c)}, {c.derecha, MitadY(c)}, {MitadX(c), c.superior}, {MitadX(c), c.inferior}};

@@ -48,5 +48,6 @@ extern const std::array<ColorGrafico, NumColoresGrafico> ColoresGrafico;
 Pluma PlumaDeSerie(const OpcionesGrafico &opciones, int lugar);
 
 inline constexpr Pluma PlumaEjes = {{0, 0, 0}, 1, PlumaContinua};
-inline constexpr Pluma PlumaContorno = {{0, 0, 0}, 1, PlumaPunteada};       // of what is being moved
+inline constexpr Pluma PlumaContorno = {{0, 0, 0}, 1, PlumaPunteada}; // of what is being moved
+inline constexpr Pluma PlumaDeBorrar = {{255, 255, 255}, 1, PlumaContinua};
 inline constexpr Pluma PlumaSinMarco = {{255, 255, 255}, 3, PlumaContinua}; // of the legend without a frame

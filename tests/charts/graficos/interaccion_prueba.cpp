@@ -46,10 +46,11 @@ TEST_F(Raton, ElegirLaLeyenda) {
     EXPECT_TRUE(e.contorno);
     EXPECT_FALSE(e.repintar);
     EXPECT_EQ(g.arrastre.estadoLeyenda, LeyendaElegida);
-    EXPECT_EQ(Contorno(),
-              (Ordenes{"caja 760,96 928,160 0,0,0 p", "caja 758,126 762,130 0,0,0 relleno 0,0,0",
-                       "caja 926,126 930,130 0,0,0 relleno 0,0,0", "caja 842,94 846,98 0,0,0 relleno 0,0,0",
-                       "caja 842,158 846,162 0,0,0 relleno 0,0,0"}));
+    EXPECT_EQ(
+        Contorno(),
+        (Ordenes{"caja 760,96 928,160 255,255,255", "caja 760,96 928,160 0,0,0 p",
+                 "caja 758,126 762,130 0,0,0 relleno 0,0,0", "caja 926,126 930,130 0,0,0 relleno 0,0,0",
+                 "caja 842,94 846,98 0,0,0 relleno 0,0,0", "caja 842,158 846,162 0,0,0 relleno 0,0,0"}));
     const EfectoDelRaton suelta = SoltarEnGrafico(g);
     EXPECT_EQ(suelta.cursor, CursorFlecha);
     EXPECT_TRUE(suelta.repintar);
