@@ -1,0 +1,395 @@
+// The tutorial teaches what the program does: the statements of each chapter run in the order in which they stand, in one
+// run of tabira-lote, and what the chapter quotes is what the program says.
+#include "lote/corrida.h"
+
+#include "platform/texto.h"
+#include "shell/comandos.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <optional>
+#include <set>
+#include <sstream>
+
+namespace {
+
+using nlohmann::json;
+
+// A fenced block: ```{.clase nombre="valor" ...}
+struct Bloque {
+    std::string clase; // tabira: statements; menu: what to choose; resultado: what the program says
+    std::map<std::string, std::string> atributos;
+    std::vector<std::string> lineas;
+    int linea = 0; // of the fence, from 1
+
+    std::string Atributo(const std::string &nombre) const {
+        const auto i = atributos.find(nombre);
+        return i == atributos.end() ? "" : i->second;
+    }
+    bool SeEjecuta() const { return clase != "resultado"; }
+};
+
+struct Capitulo {
+    std::vector<Bloque> bloques;
+    std::vector<std::pair<int, std::string>> prosa; // number of the line and text, outside the blocks
+};
+
+// What a chapter does at least, so that a file without its blocks is no chapter that passes.
+struct CapituloEsperado {
+    const char *fichero;
+    std::size_t ejecutados, citados;
+};
+
+constexpr CapituloEsperado Capitulos[] = {
+    {"01_datos.md", 8, 6},
+    {"02_series.md", 12, 9},
+    {"03_muestra.md", 11, 9},
+};
+
+std::string RutaDe(const std::string &fichero) {
+    return std::string(TABIRA_FUENTES) + "/docs/tutorial/" + fichero;
+}
+
+// The parts of a fence behind its "{": ".clase", "nombre="valor"".
+void LeerAtributos(const std::string &texto, Bloque &bloque) {
+    std::size_t i = 0;
+    while ((i = texto.find_first_not_of(" {}", i)) != texto.npos) {
+        if (texto[i] == '.') {
+            const std::size_t fin = texto.find_first_of(" }", i);
+            ASSERT_TRUE(bloque.clase.empty()) << texto;
+            bloque.clase = texto.substr(i + 1, fin - i - 1);
+            i = fin;
+            continue;
+        }
+        const std::size_t igual = texto.find("=\"", i);
+        ASSERT_NE(igual, texto.npos) << texto;
+        const std::size_t cierre = texto.find('"', igual + 2);
+        ASSERT_NE(cierre, texto.npos) << texto;
+        bloque.atributos[texto.substr(i, igual - i)] = texto.substr(igual + 2, cierre - igual - 2);
+        i = cierre + 1;
+    }
+}
+
+void ComprobarBloque(const Bloque &b) {
+    static const std::set<std::string> clases = {"tabira", "menu", "resultado"};
+    static const std::set<std::string> atributos = {"tipo", "datos", "lote", "semilla", "falla"};
+    EXPECT_TRUE(clases.contains(b.clase)) << "línea " << b.linea << ": " << b.clase;
+    EXPECT_FALSE(b.lineas.empty()) << "línea " << b.linea;
+    for (const auto &[nombre, valor] : b.atributos) {
+        EXPECT_TRUE(atributos.contains(nombre) && b.SeEjecuta()) << "línea " << b.linea << ": " << nombre;
+        EXPECT_FALSE(valor.empty()) << "línea " << b.linea << ": " << nombre;
+    }
+}
+
+Capitulo LeerCapitulo(const std::string &fichero) {
+    Capitulo r;
+    std::ifstream f(RutaDe(fichero));
+    EXPECT_TRUE(f.is_open()) << fichero;
+    bool dentro = false;
+    int n = 0;
+    for (std::string linea; std::getline(f, linea);) {
+        ++n;
+        if (linea.starts_with("```")) {
+            dentro = !dentro;
+            if (!dentro) continue;
+            r.bloques.push_back({"", {}, {}, n});
+            LeerAtributos(linea.substr(3), r.bloques.back());
+        } else if (dentro) {
+            r.bloques.back().lineas.push_back(linea);
+        } else {
+            r.prosa.emplace_back(n, linea);
+        }
+    }
+    EXPECT_FALSE(dentro) << fichero << ": un bloque sin cerrar";
+    for (const Bloque &b : r.bloques) ComprobarBloque(b);
+    return r;
+}
+
+// ---------------------------------------------------------------------------------------------------------------
+// The run
+
+// A regression's rule lines, blanks and bars don't count: neither when quoting nor when comparing.
+std::vector<std::string> Palabras(const std::string &linea) {
+    std::string limpia = linea;
+    std::replace(limpia.begin(), limpia.end(), '|', ' ');
+    if (limpia.find_first_not_of(" +-") == limpia.npos) return {};
+    std::istringstream s(limpia);
+    std::vector<std::string> r;
+    for (std::string p; s >> p;) r.push_back(p);
+    return r;
+}
+
+void AnadirLineas(const std::string &texto, std::vector<std::string> &lineas) {
+    std::istringstream s(texto);
+    for (std::string l; std::getline(s, l);)
+        if (!Palabras(l).empty()) lineas.push_back(l);
+}
+
+// What an event shows to the user, line by line.
+void AnadirSuceso(const json &s, std::vector<std::string> &lineas) {
+    if (s["suceso"] == "caja") AnadirLineas(s["texto"].get<std::string>(), lineas);
+    if (s["suceso"] != "salida" && s["suceso"] != "grafico") return;
+    AnadirLineas(s["titulo"].get<std::string>(), lineas);
+    for (const char *campo : {"fijas", "lineas"})
+        if (s.contains(campo))
+            for (const json &l : s[campo])
+                AnadirLineas(l.is_array() ? l[1].get<std::string>() : l.get<std::string>(), lineas);
+}
+
+struct LoDicho {
+    std::vector<std::string> lineas;
+    bool falla = false; // a box that refuses something
+};
+
+// What the program says in answer to each block that is run. A dump of the store stands behind each, as a mark.
+std::vector<LoDicho> EjecutarCapitulo(const Capitulo &capitulo) {
+    const std::string carpeta = CarpetaNueva("tutorial");
+    std::vector<std::string> acciones = {"--json", "--seguir"};
+    const auto accion = [&](const char *nombre, const std::string &valor) {
+        if (!valor.empty()) acciones.insert(acciones.end(), {nombre, valor});
+    };
+    int n = 0;
+    for (const Bloque &b : capitulo.bloques) {
+        if (!b.SeEjecuta()) continue;
+        accion("--tipo", b.Atributo("tipo"));
+        accion("--importar", b.Atributo("datos"));
+        accion("--semilla", b.Atributo("semilla"));
+        if (b.clase == "tabira") {
+            std::string texto;
+            for (const std::string &l : b.lineas) texto += l + "\n";
+            const std::string fichero = carpeta + "/" + std::to_string(++n) + ".txt";
+            EscribirBytes(fichero, texto);
+            accion("--procesar", fichero);
+        }
+        std::istringstream partes(b.Atributo("lote"));
+        for (std::string p; partes >> p;) acciones.push_back(p);
+        acciones.push_back("--volcado");
+    }
+    const ResultadoCorrida corrida = Correr(acciones);
+    EXPECT_NE(corrida.estado, 2) << corrida.errores;
+    EXPECT_NE(corrida.estado, -1);
+    std::vector<LoDicho> r(1);
+    for (const json &s : Sucesos(corrida)) {
+        if (s["suceso"] == "volcado") r.emplace_back();
+        AnadirSuceso(s, r.back().lineas);
+        if (s["suceso"] == "parada" || (s["suceso"] == "caja" && s["titulo"] == "Proceso cancelado"))
+            r.back().falla = true;
+    }
+    r.pop_back(); // behind the last mark
+    return r;
+}
+
+// ---------------------------------------------------------------------------------------------------------------
+// Quotations
+
+// A number with its decimals; none when the whole word isn't one.
+struct Cifra {
+    double valor;
+    int decimales;
+};
+
+std::optional<Cifra> LeerCifra(const std::string &palabra) {
+    if (palabra.empty() || palabra.find_first_not_of("+-.0123456789") != palabra.npos) return {};
+    char *fin = nullptr;
+    const double valor = std::strtod(palabra.c_str(), &fin);
+    if (*fin != '\0') return {};
+    const std::size_t punto = palabra.find('.');
+    return Cifra{valor, punto == palabra.npos ? 0 : static_cast<int>(palabra.size() - punto - 1)};
+}
+
+// Both say the same number, to the decimals of the one that has fewer.
+bool SonIguales(const Cifra &a, const Cifra &b) {
+    const double paso = std::pow(10.0, -std::min(a.decimales, b.decimales));
+    return std::fabs(a.valor - b.valor) <= paso * (a.decimales == b.decimales ? 1e-3 : 0.501);
+}
+
+bool SonIguales(const std::string &citada, const std::string &dicha) {
+    if (citada == dicha) return true;
+    const auto a = LeerCifra(citada), b = LeerCifra(dicha);
+    return a && b && SonIguales(*a, *b);
+}
+
+bool SonIguales(const std::vector<std::string> &citada, const std::vector<std::string> &dicha) {
+    return citada.size() == dicha.size() &&
+           std::equal(citada.begin(), citada.end(), dicha.begin(),
+                      [](const std::string &a, const std::string &b) { return SonIguales(a, b); });
+}
+
+// Each line of the quotation is one of what was said, in its order; "..." only tells that lines are left out.
+void ComprobarCita(const Bloque &cita, const LoDicho &dicho) {
+    std::size_t desde = 0, comparadas = 0;
+    for (const std::string &l : cita.lineas) {
+        const std::vector<std::string> palabras = Palabras(l);
+        if (palabras.empty() || l == "...") continue;
+        while (desde < dicho.lineas.size() && !SonIguales(palabras, Palabras(dicho.lineas[desde]))) ++desde;
+        if (desde == dicho.lineas.size()) {
+            std::string todo;
+            for (const std::string &d : dicho.lineas) todo += d + "\n";
+            ADD_FAILURE() << "línea " << cita.linea << ", no se dijo: " << l << "\nSe dijo:\n" << todo;
+            return;
+        }
+        ++desde, ++comparadas;
+    }
+    EXPECT_GT(comparadas, 0u) << "línea " << cita.linea;
+}
+
+// The numbers of a text with three decimals or more.
+std::vector<std::string> CifrasLargas(const std::string &texto) {
+    std::vector<std::string> r;
+    std::string palabra;
+    for (const char c : texto + " ") {
+        if (c == '.' || (c >= '0' && c <= '9') || (c == '-' && palabra.empty())) {
+            palabra += c;
+            continue;
+        }
+        while (palabra.ends_with('.')) palabra.pop_back(); // of the sentence
+        if (const auto cifra = LeerCifra(palabra); cifra && cifra->decimales >= 3) r.push_back(palabra);
+        palabra = c == '-' ? "-" : "";
+    }
+    return r;
+}
+
+// A coefficient that the text repeats, or that it compares with a publication, is one that the program gave.
+void ComprobarProsa(const Capitulo &capitulo, const std::vector<LoDicho> &dicho) {
+    std::vector<Cifra> dichas;
+    for (const LoDicho &d : dicho)
+        for (const std::string &l : d.lineas)
+            for (const std::string &p : Palabras(l))
+                if (const auto cifra = LeerCifra(p)) dichas.push_back(*cifra);
+    for (const auto &[n, texto] : capitulo.prosa)
+        for (const std::string &citada : CifrasLargas(texto)) {
+            const Cifra c = *LeerCifra(citada);
+            EXPECT_TRUE(std::any_of(dichas.begin(), dichas.end(),
+                                    [&](const Cifra &d) {
+                                        return d.decimales >= std::min(3, c.decimales) &&
+                                               (SonIguales(c, d) || SonIguales({-c.valor, c.decimales}, d));
+                                    }))
+                << "línea " << n << ": " << citada;
+        }
+}
+
+// The entries of the menus, as a chapter writes them: "Util. > Importar de ASCII".
+std::string SinMnemonicos(std::string s) {
+    s.erase(std::remove(s.begin(), s.end(), '&'), s.end());
+    while (s.ends_with('.') || s.ends_with(' ')) s.pop_back();
+    return s;
+}
+
+std::set<std::string> EntradasDeMenu() {
+    std::set<std::string> r;
+    for (int i = 0; i < NumComandos; ++i) {
+        const Comando &c = TablaComandos[i];
+        if (c.menu == nullptr) continue;
+        std::string ruta = Utf8De1252(c.menu);
+        for (std::size_t p; (p = ruta.find('/')) != ruta.npos;) ruta.replace(p, 1, " > ");
+        // The point of a menu's name stays: only that of the entry's "..." goes.
+        ruta.erase(std::remove(ruta.begin(), ruta.end(), '&'), ruta.end());
+        r.insert(ruta + " > " + SinMnemonicos(Utf8De1252(c.entrada)));
+    }
+    return r;
+}
+
+// Every line of a block "menu" begins with an entry of the menus; what to write there stands behind a colon.
+void ComprobarMenu(const Bloque &b) {
+    static const std::set<std::string> entradas = EntradasDeMenu();
+    for (const std::string &l : b.lineas) {
+        if (l.starts_with(" ")) continue; // goes on with the line before
+        EXPECT_TRUE(entradas.contains(l.substr(0, l.find(':')))) << "línea " << b.linea << ": " << l;
+    }
+}
+
+class Tutorial : public testing::TestWithParam<CapituloEsperado> {};
+
+TEST_P(Tutorial, LoQueDiceElCapituloEsCierto) {
+    const CapituloEsperado &esperado = GetParam();
+    SCOPED_TRACE(esperado.fichero);
+    const Capitulo capitulo = LeerCapitulo(esperado.fichero);
+    const auto citados = static_cast<std::size_t>(std::count_if(
+        capitulo.bloques.begin(), capitulo.bloques.end(), [](const Bloque &b) { return !b.SeEjecuta(); }));
+    ASSERT_GE(capitulo.bloques.size() - citados, esperado.ejecutados);
+    ASSERT_GE(citados, esperado.citados);
+    ASSERT_NE(capitulo.bloques[0].Atributo("tipo"), "") << "no empieza por el tipo de datos";
+
+    const std::vector<LoDicho> dicho = EjecutarCapitulo(capitulo);
+    ASSERT_EQ(dicho.size(), capitulo.bloques.size() - citados);
+    std::size_t ejecutados = 0;
+    for (const Bloque &b : capitulo.bloques) {
+        if (b.clase == "menu") ComprobarMenu(b);
+        if (!b.SeEjecuta()) {
+            ComprobarCita(b, dicho[ejecutados - 1]);
+            continue;
+        }
+        const LoDicho &d = dicho[ejecutados++];
+        EXPECT_EQ(d.falla, b.Atributo("falla") == "si")
+            << "línea " << b.linea << ": " << (d.lineas.empty() ? "" : d.lineas.back());
+    }
+    ComprobarProsa(capitulo, dicho);
+}
+
+INSTANTIATE_TEST_SUITE_P(Capitulos, Tutorial, testing::ValuesIn(Capitulos), [](const auto &caso) {
+    const std::string fichero = caso.param.fichero;
+    return fichero.substr(0, fichero.find('.'));
+});
+
+// No chapter stands beside the list, so none is left untried.
+TEST(TutorialEntero, TodosLosCapitulosSePrueban) {
+    std::set<std::string> enLaCarpeta, enLaLista;
+    for (const auto &f : std::filesystem::directory_iterator(RutaDe("")))
+        if (f.path().extension() == ".md") enLaCarpeta.insert(f.path().filename().string());
+    for (const CapituloEsperado &c : Capitulos) enLaLista.insert(c.fichero);
+    EXPECT_EQ(enLaCarpeta, enLaLista);
+}
+
+// What a link to a chapter says behind "#": its title in small letters, with hyphens.
+std::string Ancla(std::string titulo) {
+    for (char &c : titulo) c = c == ' ' ? '-' : static_cast<char>(c >= 'A' && c <= 'Z' ? c + 'a' - 'A' : c);
+    titulo.erase(std::remove(titulo.begin(), titulo.end(), ','), titulo.end());
+    return "#" + titulo;
+}
+
+// The pictures that the chapters show are there, and the chapters that they name.
+TEST(TutorialEntero, LoEnlazadoExiste) {
+    std::set<std::string> anclas;
+    for (const CapituloEsperado &c : Capitulos)
+        for (const auto &[n, texto] : LeerCapitulo(c.fichero).prosa)
+            if (texto.starts_with("# ")) anclas.insert(Ancla(texto.substr(2)));
+    EXPECT_EQ(anclas.size(), std::size(Capitulos));
+    for (const CapituloEsperado &c : Capitulos)
+        for (const auto &[n, texto] : LeerCapitulo(c.fichero).prosa)
+            for (std::size_t i = 0; (i = texto.find("](", i)) != texto.npos; ++i) {
+                const std::string destino = texto.substr(i + 2, texto.find(')', i) - i - 2);
+                EXPECT_TRUE(anclas.contains(destino) || std::filesystem::exists(RutaDe(destino)))
+                    << c.fichero << ", línea " << n << ": " << destino;
+            }
+}
+
+// What compares the quotations tells a right one from a wrong one.
+TEST(TutorialEntero, LasCitasFalsasSeConocen) {
+    struct {
+        const char *citada, *dicha;
+        bool iguales;
+    } const casos[] = {
+        {"BENEF | 0.192934 | 0.091210 |", "          BENEF       0.192934       0.091210", true},
+        {"BENEF | 0.193 | 0.091 |", "          BENEF       0.192934       0.091210", true},
+        {"BENEF | 0.192 | 0.091 |", "          BENEF       0.192934       0.091210", false},
+        {"BENEF | 0.192935 | 0.091210 |", "          BENEF       0.192934       0.091210", false},
+        {"BENEF | 0.192934", "          BENEF       0.192934       0.091210", false},
+        {"SALARIOS | 0.192934 | 0.091210 |", "          BENEF       0.192934       0.091210", false},
+        {"14", "  14.0000 ", true},
+        {"15", "  14.0000 ", false},
+    };
+    for (const auto &c : casos) {
+        SCOPED_TRACE(c.citada);
+        EXPECT_EQ(SonIguales(Palabras(c.citada), Palabras(c.dicha)), c.iguales);
+    }
+    EXPECT_EQ(CifrasLargas("vale -0.1929, no 2.50 ni 1.2345."),
+              (std::vector<std::string>{"-0.1929", "1.2345"}));
+}
+
+} // namespace
