@@ -47,9 +47,19 @@ struct CapituloEsperado {
 };
 
 constexpr CapituloEsperado Capitulos[] = {
-    {"01_datos.md", 8, 6},
-    {"02_series.md", 12, 9},
-    {"03_muestra.md", 11, 9},
+    {"01_datos.md", 11, 7},
+    {"02_series.md", 13, 10},
+    {"03_muestra.md", 12, 11},
+    {"04_descriptiva.md", 14, 9},
+    {"05.md", 13, 0},
+    {"05_regresion.md", 13, 10},
+    {"06_restricciones.md", 12, 10},
+    {"07_heteroscedasticidad.md", 10, 6},
+    {"08.md", 11, 0},
+    {"08_autocorrelacion.md", 13, 9},
+    {"09_ponderada.md", 10, 8},
+    {"10_programas.md", 11, 6},
+    {"11_respuestas.md", 43, 25},
 };
 
 std::string RutaDe(const std::string &fichero) {
