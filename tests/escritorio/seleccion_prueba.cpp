@@ -47,8 +47,8 @@ TEST_F(Seleccion, Textos) {
         Abrir(*ventana, c.modo, {{c.titulo, [&](QDialog &d) {
                                       EXPECT_EQ(TextoDe(d, "textoDisponibles"), c.disponibles);
                                       EXPECT_EQ(TextoDe(d, "textoElegidas"), c.elegidas);
-                                      EXPECT_EQ(TextoDe(d, "Anadir"), "Añadir >>>>");
-                                      EXPECT_EQ(TextoDe(d, "Eliminar"), "<<<< Eliminar");
+                                      EXPECT_EQ(TextoDe(d, "Anadir"), "Añadi&r >>>>");
+                                      EXPECT_EQ(TextoDe(d, "Eliminar"), "<<<< &Eliminar");
                                       EXPECT_EQ(TextoDe(d, "Decimales"), "&Decimales");
                                       EXPECT_EQ(TextoDe(d, "OK"), "OK");
                                       EXPECT_EQ(LineasDe(d, "disponibles").size(), c.codigos);
