@@ -123,6 +123,7 @@ TEST_F(Contrastes, HipotesisNulaNumeroDeRestricciones) {
                        Pulsar(d, "SI");
                        EXPECT_EQ(Visibles(d), visibles) << numero;
                        EXPECT_EQ(Marcado(d), 1);
+                       EXPECT_EQ(d.focusWidget(), Hijo<QWidget>(d, "restriccion1")) << numero;
                    }
                    Escribir(d, "numero", "4");
                    Pulsar(d, "SI");

@@ -96,6 +96,7 @@ void DialogoHipotesisNula(Ventana *ventana, const DatosDialogo &) {
         MostrarRestricciones(d.ventana(), valores, De1252Q(d.ui.numero->text()));
         MostrarFilas(filas, valores.visibles);
         d.Ajustar();
+        if (valores.visibles > 0) filas[0].texto->setFocus(); // what comes next is written there
     });
     const auto anadir = [&] { AnadirSimboloElegido(*d.ui.simbolos, filas); };
     QObject::connect(d.ui.Anadir, &QPushButton::clicked, &d.dialogo, anadir);
