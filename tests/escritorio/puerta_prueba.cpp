@@ -115,6 +115,22 @@ TEST_F(Puerta, ElegirArchivo) {
     EXPECT_EQ(ruta, "antes");
 }
 
+// A folder that is gone isn't offered as the name of a file.
+TEST_F(Puerta, ElegirArchivoSinSuCarpeta) {
+    const std::string ida = EnDocumentos("ida/y vuelta").toStdString();
+    std::string ruta;
+    ConGuion({{"Guardar",
+               [](QDialog &d) {
+                   EXPECT_EQ(Hijo<QLineEdit>(d, "fileNameEdit")->text(), QString());
+                   EXPECT_EQ(qobject_cast<QFileDialog *>(&d)->directory(), QDir::home());
+                   d.reject();
+               }}},
+             [&] {
+                 EXPECT_FALSE(ElegirArchivo(AVentana(ventana.get()),
+                                            {true, "Guardar", Formatos, "", false, ida}, ruta));
+             });
+}
+
 // A file that is there is replaced only after a question, which leads back to the chooser.
 TEST_F(Puerta, ElegirArchivoQueYaExiste) {
     QFile hay(EnDocumentos("hay.txt"));

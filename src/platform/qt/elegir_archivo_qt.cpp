@@ -4,6 +4,7 @@
 #include "platform/qt/texto_qt.h"
 #include "platform/qt/ventana_qt.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -23,22 +24,27 @@ QString ConTerminacion(const QString &ruta, std::span<const FormatoArchivo> form
                    : ruta + u'.' + QLatin1String(formatos[static_cast<std::size_t>(elegido)].terminacion);
 }
 
+// The folder in which the chooser begins. The last part of one that isn't there would become the name of a file: no
+// user has made a folder of documents yet, or the last one went with its disk.
+QString CarpetaInicial(std::string_view pedida) {
+    const QString carpeta =
+        pedida.empty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                       : QString::fromLocal8Bit(pedida.data(), static_cast<qsizetype>(pedida.size()));
+    return QDir(carpeta).exists() ? carpeta : QDir::homePath();
+}
+
 } // namespace
 
 bool ElegirArchivoQt(Ventana *ventana, const PeticionArchivo &peticion, std::string &ruta) {
     QStringList filtros;
     for (const FormatoArchivo &f : peticion.formatos) filtros << QDe1252(f.filtro);
-    const QString carpeta = peticion.carpeta.empty()
-                                ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
-                                : QString::fromLocal8Bit(peticion.carpeta.data(),
-                                                         static_cast<qsizetype>(peticion.carpeta.size()));
-    QFileDialog dialogo(DeVentana(ventana), QDe1252(peticion.titulo), carpeta,
+    QFileDialog dialogo(DeVentana(ventana), QDe1252(peticion.titulo), CarpetaInicial(peticion.carpeta),
                         filtros.join(QStringLiteral(";;")));
     dialogo.setAcceptMode(peticion.guardar ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     if (!peticion.guardar) dialogo.setFileMode(QFileDialog::ExistingFile);
     dialogo.setOption(QFileDialog::DontConfirmOverwrite); // the name isn't whole yet when it would look
     dialogo.selectFile(QDe1252(peticion.nombre));
-    dialogo.resize(DentroDeLaPantalla(dialogo, dialogo.sizeHint()));
+    dialogo.resize(DentroDeLaPantalla(dialogo, dialogo.sizeHint() * 4 / 3)); // all columns are read
     while (Modal(dialogo) == QDialog::Accepted && !dialogo.selectedFiles().isEmpty()) {
         QString elegida = dialogo.selectedFiles().constFirst();
         if (peticion.guardar) {
