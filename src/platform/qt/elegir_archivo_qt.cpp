@@ -7,7 +7,10 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
+#include <QSplitter>
 #include <QStandardPaths>
+#include <QTreeView>
 
 #include <algorithm>
 
@@ -44,7 +47,12 @@ bool ElegirArchivoQt(Ventana *ventana, const PeticionArchivo &peticion, std::str
     if (!peticion.guardar) dialogo.setFileMode(QFileDialog::ExistingFile);
     dialogo.setOption(QFileDialog::DontConfirmOverwrite); // the name isn't whole yet when it would look
     dialogo.selectFile(QDe1252(peticion.nombre));
-    dialogo.resize(DentroDeLaPantalla(dialogo, dialogo.sizeHint() * 4 / 3)); // all columns are read
+    dialogo.resize(DentroDeLaPantalla(dialogo, dialogo.sizeHint() * 4 / 3));
+    // The toolkit's own chooser, which not every desktop shows, cuts its columns and the user's places.
+    if (auto *archivos = dialogo.findChild<QTreeView *>(QStringLiteral("treeView")); archivos != nullptr)
+        archivos->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    if (auto *partes = dialogo.findChild<QSplitter *>(QStringLiteral("splitter")); partes != nullptr)
+        partes->setSizes({dialogo.width() / 5, dialogo.width() * 4 / 5});
     while (Modal(dialogo) == QDialog::Accepted && !dialogo.selectedFiles().isEmpty()) {
         QString elegida = dialogo.selectedFiles().constFirst();
         if (peticion.guardar) {
