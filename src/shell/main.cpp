@@ -11,9 +11,10 @@ int main(int numArgumentos, char **argumentos) {
     const QApplication aplicacion(numArgumentos, argumentos);
     PrepararAplicacion();
     PrepararEscritorio();
-    VentanaPrincipal ventana;
-    ventana.showMaximized();
     IniciarPrograma();
-    IniciarCopias(AVentana(&ventana));
+    VentanaPrincipal ventana;
+    // What it may ask stands in the middle of the window, which has its place and size only by then.
+    ventana.TrasLaPortada = [&ventana] { IniciarCopias(AVentana(&ventana)); };
+    ventana.showMaximized();
     return QApplication::exec();
 }

@@ -123,6 +123,12 @@ TEST_F(Cierre, EscapeEsCancelar) {
 TEST_F(Cierre, PortadaUnaVez) {
     TestigoDePortada testigo;
     qApp->installEventFilter(&testigo);
+    int despues = 0;
+    ventana->TrasLaPortada = [&] {
+        ++despues;
+        EXPECT_TRUE(ventana->isMaximized());
+        EXPECT_EQ(ventana->findChild<QLabel *>(QStringLiteral("imagen")), nullptr);
+    };
     ventana->showMaximized();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(ventana.get()));
     EXPECT_TRUE(QTest::qWaitFor([&] { return testigo.pintadas > 0; }));
@@ -138,6 +144,7 @@ TEST_F(Cierre, PortadaUnaVez) {
     ventana->update();
     QTest::qWait(100);
     EXPECT_EQ(testigo.pintadas, pintadas);
+    EXPECT_EQ(despues, 1);
     qApp->removeEventFilter(&testigo);
 }
 

@@ -124,7 +124,10 @@ void VentanaPrincipal::paintEvent(QPaintEvent *suceso) {
     if (!isMaximized()) QTimer::singleShot(0, this, &QWidget::showMaximized);
     if (PortadaMostrada) return;
     PortadaMostrada = true;
-    QTimer::singleShot(0, this, &VentanaPrincipal::MostrarPortada);
+    QTimer::singleShot(0, this, [this] {
+        MostrarPortada();
+        if (TrasLaPortada) TrasLaPortada();
+    });
 }
 
 void VentanaPrincipal::MostrarPortada() {

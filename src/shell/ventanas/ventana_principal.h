@@ -6,6 +6,8 @@
 
 #include "platform/plataforma.h"
 
+#include <functional>
+
 class VentanaEditor;
 
 class VentanaPrincipal : public QMainWindow {
@@ -15,7 +17,8 @@ public:
 
     VentanaEditor *EditorDatos; // of the series and the matrices; hidden but while one of them is edited
     QPlainTextEdit *PantallaEdicion;
-    bool Destruida = false; // the closing sequence ended: the window goes without asking again
+    bool Destruida = false;              // the closing sequence ended: the window goes without asking again
+    std::function<void()> TrasLaPortada; // once, when the window stands on the screen; may be empty
 
 protected:
     void closeEvent(QCloseEvent *suceso) override;
