@@ -197,6 +197,10 @@ TEST_F(Estimaciones, Ecuaciones) {
                    Pulsar(d, "alta");
                    EXPECT_EQ(LineasDe(d, "codigosEcuacion"), (Lineas{"UNA", "DOS Y DOS SO"}));
                    EXPECT_EQ(LineasDe(d, "textosEcuacion"), (Lineas{"Y 1 X", "Y X"}));
+                   auto *codigos = Hijo<QListWidget>(d, "codigosEcuacion");
+                   codigos->setFocus(Qt::TabFocusReason);
+                   QTest::keyClick(codigos, Qt::Key_Down); // to the first, not behind it
+                   EXPECT_EQ(codigos->currentRow(), 0);
                    DobleClic(d, "codigosEcuacion", 0);
                    EXPECT_EQ(TextoDe(d, "codigoEcuacion"), "UNA");
                    EXPECT_EQ(TextoDe(d, "ecuacion"), "Y 1 X");

@@ -40,12 +40,15 @@ ValoresMC LeerValores(const Formulario &d, int metodo) {
 }
 
 void MostrarEcuaciones(const Formulario &d) {
+    std::vector<std::string> codigos, textos;
+    for (int e = 0; e < TablaEcuaciones.numero; ++e) {
+        codigos.push_back(CodigoDeEcuacion(e));
+        textos.push_back(TextoDeEcuacion(e));
+    }
     d.ui.codigosEcuacion->clear();
     d.ui.textosEcuacion->clear();
-    for (int e = 0; e < TablaEcuaciones.numero; ++e) {
-        d.ui.codigosEcuacion->addItem(QDe1252(CodigoDeEcuacion(e)));
-        d.ui.textosEcuacion->addItem(QDe1252(TextoDeEcuacion(e)));
-    }
+    PonerLineas(*d.ui.codigosEcuacion, codigos);
+    PonerLineas(*d.ui.textosEcuacion, textos);
 }
 
 // The four lists, and the buttons that do what they do.

@@ -51,6 +51,7 @@ void AbreAyuda(QDialog &dialogo, QPushButton &boton, int pagina) {
 
 void PonerLineas(QListWidget &lista, const std::vector<std::string> &lineas) {
     for (const std::string &linea : lineas) lista.addItem(QDe1252(linea));
+    lista.setCurrentIndex({}); // a list that was cleared would take its first line for the current one again
 }
 
 QAction *EntradaDeMenu(QDialog &dialogo, const char *texto, const std::function<void()> &hacer) {

@@ -32,7 +32,7 @@ int BotonElegido(std::initializer_list<const QAbstractButton *> botones);
 // A click on the button opens a page of the manual above the dialog.
 void AbreAyuda(QDialog &dialogo, QPushButton &boton, int pagina);
 
-// Adds lines to a list. Windows-1252.
+// Adds lines to a list; none is the current one until the user goes there. Windows-1252.
 void PonerLineas(QListWidget &lista, const std::vector<std::string> &lineas);
 
 // An entry of the menu bar of the dialog, behind those that stand there; the first one brings the bar. Windows-1252, with
