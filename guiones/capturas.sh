@@ -1,79 +1,113 @@
 #!/usr/bin/env bash
-# Takes the pictures of docs/capturas/: the program as a user sees it, in a display of its own, at 100 % and 200 %. It takes
-# the program of ./ejecutar.sh and the tests of ./probar.sh, which picture the dialogs that no command opens yet.
-#   guiones/capturas.sh [PROGRAM]      default: build/entrega/src/shell/tabira
+# Takes the pictures of docs/capturas/: the program as a user sees it, in a display of its own, at 100 % and 200 %, driven by
+# its keyboard alone but for what a chart does with the mouse. It takes the programs of ./ejecutar.sh. Each subject is a file
+# guiones/capturas_SUBJECT.sh; with all of them it also writes the table of docs/capturas/README.md.
+#   [ESCALAS=1] guiones/capturas.sh [PROGRAM [SUBJECT...]]      default: build/entrega/src/shell/tabira, all subjects
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source guiones/preparar.sh
 source guiones/pantalla.sh
+TEMAS=(trabajo datos estimacion contrastes analisis graficos ayuda)
+temas=("${@:2}")
+[ ${#temas[@]} -gt 0 ] || temas=("${TEMAS[@]}")
+for tema in "${temas[@]}"; do source "guiones/capturas_$tema.sh"; done
 destino=$PWD/docs/capturas
 mkdir -p "$destino"
 preparar_pantalla "${1:-}"
-pruebas=build/desarrollo/tests/escritorio/pruebas_escritorio
-[ -x "$pruebas" ] || rendirse "falta $pruebas: ejecute antes ./probar.sh"
-hechas=0
-captura() {
-    sleep 0.5
-    import -window root "$destino/$1$sufijo.png"
-    hechas=$((hechas + 1))
-}
+sin_ventanas=$(dirname "$programa")/../lote/tabira-lote
+[ -x "$sin_ventanas" ] || rendirse "falta $sin_ventanas: ejecute antes ./ejecutar.sh"
 
-tipos_de_datos() { # every kind and its dialogs
-    teclas alt+d t alt+s Return; captura observaciones; teclas Escape
-    teclas alt+t Return; escribir 1990.1; teclas Tab; escribir 2005.4; captura periodos_trimestrales; teclas Escape
-    teclas alt+m Return; escribir 1990.01; teclas alt+f; escribir 2005.12; captura periodos_mensuales; teclas Escape
-    teclas alt+p Return; captura panel
-    teclas alt+d; escribir 3; teclas alt+i; escribir 1990; teclas alt+f; escribir 1999; captura panel_constante; teclas Escape
-    teclas alt+v alt+d; escribir 1990; teclas alt+i; escribir 3; teclas alt+a; escribir 1991; teclas Tab; escribir 2
-    teclas alt+a; captura panel_periodos; teclas Escape
-    teclas alt+i alt+d; escribir 1; teclas alt+a; escribir 1990; teclas alt+r; escribir 1991; teclas alt+r
-    captura panel_individuos; teclas Escape
-    teclas alt+t; escribir 1; teclas Tab; escribir Peñón; teclas alt+a; escribir 2; teclas Tab; escribir Vega; teclas alt+a
-    captura panel_etiquetas; teclas Escape Escape Escape
-}
-trabajo() { # a data type, statements, a report
-    teclas alt+d t; captura tipos_datos
-    teclas alt+a Return; sleep 0.4; escribir 1990; teclas Tab; escribir 2005; captura periodos
-    teclas Return; sleep 0.4
-    escribir '; Una tendencia con un choque en 1999' 'SER T = TEND' 'SER X = T + POT(T ,2) / 10' \
-        'SER Y = 3 + 2 * X' 'OBS Y[1999] = 60' 'MAT M = {1 X T}' 'MC Y 1 X T'
-    captura ventana_principal
-    teclas ctrl+a alt+p p; sleep 0.5; captura pregunta
-    teclas Return; sleep 0.5; captura informe
-    teclas shift+F10; captura informe_menu; teclas Escape Escape; sleep 0.3
-    teclas alt+d r; captura relacion_series; teclas Escape
-    teclas alt+d d; captura relacion_matrices; teclas Escape
-    teclas alt+d l; captura relacion_escalares; teclas Escape
-    teclas alt+d m m Return; captura muestra_actual; teclas Escape
-    teclas alt+p m; captura muestra; teclas Escape
-    teclas alt+t Up Return; captura ultima_regresion; teclas Escape
-    teclas alt+d t Tab space Return; captura aviso_de_perdida; teclas Return Escape Escape
-}
-ayuda() {
-    teclas alt+y r; captura ayuda_reglas; teclas Return; captura ayuda_reglas_2; teclas Escape
-    teclas alt+y t; captura ayuda_series; teclas Escape
-    teclas alt+y n; captura ayuda_control; teclas Escape
-    teclas alt+y a; captura acerca_de; teclas Escape
-    teclas alt+c o; captura no_ensamblada; teclas Escape
-}
+# Work files, for the programs that begin with data, where the choosers of files look.
+trabajos=$temporal/Documents
+mkdir "$trabajos" "$temporal/tomas"
+"$sin_ventanas" --tipo anual:1920:1941 --importar ejemplos/klein.csv --sentencia 'SER SALARIOS = SALPRIV + SALPUB' \
+    --sentencia 'MAT M = {CONSUMO BENEF}' --sentencia 'ESC MEDIO = MEDSER(CONSUMO)' --guardar "$trabajos/KLEIN.TR2" >/dev/null
+"$sin_ventanas" --tipo trimestral:1990.1:2005.4 --sentencia 'SER X = TEND * TEND / 20' \
+    --sentencia 'SER Y = X + (10 * LN(TEND))' --guardar "$trabajos/TRIM.TR2" >/dev/null
 
-for escala in 1 2; do
-    sufijo=$([ "$escala" = 1 ] || echo _200)
-    decir "Capturas al $((escala * 100)) %"
-    abrir_pantalla $((1024 * escala)) $((768 * escala))
+"$sin_ventanas" --tipo sin --importar ejemplos/norris.csv --guardar "$trabajos/NORRIS.TR2" >/dev/null
+
+# Starts the program anew, until its window stands.
+abrir_programa() {
+    terminar
     QT_SCALE_FACTOR=$escala "$programa" 2>/dev/null &
+    proceso=$!
+    sleep 1.5
     activar
-    sleep 2
-    activar
-    teclas alt+p p; captura sin_tipo; teclas Return
-    tipos_de_datos
-    trabajo
-    ayuda
-    teclas alt+F4; captura cierre
+}
+# The same; with a name, with that work.
+empezar() { # [NAME]
+    abrir_programa
+    esperar Tabira
+    [ $# -eq 0 ] || { abrir "Abrir archivo de trabajo" alt+a a; escribir "$trabajos/$1.TR2"; abrir "Tabira: $1" Return; }
+}
+# Closes what is open before the main window.
+volver() {
+    local i
+    for ((i = 0; i < 10; ++i)); do
+        [[ $(xdotool getactivewindow getwindowname 2>/dev/null) != Tabira* ]] || return 0
+        teclas Escape
+        sleep 0.4
+    done
+    rendirse 'no se vuelve a la ventana principal'
+}
+proceso=
+terminar() {
+    [ -n "$proceso" ] || return 0
+    kill "$proceso"
+    wait "$proceso" 2>/dev/null || true
+    proceso=
+    rm -rf "$temporal/.local" # what is offered to the next start after an end of this kind
+}
+procesar() { # LINE...: the statements, alone in the edit screen
+    teclas ctrl+a Delete
+    escribir "$@"
+    teclas ctrl+a alt+p p
+    sleep 0.4
+}
+estimar() { # EQUATION: by the dialog, which the restricted model and the listings ask for
+    abrir 'Mínimos cuadrados ordinarios' alt+t m
+    escribir "$1"
+    teclas Return
+    sleep 0.4
+    volver
+}
+pulsar() { # X Y: the left button of the mouse, at the place of 100 %
+    xdotool mousemove $(($1 * escala)) $(($2 * escala)) click 1
+    xdotool mousemove 0 0
+}
+seccion() { # TITLE: heads the pictures that follow in the table
+    [ "$escala" = 2 ] || printf '\n## %s\n\n| | 100 %% | 200 %% |\n|---|---|---|\n' "$1" >>"$temporal/tabla"
+}
+# What stands on the screen; with a title, once the window with the keyboard bears it.
+captura() { # NAME CAPTION [TITLE]
+    [ $# -lt 3 ] || esperar "$3"
+    sleep 0.4
+    import -window root -quality 10 "$temporal/tomas/$1$sufijo.png"
+    [ "$escala" = 2 ] || echo "| $2 | ![$2]($1.png) | ![$2, al 200 %]($1_200.png) |" >>"$temporal/tabla"
+}
+# A palette is plenty for windows, and a third of the size.
+guardar_capturas() {
+    local f
+    for f in "$temporal"/tomas/*.png; do
+        [ -f "$f" ] || continue
+        convert "$f" +dither -colors 64 -strip -define png:compression-level=9 "PNG8:$destino/$(basename "$f")"
+        rm "$f"
+    done
+}
+
+for escala in ${ESCALAS:-1 2}; do
+    sufijo=$([ "$escala" = 1 ] || echo _200)
+    abrir_pantalla $((1024 * escala)) $((768 * escala))
+    for tema in "${temas[@]}"; do
+        decir "Capturas al $((escala * 100)) %: $tema"
+        "capturas_$tema"
+        terminar
+        guardar_capturas
+    done
     cerrar_pantalla
-    TABIRA_CAPTURAS=$temporal QT_SCALE_FACTOR=$escala "$pruebas" --gtest_filter=Ajuste.ConLasLetrasDelUsuario >/dev/null
-    mv "$temporal/FormatoDecimal.png" "$destino/decimales$sufijo.png"
-    mv "$temporal/Seleccion.png" "$destino/seleccion$sufijo.png"
-    hechas=$((hechas + 2))
 done
-decir "Hechas: $hechas en docs/capturas/"
+[ "${temas[*]} en ${ESCALAS:-todas}" != "${TEMAS[*]} en todas" ] || {
+    printf '# Las ventanas de Tabira\n\nHechas por `guiones/capturas.sh`, al 100 %% y al 200 %%.\n'
+    cat "$temporal/tabla"
+} >"$destino/README.md"
