@@ -133,14 +133,13 @@ TEST_F(Seleccion, DecimalesDeLoImpreso) {
 
 // With the keys alone: down to the entry, Tab to the button, Space as often as there are entries.
 TEST_F(Seleccion, ConElTeclado) {
-    Abrir(
-        *ventana, SeleccionDeSeries,
-        {{DeSeries, [](QDialog &d) {
-              Activar(d);
-              const auto tecla = [](Qt::Key k) { QTest::keyClick(QApplication::focusWidget(), k); };
-              for (const Qt::Key k : {Qt::Key_Down, Qt::Key_Tab, Qt::Key_Space, Qt::Key_Space}) tecla(k);
-              EnListas(d, {"C"}, {"A", "B"});
-              tecla(Qt::Key_Escape);
-              EXPECT_FALSE(d.isVisible());
-          }}});
+    Abrir(*ventana, SeleccionDeSeries,
+          {{DeSeries, [](QDialog &d) {
+                Activar(d);
+                const auto tecla = [](Qt::Key k) { QTest::keyClick(QApplication::focusWidget(), k); };
+                for (const Qt::Key k : {Qt::Key_Down, Qt::Key_Tab, Qt::Key_Space, Qt::Key_Space}) tecla(k);
+                EnListas(d, {"C"}, {"A", "B"});
+                tecla(Qt::Key_Escape);
+                EXPECT_FALSE(d.isVisible());
+            }}});
 }
