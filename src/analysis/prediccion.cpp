@@ -198,7 +198,7 @@ int Evaluar(Trabajo &t) {
     EstadoPrediccion &p = Prediccion;
     if (PrepararColumnas(t) == 0) return 0;
     if (p.modoEvaluacion != EvaluarOriginales && CompararConAnterior(t) == 0) return 0;
-    const std::size_t m = static_cast<std::size_t>(p.finPred - p.inicioPred + 1);
+    const std::size_t m = static_cast<std::size_t>(p.finPred - p.inicioPred) + 1;
     p.medidas = MedirPrediccion({p.prediccionEval + p.inicioPred, m}, {p.observacionEval + p.inicioPred, m});
     p.evaluada = true;
     return 1;

@@ -70,6 +70,7 @@ protected:
 template <class Formulario> struct DialogoConFormulario {
     QDialog dialogo;
     Formulario ui;
+    CampoSinAlt filtro;
 
     explicit DialogoConFormulario(Ventana *ventana) : dialogo(DeVentana(ventana)) {
         ui.setupUi(&dialogo);
@@ -83,8 +84,7 @@ template <class Formulario> struct DialogoConFormulario {
         // Without this a list would take its first line for the current one, though nobody chose it, and the first key
         // Down would leave that line behind.
         for (auto *lista : dialogo.findChildren<QListWidget *>()) lista->setCurrentIndex({});
-        auto *filtro = new CampoSinAlt(&dialogo);
-        for (auto *campo : dialogo.findChildren<QLineEdit *>()) campo->installEventFilter(filtro);
+        for (auto *campo : dialogo.findChildren<QLineEdit *>()) campo->installEventFilter(&filtro);
         if (auto *cancela = dialogo.template findChild<QPushButton *>(QStringLiteral("Cancela")))
             QObject::connect(cancela, &QPushButton::clicked, &dialogo, &QDialog::reject);
     }
