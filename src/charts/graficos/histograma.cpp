@@ -33,6 +33,7 @@ int AbrirGraficoDelHistograma(Ventana *ventana) {
 std::vector<double> PartesIguales(double minimo, double maximo, int clases) {
     if (maximo == minimo) maximo = MaximoSeparado(minimo);
     std::vector<double> limites;
+    limites.reserve(static_cast<std::size_t>(std::max(clases, 0)) + 1);
     for (int i = 0; i < clases; ++i) limites.push_back(minimo + i * ((maximo - minimo) / clases));
     limites.push_back(maximo); // the steps may add up to less, and the greatest value would count nowhere
     return limites;
@@ -104,7 +105,7 @@ bool ContarHistograma(const OpcionesHistograma &opciones, std::string_view codig
     AcotarFilas(primera, ultima);
     std::vector<double> valores = ValoresDeSerie(codigo, primera, ultima);
     if (valores.empty()) return false;
-    valores.resize(static_cast<std::size_t>(ultima - primera + 1));
+    valores.resize(static_cast<std::size_t>(ultima - primera) + 1);
     histograma = {};
     Grafico &g = histograma.grafico;
     g = GraficoNuevo(GraficoHistograma, static_cast<int>(valores.size()));
