@@ -83,8 +83,8 @@ int LugaresEscritos() {
 }
 
 bool EscribirCabecera(BaseDeTablas *t, int filas, int lugares) {
-    const CabeceraArchivo &a = ArchivoTrabajo;
-    return EscribirTabla(t, TablaCabecera, 1, [&](FilasDeTabla *f, int) {
+    return EscribirTabla(t, TablaCabecera, 1, [=](FilasDeTabla *f, int) {
+        const CabeceraArchivo &a = ArchivoTrabajo;
         PonerTexto(f, 0, Campo(a.NombreProyecto));
         PonerEntero(f, 1, a.TipoDatos);
         PonerTexto(f, 2, Campo(a.TextoIntervalo));
@@ -177,11 +177,11 @@ bool EscribirPanel(BaseDeTablas *t) {
     const int entradas =
         !variable ? std::max(p.NumEntradas, 0)
                   : std::clamp<int>(p.NumEntradas, 0, individuos ? MaxIndividuosEtiqueta : MaxPeriodosPanel);
-    const auto ponerPanel = [&](FilasDeTabla *f, int) {
-        PonerEntero(f, 0, p.FormaPanel);
-        PonerEntero(f, 1, p.PrimerConcepto);
+    const auto ponerPanel = [=](FilasDeTabla *f, int) {
+        PonerEntero(f, 0, DescripcionPanel.FormaPanel);
+        PonerEntero(f, 1, DescripcionPanel.PrimerConcepto);
         PonerEntero(f, 2, entradas);
-        PonerEntero(f, 3, p.TipoPeriodoPanel);
+        PonerEntero(f, 3, DescripcionPanel.TipoPeriodoPanel);
     };
     const auto ponerEtiqueta = [&](FilasDeTabla *f, int i) {
         PonerEntero(f, 0, i + 1);

@@ -27,7 +27,7 @@ int BuscarUltimaSerie(std::string_view linea) {
 // before. Which of equal values comes first hangs on the exchanges between them, so this is the very sequence of
 // exchanges, over the keys and the numbers of the rows alone.
 std::vector<int> OrdenPorIntercambios(int serie, FilasDeMuestra filas, bool descendente) {
-    const auto n = static_cast<std::size_t>(filas.fin - filas.inicio + 1);
+    const auto n = static_cast<std::size_t>(filas.fin - filas.inicio) + 1;
     std::vector<int> orden(n);
     std::iota(orden.begin(), orden.end(), filas.inicio);
     std::vector<double> claves(n);
@@ -97,6 +97,7 @@ bool EliminarObservacion(Ventana *ventana, int observacion) {
 
 std::vector<std::string> SeriesParaOrdenar() {
     std::vector<std::string> lineas;
+    lineas.reserve(ArchivoTrabajo.NumSeries);
     for (int s = 0; s < ArchivoTrabajo.NumSeries; ++s) lineas.emplace_back(ArchivoTrabajo.Codigos[s]);
     return lineas;
 }
