@@ -8,7 +8,8 @@
 #include "store/archivo.h"
 
 #include <algorithm>
-#include <cstring>
+#include <bit>
+#include <cstdint>
 #include <iterator>
 #include <vector>
 
@@ -70,7 +71,7 @@ bool CalcularConPasos(const std::vector<PasoNivel> &pasos, int serie, std::strin
 }
 
 bool MismosBits(double a, double b) {
-    return std::memcmp(&a, &b, sizeof a) == 0;
+    return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
 }
 
 } // namespace
