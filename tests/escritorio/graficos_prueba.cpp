@@ -22,7 +22,6 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QRadioButton>
-#include <QStatusBar>
 #include <QTimer>
 
 namespace {
@@ -244,7 +243,7 @@ TEST_F(Graficos, ImprimirDesdeLaVentana) {
     Grafico g = DeSeries();
     EnVentana(g, [&](QDialog &d, QWidget &) {
         Entrada(d, "Imprimir");
-        EXPECT_NE(d.findChild<QStatusBar *>()->currentMessage(), QString()); // where the document went
+        EXPECT_NE(TextoDe(d, "lugarDeImpresion"), ""); // where the document went
     });
 }
 
@@ -399,7 +398,7 @@ TEST_F(Graficos, ElegirSeries) {
                    Pulsar(d, "OK");
                    EXPECT_TRUE(d.isVisible()); // open for another try
                    Entrada(d, "Imprimir");
-                   EXPECT_NE(d.findChild<QStatusBar *>()->currentMessage(), QString());
+                   EXPECT_NE(TextoDe(d, "lugarDeImpresion"), "");
                    Pulsar(d, "Cancela");
                }},
               Caja("Aviso", "No se ha introducido ninguna serie válida"),

@@ -3,6 +3,7 @@
 #include "apoyo_pdf.h"
 
 #include "apoyo/datos_csv.h"
+#include "charts/resultados/formatos_tabla.h"
 #include "charts/resultados/ventanas/guardar_resultado.h"
 #include "platform/qt/superficie_qt.h"
 #include "platform/texto.h"
@@ -16,6 +17,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QImage>
+#include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
 #include <QMenu>
@@ -23,7 +25,6 @@
 #include <QRegularExpression>
 #include <QScreen>
 #include <QScrollBar>
-#include <QStatusBar>
 #include <QTimer>
 
 #include <clocale>
@@ -384,14 +385,14 @@ TEST_F(Resultado, ImprimirSinImpresora) {
         QTest::keyClick(&area, Qt::Key_C, Qt::ControlModifier);
         texto = QApplication::clipboard()->text();
         auto *imprimir = Hijo<QAction>(d, "comando2006");
-        auto *alPie = d.findChild<QStatusBar *>();
+        auto *alPie = Hijo<QLabel>(d, "lugarDeImpresion");
         ASSERT_NE(alPie, nullptr);
         EXPECT_FALSE(alPie->isVisible());
         for (int i = 0; i < 3; ++i) imprimir->trigger();
         EXPECT_TRUE(d.isVisible());
         EXPECT_TRUE(alPie->isVisible()); // the main window's line may be covered
-        EXPECT_TRUE(alPie->currentMessage().contains(documentos.path()))
-            << alPie->currentMessage().toStdString();
+        EXPECT_TRUE(QString(alPie->text()).remove(QChar(0x200B)).contains(documentos.path()))
+            << alPie->text().toStdString();
     });
     const QString nota = QString::fromStdString(testing::internal::GetCapturedStderr());
     const QStringList escritos = documentos.entryList({QStringLiteral("*.pdf")});

@@ -1,6 +1,7 @@
 // The windows of the tests and the analyses: the result window in its other shapes.
 #include "apoyo_escritorio.h"
 
+#include "charts/resultados/formatos_tabla.h"
 #include "charts/resultados/ventanas/guardar_resultado.h"
 #include "charts/resultados/ventanas/ventana_resultado_qt.h"
 #include "platform/qt/superficie_qt.h"

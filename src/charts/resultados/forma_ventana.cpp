@@ -10,6 +10,7 @@ namespace {
 
 constexpr int AnchoBloque = 70;
 constexpr int ColumnasFueraDelBloque = 7;
+constexpr int MargenesDelBloque = 2; // a character on each side
 
 constexpr FormaVentana FormaDeInforme = {SalidaRegresion,
                                          0,
@@ -67,4 +68,8 @@ const FormaVentana &FormaDe(const SalidaResultado &salida) {
 
 int ColumnasAlAbrir(const FormaVentana &forma) {
     return forma.columnas + ColumnasFueraDelBloque;
+}
+
+int ColumnasMinimas(const FormaVentana &forma) {
+    return forma.columnas + MargenesDelBloque;
 }

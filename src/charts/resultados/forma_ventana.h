@@ -36,3 +36,6 @@ const FormaVentana &FormaDe(const SalidaResultado &salida);
 
 // Width of the client area when the window opens, in characters.
 int ColumnasAlAbrir(const FormaVentana &forma);
+
+// The least width of the client area that shows the block whole.
+int ColumnasMinimas(const FormaVentana &forma);

@@ -163,7 +163,11 @@ void PintarResultado(Superficie &s, EstadoVentanaResultado &estado, const Salida
     const int limite = forma.topeBarra > 0 ? s.alto - s.altoLinea - MargenInferior : s.alto;
     BloqueTexto bloque = BloqueDe(forma, s, s.altoLinea, limite);
     bloque.filasVacias = forma.filasVacias;
-    PintarBloque(s, bloque, salida, estado.LineaInicial, estado.Fila);
+    estado.LineaDetras = PintarBloque(s, bloque, salida, estado.LineaInicial, estado.Fila);
+}
+
+int LineasPorDebajo(const EstadoVentanaResultado &estado, const SalidaResultado &salida) {
+    return std::max(NumeroDeLineas(salida) - estado.LineaDetras, 0);
 }
 
 void DesplazarResultado(EstadoVentanaResultado &estado, const SalidaResultado &salida, Desplazamientos que,

@@ -12,6 +12,7 @@ struct EstadoVentanaResultado {
     int LineaInicial; // first line shown, 0 to the last line
     int Fila;         // rows used in this paint: lines and rules
     int anchoCaracter, altoLinea; // of the device of the last paint
+    int LineaDetras = 0;          // the one behind the last line drawn in this paint
 };
 
 // True when a rule is drawn behind the line (from 0): the next one is of another kind, and not both are among the last
@@ -37,8 +38,12 @@ BloqueTexto BloqueDe(const FormaVentana &forma, const Superficie &s, int superio
 int PintarBloque(Superficie &s, const BloqueTexto &bloque, const SalidaResultado &salida, int desde,
                  int &filas);
 
-// Paints the whole window; `estado` gives the first line and receives Fila and the metrics.
+// Paints the whole window; `estado` gives the first line and receives Fila, LineaDetras and the
+// metrics.
 void PintarResultado(Superficie &s, EstadoVentanaResultado &estado, const SalidaResultado &salida);
+
+// Lines below those of the last paint, 0 when the last one of the text is shown.
+int LineasPorDebajo(const EstadoVentanaResultado &estado, const SalidaResultado &salida);
 
 // What the bar asks for. Line up and down is one line, page up and down five, DesplazarA goes to `posicion`.
 enum Desplazamientos { LineaArriba, LineaAbajo, PaginaArriba, PaginaAbajo, DesplazarA };

@@ -7,19 +7,22 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QDesktopServices>
 #include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLayout>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QMainWindow>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QPushButton>
 #include <QStandardPaths>
 #include <QStatusBar>
+#include <QUrl>
 
 #include <cstdio>
-#include <vector>
 
 namespace {
 
@@ -52,28 +55,70 @@ QString DocumentoNuevo(const std::string &documento) {
     return ruta;
 }
 
-// The lines for notes: the status of the main window, and that of the dialog that may stand before it.
-std::vector<QStatusBar *> LineasDeNota() {
-    std::vector<QStatusBar *> lineas;
-    for (QWidget *w : QApplication::topLevelWidgets()) {
-        auto *principal = qobject_cast<QMainWindow *>(w);
-        auto *linea = principal != nullptr ? principal->statusBar() : w->findChild<QStatusBar *>();
-        if (linea != nullptr) lineas.push_back(linea);
+constexpr const char *NombreDeNota = "notaDeImpresion";
+constexpr const char *NombreDeBoton = "abrirCarpeta";
+constexpr QChar Rotura(0x200B); // a blank of no width
+
+// A button that opens the folder of a document, named by its property.
+QPushButton *BotonDeCarpeta(QWidget *padre) {
+    auto *boton = new QPushButton(QStringLiteral("Abrir carpeta"), padre);
+    boton->setObjectName(QLatin1String(NombreDeBoton));
+    boton->setAutoDefault(false); // Enter is the dialog's
+    QObject::connect(boton, &QPushButton::clicked, boton, [boton] {
+        QDesktopServices::openUrl(QUrl::fromLocalFile(boton->property("carpeta").toString()));
+    });
+    return boton;
+}
+
+// `carpeta` empty: there is no document to go to.
+void PonerCarpeta(QPushButton &boton, const QString &carpeta) {
+    boton.setProperty("carpeta", carpeta);
+    boton.setVisible(!carpeta.isEmpty());
+}
+
+// In a dialog the text takes as many lines as it needs: a path may break behind each of its folders.
+void PonerEnDialogo(QWidget &nota, const QString &texto, const QString &carpeta) {
+    nota.findChild<QLabel *>()->setText(QString(texto).replace(u'/', QStringLiteral("/") + Rotura));
+    PonerCarpeta(*nota.findChild<QPushButton *>(), carpeta);
+    nota.setVisible(!texto.isEmpty());
+}
+
+// In the main window it stands in the status line, and whole in its tip. Whoever clears the line takes all of it away.
+void PonerEnPrincipal(QStatusBar &linea, const QString &texto, const QString &carpeta) {
+    if (texto.isEmpty()) return linea.clearMessage();
+    auto *boton = linea.findChild<QPushButton *>(QLatin1String(NombreDeBoton));
+    if (boton == nullptr) {
+        boton = BotonDeCarpeta(&linea);
+        linea.addPermanentWidget(boton);
+        QObject::connect(&linea, &QStatusBar::messageChanged, boton, [&linea, boton](const QString &mensaje) {
+            linea.setToolTip(mensaje);
+            if (mensaje.isEmpty()) boton->hide();
+        });
     }
-    return lineas;
+    linea.show();
+    linea.showMessage(texto);
+    PonerCarpeta(*boton, carpeta);
+}
+
+// The main window and the dialog that may stand before it.
+void PonerNotas(const QString &texto, const QString &carpeta) {
+    for (QWidget *w : QApplication::topLevelWidgets()) {
+        if (auto *principal = qobject_cast<QMainWindow *>(w)) {
+            PonerEnPrincipal(*principal->statusBar(), texto, carpeta);
+        } else if (auto *nota = w->findChild<QWidget *>(QLatin1String(NombreDeNota))) {
+            PonerEnDialogo(*nota, texto, carpeta);
+        }
+    }
 }
 
 // Tells it to the user, and to whoever started the program from a terminal.
-void Avisar(const QString &texto) {
+void Avisar(const QString &texto, const QString &carpeta) {
     std::fprintf(stderr, "tabira: %s\n", texto.toUtf8().constData());
-    for (QStatusBar *linea : LineasDeNota()) {
-        linea->show();
-        linea->showMessage(texto);
-    }
+    PonerNotas(texto, carpeta);
 }
 
 void EmpezarTrabajoQt(std::string_view titulo) {
-    for (QStatusBar *linea : LineasDeNota()) linea->clearMessage(); // what it tells is of the job before
+    BorrarNotasDeImpresion(); // what they tell is of the job before
     EmpezarTrabajoGrabado(titulo);
 }
 
@@ -94,19 +139,31 @@ void TerminarTrabajoQt() {
     if (EscribirPdf(ruta.toStdString(), trabajo.titulo, trabajo.paginas)) {
         const QString porque = impresora.isNull() ? QStringLiteral("Sin impresora")
                                                   : QStringLiteral("La impresora no ha respondido");
-        Avisar(porque + QStringLiteral(": impreso en ") + donde);
+        Avisar(porque + QStringLiteral(": impreso en ") + donde, QFileInfo(ruta).absolutePath());
     } else {
         QFile::remove(ruta); // the empty file that took the name
-        Avisar(QStringLiteral("No se ha podido imprimir en ") + donde);
+        Avisar(QStringLiteral("No se ha podido imprimir en ") + donde, {});
     }
 }
 
 } // namespace
 
 void PonerNotaDeImpresion(QDialog &dialogo) {
-    auto *nota = new QStatusBar(&dialogo);
+    auto *nota = new QWidget(&dialogo);
+    nota->setObjectName(QLatin1String(NombreDeNota));
+    auto *disposicion = new QHBoxLayout(nota);
+    auto *texto = new QLabel(nota);
+    texto->setObjectName(QStringLiteral("lugarDeImpresion"));
+    texto->setTextFormat(Qt::PlainText);
+    texto->setWordWrap(true);
+    disposicion->addWidget(texto, 1);
+    disposicion->addWidget(BotonDeCarpeta(nota));
     nota->hide();
     dialogo.layout()->addWidget(nota);
+}
+
+void BorrarNotasDeImpresion() {
+    PonerNotas({}, {});
 }
 
 bool ImprimirEnPapel(QPrinter &papel, const TrabajoImpreso &trabajo) {

@@ -9,8 +9,12 @@ class QDialog;
 class QPrinter;
 struct TrabajoImpreso;
 
-// Gives a window that prints a line at its foot, which tells where a document went; until then it takes no room.
+// Gives a window that prints a note at its foot, which tells where a document went, with a button that opens its folder;
+// until then it takes no room. The main window tells the same in its status line.
 void PonerNotaDeImpresion(QDialog &dialogo);
+
+// The next command begins: where the last document went is told no longer.
+void BorrarNotasDeImpresion();
 
 // The pages of a job on a printer, in portrait, under the name of its document. False when the printer refuses.
 bool ImprimirEnPapel(QPrinter &papel, const TrabajoImpreso &trabajo);

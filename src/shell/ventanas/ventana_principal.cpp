@@ -3,6 +3,7 @@
 
 #include "data/copia_seguridad.h"
 #include "data/ventanas/ventana_editor.h"
+#include "platform/qt/impresora_qt.h"
 #include "platform/qt/superficie_qt.h"
 #include "platform/qt/texto_qt.h"
 #include "platform/qt/ventana_qt.h"
@@ -100,7 +101,10 @@ void VentanaPrincipal::CrearMenus() {
         accion->setData(c.id);
         accion->setObjectName(QStringLiteral("comando%1").arg(c.id));
         const int id = c.id;
-        connect(accion, &QAction::triggered, this, [this, id] { EjecutarComando(AVentana(this), id); });
+        connect(accion, &QAction::triggered, this, [this, id] {
+            BorrarNotasDeImpresion();
+            EjecutarComando(AVentana(this), id);
+        });
     }
 }
 

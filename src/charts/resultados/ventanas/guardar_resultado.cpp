@@ -1,10 +1,11 @@
-// A result as text, as a table and as a file.
+// A result as a file.
 #include "charts/resultados/ventanas/guardar_resultado.h"
 
+#include "charts/resultados/formatos_tabla.h"
 #include "charts/resultados/impresion.h"
 #include "charts/resultados/ventana_resultado.h"
 #include "platform/archivos.h"
-#include "platform/campos_texto.h"
+#include "platform/literal.h"
 #include "platform/qt/impresora_qt.h"
 #include "platform/qt/superficie_qt.h"
 #include "platform/qt/texto_qt.h"
@@ -21,11 +22,6 @@
 
 namespace {
 
-void PonerLineas(std::string &texto, const TextoSalida *lineas) {
-    if (lineas == nullptr) return;
-    for (const LineaSalida &l : *lineas) texto += std::string(Recortado(l.texto, RecorteDerecha)) + "\n";
-}
-
 std::string Bytes(const QString &ruta) {
     return ruta.toStdString();
 }
@@ -37,6 +33,17 @@ bool GuardarTexto(const SalidaResultado &salida, const QString &ruta) {
 
 bool GuardarTabla(const SalidaResultado &salida, const QString &ruta) {
     return EscribirArchivo(Bytes(ruta), Utf8De1252(TablaDeResultado(salida)));
+}
+
+bool GuardarCsv(const SalidaResultado &salida, const QString &ruta) {
+    return EscribirArchivo(Bytes(ruta), Utf8De1252(TablaEnCsv(TablaDeResultado(salida), PuntoDecimal)));
+}
+
+// As a page or as a table of LaTeX.
+template <std::string (*enForma)(std::string_view, std::string_view, SignoDecimal)>
+bool GuardarDocumento(const SalidaResultado &salida, const QString &ruta) {
+    return EscribirArchivo(Bytes(ruta),
+                           Utf8De1252(enForma(salida.titulo, TablaDeResultado(salida), PuntoDecimal)));
 }
 
 // The pages that the printer would get.
@@ -87,38 +94,21 @@ constexpr FormatoArchivo Formatos[] = {
     {"pdf", "Documento PDF (*.pdf)"},
     {"tsv", "Tabla para hojas de cálculo (*.tsv)"_w},
     {"png", "Imagen PNG (*.png)"},
+    {"csv", "Valores separados por comas (*.csv)"},
+    {"html", "Página HTML (*.html)"_w},
+    {"tex", "Tabla LaTeX (*.tex)"},
 };
 using RutinaDeGuardar = bool (*)(const SalidaResultado &salida, const QString &ruta);
-constexpr RutinaDeGuardar Guardados[] = {GuardarTexto, GuardarPdf, GuardarTabla, GuardarImagen};
+constexpr RutinaDeGuardar Guardados[] = {GuardarTexto,
+                                         GuardarPdf,
+                                         GuardarTabla,
+                                         GuardarImagen,
+                                         GuardarCsv,
+                                         GuardarDocumento<TablaEnHtml>,
+                                         GuardarDocumento<TablaEnLatex>};
 static_assert(std::size(Guardados) == std::size(Formatos));
 
 } // namespace
-
-std::string TextoDeResultado(const SalidaResultado &salida) {
-    std::string texto;
-    PonerLineas(texto, salida.fijas);
-    PonerLineas(texto, salida.lineas);
-    return texto;
-}
-
-std::string TablaDeResultado(const SalidaResultado &salida) {
-    if (!salida.tabla.empty()) return std::string(salida.tabla);
-    // A result without a table of its own is parted where its lines leave two blanks or more.
-    const std::string tabla = TextoDeResultado(salida);
-    std::string partida;
-    for (std::size_t i = 0; i < tabla.size();) {
-        const std::size_t fin = std::min(tabla.find_first_not_of(' ', i), tabla.size());
-        const bool alPrincipio = partida.empty() || partida.back() == '\n';
-        if (fin - i >= 2) {
-            if (!alPrincipio) partida += '\t';
-        } else {
-            partida.append(fin - i, ' ');
-        }
-        if (fin < tabla.size()) partida += tabla[fin];
-        i = fin + 1;
-    }
-    return partida;
-}
 
 bool GuardarResultado(const SalidaResultado &salida, const QString &ruta) {
     const QString terminacion = QFileInfo(ruta).suffix().toLower();

@@ -2,9 +2,12 @@
 // out: printer, clipboard, files.
 #include "charts/resultados/ventanas/ventana_resultado_qt.h"
 
+#include "charts/resultados/formatos_tabla.h"
 #include "charts/resultados/impresion.h"
 #include "charts/resultados/ventana_resultado.h"
+#include "charts/resultados/ventanas/copiar_resultado.h"
 #include "charts/resultados/ventanas/guardar_resultado.h"
+#include "charts/resultados/ventanas/lectura_resultado.h"
 #include "platform/qt/impresora_qt.h"
 #include "platform/qt/superficie_qt.h"
 #include "platform/qt/texto_qt.h"
@@ -12,10 +15,11 @@
 
 #include <QAbstractScrollArea>
 #include <QApplication>
-#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QDialog>
+#include <QImage>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
@@ -37,6 +41,15 @@ public:
         setObjectName(QStringLiteral("areaResultado"));
         setFocusPolicy(Qt::StrongFocus);
         setAccessibleName(QDe1252(salida.titulo));
+        HacerLegible(*this, QDe1252(TextoDeResultado(salida)));
+        siguen.setObjectName(QStringLiteral("siguenLineas"));
+        siguen.setAutoFillBackground(true);
+        siguen.setBackgroundRole(QPalette::ToolTipBase);
+        siguen.setForegroundRole(QPalette::ToolTipText);
+        siguen.setFrameShape(QFrame::Box);
+        siguen.setMargin(2);
+        siguen.setAttribute(Qt::WA_TransparentForMouseEvents);
+        siguen.hide();
         setFrameShape(QFrame::NoFrame);
         const int tope = FormaDe(salida).topeBarra;
         verticalScrollBar()->setRange(0, tope);
@@ -54,6 +67,16 @@ public:
                 m.lineSpacing() * FilasDeLaVentana};
     }
 
+    // Width that the block and the bar ask for, as far as the screen has it.
+    int AnchoMinimo() const {
+        const int barra = FormaDe(salida).topeBarra > 0 ? verticalScrollBar()->sizeHint().width() : 0;
+        const QSize lado(
+            QFontMetrics(fuente).horizontalAdvance(u'0') * ColumnasMinimas(FormaDe(salida)) + barra, 0);
+        return DentroDeLaPantalla(*this, lado).width();
+    }
+
+    void Imprimir() { ImprimirResultado(AVentana(window()), salida); }
+
     EstadoVentanaResultado estado{};
 
 protected:
@@ -64,6 +87,11 @@ protected:
         // The background of a dark desktop is not the paper's: the result is drawn in black on white.
         pintor.fillRect(viewport()->rect(), Qt::white);
         PintarResultado(s, estado, salida);
+    }
+
+    void resizeEvent(QResizeEvent *suceso) override {
+        QAbstractScrollArea::resizeEvent(suceso);
+        SenalarLoQueSigue();
     }
 
     void keyPressEvent(QKeyEvent *suceso) override {
@@ -78,10 +106,9 @@ protected:
             Mover([&] { DesplazarConTecla(estado, salida, t.que); });
             return;
         }
-        if (suceso->matches(QKeySequence::Copy)) {
-            QApplication::clipboard()->setText(QDe1252(TextoDeResultado(salida)));
-            return;
-        }
+        if (suceso->matches(QKeySequence::Copy)) return Sacar(CopiarTexto);
+        if (suceso->matches(QKeySequence::Save)) return Guardar();
+        if (suceso->matches(QKeySequence::Print)) return Imprimir();
         // The toolkit knows the key of the context menu, which many keyboards lack, but not its usual stand-in.
         if (suceso->key() == Qt::Key_F10 && suceso->modifiers() == Qt::ShiftModifier) {
             const QPoint centro = rect().center();
@@ -102,12 +129,15 @@ protected:
     void contextMenuEvent(QContextMenuEvent *suceso) override {
         QMenu menu(this);
         menu.setObjectName(QStringLiteral("menuContexto"));
-        menu.addAction(QStringLiteral("&Copiar"), this,
-                       [this] { QApplication::clipboard()->setText(QDe1252(TextoDeResultado(salida))); });
-        menu.addAction(QStringLiteral("Copiar como &tabla"), this,
-                       [this] { QApplication::clipboard()->setText(QDe1252(TablaDeResultado(salida))); });
-        menu.addAction(QStringLiteral("&Guardar como..."), this,
-                       [this] { DialogoGuardarResultado(this, salida); });
+        menu.addAction(QStringLiteral("&Copiar"), this, [this] { Sacar(CopiarTexto); });
+        menu.addAction(QStringLiteral("Copiar como &tabla"), this, [this] { Sacar(CopiarComoTabla); });
+        menu.addAction(QStringLiteral("Copiar como &LaTeX"), this, [this] { Sacar(CopiarComoLatex); });
+        menu.addAction(QStringLiteral("Copiar como &Markdown"), this, [this] { Sacar(CopiarComoMarkdown); });
+        QAction *comas = menu.addAction(QStringLiteral("Comas &decimales al copiar"));
+        comas->setCheckable(true);
+        comas->setChecked(ComasAlCopiar());
+        connect(comas, &QAction::toggled, this, PonerComasAlCopiar);
+        menu.addAction(QStringLiteral("&Guardar como..."), this, [this] { Guardar(); });
         menu.exec(suceso->globalPos());
     }
 
@@ -118,11 +148,46 @@ private:
         const QSignalBlocker callada(verticalScrollBar());
         verticalScrollBar()->setValue(estado.LineaInicial);
         viewport()->update();
+        SenalarLoQueSigue();
+        const int fijas = salida.fijas != nullptr ? static_cast<int>(salida.fijas->size()) : 0;
+        LeerDesdeLinea(*this, estado.LineaInicial > 0 ? fijas + estado.LineaInicial : 0);
+    }
+
+    // Every command of the window takes away what the one before told.
+    void Sacar(void (*copiar)(const SalidaResultado &)) {
+        BorrarNotasDeImpresion();
+        copiar(salida);
+    }
+    void Guardar() {
+        BorrarNotasDeImpresion();
+        DialogoGuardarResultado(this, salida);
+    }
+
+    // The same painting on nothing tells how many lines the window doesn't reach.
+    void SenalarLoQueSigue() {
+        QImage nada(1, 1, QImage::Format_RGB32);
+        EstadoVentanaResultado medido = estado;
+        {
+            QPainter pintor(&nada);
+            PintorSuperficie propio;
+            Superficie s =
+                SuperficieDePintor(propio, pintor, fuente, viewport()->width(), viewport()->height());
+            PintarResultado(s, medido, salida);
+        }
+        constexpr int Separacion = 8; // from the frame of the window
+        const int faltan = LineasPorDebajo(medido, salida);
+        siguen.setText(faltan == 1 ? QStringLiteral("▼ Sigue 1 línea")
+                                   : QStringLiteral("▼ Siguen %1 líneas").arg(faltan));
+        siguen.adjustSize();
+        siguen.move(viewport()->width() - siguen.width() - Separacion,
+                    viewport()->height() - siguen.height() - Separacion);
+        siguen.setVisible(faltan > 0);
     }
 
     const SalidaResultado &salida;
     QFont fuente;
-    int resto = 0; // of the wheel, below a notch
+    int resto = 0;             // of the wheel, below a notch
+    QLabel siguen{viewport()}; // the sign that lines are hidden below
 };
 
 } // namespace
@@ -139,12 +204,12 @@ void MostrarResultadoQt(Ventana *ventana, const SalidaResultado &salida) {
     barra->setObjectName(QStringLiteral("menuResultado"));
     QAction *imprimir = barra->addAction(QStringLiteral("&Imprimir"));
     imprimir->setObjectName(QStringLiteral("comando2006"));
-    QObject::connect(imprimir, &QAction::triggered, &dialogo,
-                     [&] { ImprimirResultado(AVentana(&dialogo), salida); });
+    QObject::connect(imprimir, &QAction::triggered, area, [area] { area->Imprimir(); });
     if (FormaDe(salida).conGraficos) {
         QAction *graficos = barra->addAction(QStringLiteral("&Gráficos"));
         graficos->setObjectName(QStringLiteral("comandoGraficos"));
         QObject::connect(graficos, &QAction::triggered, &dialogo, [&] {
+            BorrarNotasDeImpresion();
             if (salida.graficos != nullptr) salida.graficos(AVentana(&dialogo));
         });
     } else {
@@ -154,6 +219,7 @@ void MostrarResultadoQt(Ventana *ventana, const SalidaResultado &salida) {
     }
     disposicion->setMenuBar(barra);
     disposicion->addWidget(area);
+    area->setMinimumWidth(area->AnchoMinimo());
     PonerNotaDeImpresion(dialogo);
     dialogo.resize(DentroDeLaPantalla(dialogo, area->TamanoInicial() + QSize(0, barra->sizeHint().height())));
     area->setFocus();
