@@ -83,6 +83,16 @@ bool TieneAnterior(const PaginaManual &pagina) {
 
 } // namespace
 
+std::string TextoDePagina(const PaginaManual &pagina) {
+    std::string texto;
+    for (const LineaAyuda *l = pagina.lineas; l->texto != nullptr; ++l) {
+        if (l != pagina.lineas) texto += '\n';
+        if (l->tipo == LineaDeEjemplo) texto += "    ";
+        texto += l->texto;
+    }
+    return texto;
+}
+
 std::span<const PaginaManual> PaginasManual() {
     return Paginas;
 }

@@ -5,6 +5,7 @@
 #include "platform/literal.h"
 
 #include <span>
+#include <string>
 
 // An example line holds a statement, or a line of a block, that runs as it stands.
 enum TiposDeLineaAyuda { LineaDeTexto, LineaDeEjemplo };
@@ -23,6 +24,10 @@ struct PaginaManual {
     int botonSiguiente; // id of its button "Siguiente", 0 for none
     const LineaAyuda *lineas;
 };
+
+// The lines of a page as they are shown, without an end behind the last one. Examples are indented further than the text,
+// syntaxes included, and so stand out.
+std::string TextoDePagina(const PaginaManual &pagina);
 
 // All the pages.
 std::span<const PaginaManual> PaginasManual();

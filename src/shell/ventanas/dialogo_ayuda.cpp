@@ -28,24 +28,14 @@ void MostrarAcerca(Ventana *ventana) {
     d.Ejecutar();
 }
 
-// Examples are indented further than the text, syntaxes included, and so stand out; the pitch is fixed, since the pages
-// are set out in columns.
-QString TextoDePagina(const PaginaManual &pagina) {
-    QString texto;
-    for (const LineaAyuda *l = pagina.lineas; l->texto != nullptr; ++l)
-        texto += (l->tipo == LineaDeEjemplo ? QStringLiteral("    ") : QString()) + QDe1252(l->texto) + u'\n';
-    texto.chop(1);
-    return texto;
-}
-
 void MostrarUnaPagina(Ventana *ventana, const PaginaManual &pagina) {
     if (pagina.id == PaginaAcerca) return MostrarAcerca(ventana);
     if (pagina.id == PaginaNoEnsamblada) return DialogoNoEnsamblada(ventana, {});
     DialogoConFormulario<Ui::DialogoDePagina> d(ventana);
     d.dialogo.setWindowTitle(QDe1252(pagina.titulo));
     d.dialogo.setObjectName(QStringLiteral("P%1").arg(pagina.id));
-    d.ui.texto->setFont(FuenteFijaDePantalla());
-    d.ui.texto->setText(TextoDePagina(pagina));
+    d.ui.texto->setFont(FuenteFijaDePantalla()); // the pages are set out in columns
+    d.ui.texto->setText(QDe1252(TextoDePagina(pagina)));
     d.ui.texto->setFocusPolicy(Qt::StrongFocus); // the keyboard copies examples too
     for (QPushButton *b : {d.ui.OK, d.ui.Anterior, d.ui.Siguiente, d.ui.Cancelar}) b->hide();
     const BotonesPagina puestos = BotonesDePagina(pagina);

@@ -8,6 +8,7 @@
 #include "platform/qt/texto_qt.h"
 #include "platform/qt/ventana_qt.h"
 #include "shell/comandos.h"
+#include "shell/ventanas/lector_ayuda.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -86,6 +87,7 @@ VentanaPrincipal::VentanaPrincipal()
     statusBar()->hide(); // it takes room from the first note on
     resize(640, 400);
     CrearMenus();
+    PonerLector(*PantallaEdicion);
     auto *reloj = new QTimer(this);
     reloj->setObjectName(QStringLiteral("relojDeCopias"));
     connect(reloj, &QTimer::timeout, this, GuardarCopia);
