@@ -17,6 +17,8 @@
 #include <QTextCursor>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int IdDePagina = Qt::UserRole;
@@ -58,8 +60,12 @@ public:
         const QFontMetrics letra(texto->font());
         const int anchoTexto = letra.horizontalAdvance(u'0') * (AnchoLineaAyuda + 8);
         const int anchoIndice = paginas->sizeHintForColumn(0) + 4 * letra.horizontalAdvance(u'0');
-        partes->setSizes({anchoIndice, anchoTexto});
-        resize(DentroDeLaPantalla(*this, {anchoIndice + anchoTexto, letra.lineSpacing() * LineasDelTexto}));
+        const QSize lado =
+            DentroDeLaPantalla(*this, {anchoIndice + anchoTexto, letra.lineSpacing() * LineasDelTexto});
+        resize(lado);
+        // A small screen takes from the list, whose titles are read in its tips, before it takes from the pages.
+        const int quedan = std::max(lado.width() - anchoTexto, anchoIndice / 2);
+        partes->setSizes({quedan, lado.width() - quedan});
     }
 
     // The page of this id, whatever was searched for before.
@@ -86,6 +92,7 @@ private:
             if (!buscado.empty() && LugaresEnPagina(*p, buscado).empty()) continue;
             auto *linea = new QListWidgetItem(QDe1252(TituloConLugar(*p)), paginas);
             linea->setData(IdDePagina, p->id);
+            linea->setToolTip(linea->text());
             if (p->id == pagina || paginas->count() == 1) paginas->setCurrentItem(linea);
         }
         Mostrar();
