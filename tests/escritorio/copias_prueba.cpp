@@ -240,6 +240,8 @@ TEST_F(Copias, ElLugarDeLoImpreso) {
         QCoreApplication::processEvents();
         const auto *lugar = Hijo<QLabel>(d, "lugarDeImpresion");
         EXPECT_GE(lugar->height(), lugar->heightForWidth(lugar->width()));
+        QTest::keyClick(&area, Qt::Key_Return); // no button of this window answers it
+        EXPECT_TRUE(escritorio.source().isEmpty());
         QTest::mouseClick(Hijo<QPushButton>(d, "abrirCarpeta"), Qt::LeftButton);
         EXPECT_EQ(QDir(escritorio.source().toLocalFile()), Documentos());
         QTest::keyClick(&area, Qt::Key_C, Qt::ControlModifier);

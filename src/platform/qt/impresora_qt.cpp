@@ -63,7 +63,6 @@ constexpr QChar Rotura(0x200B); // a blank of no width
 QPushButton *BotonDeCarpeta(QWidget *padre) {
     auto *boton = new QPushButton(QStringLiteral("Abrir carpeta"), padre);
     boton->setObjectName(QLatin1String(NombreDeBoton));
-    boton->setAutoDefault(false); // Enter is the dialog's
     QObject::connect(boton, &QPushButton::clicked, boton, [boton] {
         QDesktopServices::openUrl(QUrl::fromLocalFile(boton->property("carpeta").toString()));
     });
@@ -157,7 +156,11 @@ void PonerNotaDeImpresion(QDialog &dialogo) {
     texto->setTextFormat(Qt::PlainText);
     texto->setWordWrap(true);
     disposicion->addWidget(texto, 1);
-    disposicion->addWidget(BotonDeCarpeta(nota));
+    // Where no other button answers Enter, this one must not.
+    const bool conBotones = !dialogo.findChildren<QPushButton *>().isEmpty();
+    auto *boton = BotonDeCarpeta(nota);
+    boton->setAutoDefault(conBotones);
+    disposicion->addWidget(boton);
     nota->hide();
     dialogo.layout()->addWidget(nota);
 }
