@@ -12,10 +12,13 @@
 #include <bit>
 #include <cstdint>
 #include <cstring>
+#include <limits>
+#include <utility>
 
 namespace {
 
 constexpr std::string_view TerminacionCopia = ".TR2";
+constexpr std::string_view TerminacionTexto = ".TXT";
 constexpr const char *TerminacionCerrojo = ".cerrojo";
 
 // What the work was at a moment: 64 bits that change with it.
@@ -28,12 +31,18 @@ struct EstadoDeCopias {
     Huella copiado = 0;   // the work that it holds
     bool hayGuardado = false;
     Huella guardado = 0; // the work that a file of the user holds
+    ControlTexto *pantalla = nullptr;
+    std::string texto = {}; // that the copy of the statements holds; empty: there is none
 };
 
 EstadoDeCopias Copias;
 
 std::string RutaCopia() {
     return Copias.ruta + std::string(TerminacionCopia);
+}
+
+std::string RutaTexto() {
+    return Copias.ruta + std::string(TerminacionTexto);
 }
 
 // Eight bytes at a time: it runs over the whole work each minute.
@@ -105,6 +114,19 @@ void BorrarCopia() {
     Copias.escrita = false;
 }
 
+void BorrarTexto() {
+    if (!Copias.texto.empty()) BorrarArchivo(RutaTexto());
+    Copias.texto.clear();
+}
+
+void GuardarTexto() {
+    if (Copias.pantalla == nullptr) return;
+    const std::string texto = TextoDeControl(Copias.pantalla);
+    if (texto == Copias.texto) return;
+    if (texto.empty()) return BorrarTexto();
+    if (EscribirArchivo(RutaTexto(), texto)) Copias.texto = texto;
+}
+
 bool EscribirCopia(Huella h) {
     if (Copias.escrita && h == Copias.copiado) return true;
     if (Copias.ruta.empty() || !EscribirFicheroTrabajo(RutaCopia())) return false;
@@ -114,45 +136,64 @@ bool EscribirCopia(Huella h) {
 }
 
 // Makes a copy that was left the one of this program, without a moment in which it is nobody's.
-void Adoptar(const std::string &ruta) {
+void RecuperarTrabajo(Ventana *ventana, const std::string &ruta) {
+    if (!ExisteArchivo(ruta)) return;
+    if (!LeerTrabajo(ventana, ruta)) {
+        MoverArchivo(ruta, ruta + ".danado");
+        return;
+    }
+    ActualizarMuestra();
+    PonerTituloTrabajo(ventana);
     if (!MoverArchivo(ruta, RutaCopia())) return;
     Copias.escrita = true;
     Copias.copiado = HuellaDelTrabajo();
 }
 
+// The same with the statements. A program without a screen for them leaves them.
+void RecuperarTexto(const std::string &ruta) {
+    std::string texto;
+    if (Copias.pantalla == nullptr || !LeerArchivo(ruta, texto)) return;
+    SeleccionarEnControl(Copias.pantalla, 0, std::numeric_limits<int>::max());
+    EscribirEnControl(Copias.pantalla, texto);
+    if (MoverArchivo(ruta, RutaTexto())) Copias.texto = std::move(texto);
+}
+
 } // namespace
 
-void EmpezarCopias(const std::string &carpeta) {
+void EmpezarCopias(const std::string &carpeta, ControlTexto *pantalla) {
     Copias = {};
+    Copias.pantalla = pantalla;
     constexpr int Intentos = 100;
     for (int i = 0; i < Intentos && !carpeta.empty() && Copias.cerrojo < 0; ++i) {
         Copias.ruta = RutaDeProceso(carpeta, "copia", i);
         // A program that is gone may have had the same number, and left its copy.
-        if (!ExisteArchivo(RutaCopia())) Copias.cerrojo = TomarCerrojo(Copias.ruta + TerminacionCerrojo);
+        if (!ExisteArchivo(RutaCopia()) && !ExisteArchivo(RutaTexto()))
+            Copias.cerrojo = TomarCerrojo(Copias.ruta + TerminacionCerrojo);
     }
     if (Copias.cerrojo < 0) Copias.ruta.clear();
 }
 
 void OfrecerCopia(Ventana *ventana) {
     if (Copias.ruta.empty()) return;
-    for (const std::string &ruta : ArchivosConTerminacion(CarpetaDeRuta(Copias.ruta), TerminacionCopia)) {
-        const std::string suCerrojo =
-            ruta.substr(0, ruta.size() - TerminacionCopia.size()) + TerminacionCerrojo;
+    for (const std::string &hallado :
+         ArchivosConTerminacion(CarpetaDeRuta(Copias.ruta), TerminacionCopia, TerminacionTexto)) {
+        const std::string ruta = hallado.substr(0, hallado.rfind('.'));
+        const std::string suCerrojo = ruta + TerminacionCerrojo;
         const int cerrojo = TomarCerrojo(suCerrojo);
         if (cerrojo < 0) continue; // of a program that runs, this one perhaps
+        const std::string suTrabajo = ruta + std::string(TerminacionCopia);
+        const std::string suTexto = ruta + std::string(TerminacionTexto);
         const Respuesta r = MostrarCaja(
             ventana,
             "Quedó trabajo sin guardar la última vez. ¿Desea recuperarlo? Si contesta No, se borrará."_w,
             TituloAviso, IconoPregunta, BotonesSiNoCancelar);
-        if (r == RespuestaNo) BorrarArchivo(ruta);
+        if (r == RespuestaNo) {
+            BorrarArchivo(suTrabajo);
+            BorrarArchivo(suTexto);
+        }
         if (r == RespuestaSi) {
-            if (LeerTrabajo(ventana, ruta)) {
-                Adoptar(ruta);
-                ActualizarMuestra();
-                PonerTituloTrabajo(ventana);
-            } else {
-                MoverArchivo(ruta, ruta + ".danado");
-            }
+            RecuperarTrabajo(ventana, suTrabajo);
+            RecuperarTexto(suTexto);
         }
         SoltarCerrojo(cerrojo, suCerrojo);
         return;
@@ -161,6 +202,7 @@ void OfrecerCopia(Ventana *ventana) {
 
 void GuardarCopia() {
     if (Copias.ruta.empty()) return;
+    GuardarTexto();
     const Huella h = HuellaDelTrabajo();
     if (Copias.hayGuardado && h == Copias.guardado) {
         BorrarCopia();
@@ -179,8 +221,10 @@ bool TerminarCopias(bool conservar) {
     const Huella h = HuellaDelTrabajo();
     if (conservar && !EstaGuardado(h)) {
         if (!EscribirCopia(h)) return false;
+        GuardarTexto();
     } else {
         BorrarCopia();
+        BorrarTexto();
     }
     SoltarCerrojo(Copias.cerrojo, Copias.ruta + TerminacionCerrojo);
     Copias = {};

@@ -2,6 +2,7 @@
 #include "data/intercambio.h"
 
 #include "language/lote_sentencias.h"
+#include "platform/archivo_dado.h"
 #include "platform/archivos.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
@@ -83,6 +84,7 @@ bool ElegirArchivoDeIntercambio(Ventana *ventana) {
 void IntercambiarAscii(Ventana *ventana, bool importando) {
     if (!EmpezarIntercambio(ventana, importando, Intercambio.opciones)) return;
     Intercambio.archivo = ArchivoSinElegir;
+    if (importando && HayArchivoDado()) ElegirArchivoDeIntercambio(ventana);
     Intercambio.decimales = Lote.DecimalesSalida;
     AbrirDialogo(ventana, Dialogo::Intercambio);
     if (Intercambio.opciones.Aceptado == 0) {

@@ -5,6 +5,7 @@
 #include "estimation/regresion.h"
 #include "hypothesis/orden.h"
 #include "language/cadena.h"
+#include "language/fin_lote.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
@@ -255,6 +256,10 @@ int Contrastar(Goldfeld &g) {
 // it here.
 int ContrasteGoldfeldQuandt(LineasSentencia &lineas, int posicion, Ventana *ventana) {
     Goldfeld g{lineas, ventana, posicion};
-    if (Contrastar(g) == 0) BorrarTemporales(ventana, OrdenMGD);
+    if (Contrastar(g) == 0) {
+        BorrarTemporales(ventana, OrdenMGD);
+    } else {
+        UltimoFin.porRegla = true;
+    }
     return 0;
 }

@@ -1,6 +1,7 @@
 // The loop that runs a batch of statements: the selection of a text control, or the one statement of a dialog.
 #include "language/lote_sentencias.h"
 
+#include "language/fin_lote.h"
 #include "language/notas.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
@@ -9,6 +10,7 @@
 #include <algorithm>
 
 EstadoLote Lote{1, 2, 0, 0, 0, {}};
+FinDeLote UltimoFin;
 void (*AntesDeCadaLote)() = nullptr;
 void (*DespuesDeCadaLote)() = nullptr;
 
@@ -115,6 +117,7 @@ int ProcesarLote(Ventana *ventana, ControlTexto *control, int origen, std::strin
     Lote.detenido = 1;
     Lote.sentencias = 0;
     Lote.parada = {};
+    UltimoFin = {origen != OrigenSeleccion, false};
     OlvidarNotas();
     CorrerLote(ventana, control, origen, texto, primera, ultima);
     if (DespuesDeCadaLote != nullptr) DespuesDeCadaLote();

@@ -30,13 +30,15 @@ std::string CarpetaDeEstado() {
     return fs::is_directory(carpeta, error) ? carpeta.string() : std::string();
 }
 
-std::vector<std::string> ArchivosConTerminacion(const std::string &carpeta, std::string_view terminacion) {
+std::vector<std::string> ArchivosConTerminacion(const std::string &carpeta, std::string_view terminacion,
+                                                std::string_view otra) {
     std::vector<std::pair<fs::file_time_type, std::string>> hallados;
     std::error_code error;
     for (fs::directory_iterator i(carpeta, error), fin; !error && i != fin; i.increment(error)) {
         std::error_code deEste;
         const auto fecha = i->last_write_time(deEste);
-        if (i->path().extension() == terminacion && i->is_regular_file(deEste) && !deEste)
+        const std::string suya = i->path().extension().string();
+        if ((suya == terminacion || (!otra.empty() && suya == otra)) && i->is_regular_file(deEste) && !deEste)
             hallados.emplace_back(fecha, i->path().string());
     }
     std::sort(hallados.rbegin(), hallados.rend());

@@ -10,8 +10,9 @@
 // there is none.
 std::string CarpetaDeEstado();
 
-// The paths of the files of the folder whose name has this ending (".TR2"), the newest first.
-std::vector<std::string> ArchivosConTerminacion(const std::string &carpeta, std::string_view terminacion);
+// The paths of the files of the folder whose name has this ending (".TR2") or the other one, the newest first.
+std::vector<std::string> ArchivosConTerminacion(const std::string &carpeta, std::string_view terminacion,
+                                                std::string_view otra = {});
 
 // A path in the folder that names this process: `nombre`, its number and, from the second one on, `cual`.
 std::string RutaDeProceso(const std::string &carpeta, const std::string &nombre, int cual);

@@ -1,11 +1,15 @@
 // The free functions of the seam: each hands its call to the installed table of operations.
 #include "platform/plataforma.h"
 
+#include "platform/archivo_dado.h"
 #include "platform/texto.h"
+
+#include <utility>
 
 namespace {
 const OperacionesPlataforma *Instalada = nullptr;
-}
+std::string Dado; // the file that was named beforehand
+} // namespace
 
 void InstalarPlataforma(const OperacionesPlataforma &operaciones) {
     Instalada = &operaciones;
@@ -80,7 +84,19 @@ void AbrirDialogo(Ventana *ventana, Dialogo cual, const DatosDialogo &datos) {
     if (Instalada->abrirDialogo != nullptr) Instalada->abrirDialogo(ventana, cual, datos);
 }
 
+void DarArchivo(const std::string &ruta) {
+    Dado = ruta;
+}
+
+bool HayArchivoDado() {
+    return !Dado.empty();
+}
+
 bool ElegirArchivo(Ventana *ventana, const PeticionArchivo &peticion, std::string &ruta) {
+    if (!peticion.guardar && HayArchivoDado()) {
+        ruta = std::exchange(Dado, {});
+        return true;
+    }
     return Instalada->elegirArchivo != nullptr && Instalada->elegirArchivo(ventana, peticion, ruta);
 }
 

@@ -14,6 +14,7 @@
 #include "platform/campos_texto.h"
 #include "platform/carpeta_estado.h"
 #include "shell/ayuda.h"
+#include "shell/barra_estado.h"
 #include "shell/listas.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
@@ -118,6 +119,18 @@ bool HaySeries() {
     return ArchivoTrabajo.NumSeries > 0 ||
            std::any_of(std::begin(ArchivoTrabajo.Codigos), std::end(ArchivoTrabajo.Codigos),
                        [](const char *codigo) { return CadenaDeCaracter(codigo, ' ') == 0; });
+}
+
+// What goes with each batch.
+void AntesDelLote() {
+    GuardarCopia();
+    EmpezarLoteEnBarra();
+    if (Escritorio->empiezaLote != nullptr) Escritorio->empiezaLote();
+}
+
+void DespuesDelLote() {
+    TerminarLoteEnBarra();
+    if (Escritorio->terminaLote != nullptr) Escritorio->terminaLote();
 }
 
 constexpr const char *Archivo = "&Archivo";
@@ -233,6 +246,8 @@ const int NumComandos = static_cast<int>(std::size(TablaComandos));
 
 void InstalarEscritorio(const OperacionesEscritorio &operaciones) {
     Escritorio = &operaciones;
+    AntesDeCadaLote = AntesDelLote;
+    DespuesDeCadaLote = DespuesDelLote;
 }
 
 void EjecutarComando(Ventana *ventana, int id) {
@@ -269,7 +284,6 @@ void IniciarPrograma() {
 }
 
 void IniciarCopias(Ventana *ventana) {
-    EmpezarCopias(CarpetaDeEstado());
-    AntesDeCadaLote = GuardarCopia;
+    EmpezarCopias(CarpetaDeEstado(), Escritorio->pantallaEdicion(ventana));
     OfrecerCopia(ventana);
 }

@@ -12,8 +12,11 @@ struct OperacionesEscritorio {
     void (*editar)(Ventana *ventana, AccionesDeEdicion accion);
     void (*mostrarEditor)(Ventana *ventana); // in place of the statements, until it is left
     void (*destruir)(Ventana *ventana);      // ends the program's message loop
+    void (*empiezaLote)() = nullptr;         // a batch, of the text or of a dialog, begins or has ended: the
+    void (*terminaLote)() = nullptr;         // messages of shell/barra_estado.h are those of the moment
 };
 
+// From here on a copy of the work is written before each batch, since it may never end.
 void InstalarEscritorio(const OperacionesEscritorio &operaciones);
 
 using RutinaDeComando = void (*)(Ventana *ventana, int id);
@@ -42,5 +45,5 @@ bool CerrarPrograma(Ventana *ventana);
 // Start of the work file and of the estimation state, after the windows exist.
 void IniciarPrograma();
 
-// Behind that: copies of the work are kept from here on, and the one that an earlier run left is offered.
+// Behind that: copies of the work are kept from here on (EmpezarCopias), and the one that an earlier run left is offered.
 void IniciarCopias(Ventana *ventana);

@@ -277,4 +277,111 @@ TEST_F(CopiaSeguridad, UnNumeroRepetido) {
     EXPECT_EQ(Prueba.cajas, std::vector<CajaVista>{Oferta});
 }
 
+// ----- The text of the statements
+
+// The test's platform has one control, whoever asks.
+ControlTexto *Pantalla() {
+    static int una;
+    return reinterpret_cast<ControlTexto *>(&una);
+}
+
+class CopiaDeSentencias : public CopiaSeguridad {
+protected:
+    void SetUp() override {
+        CopiaSeguridad::SetUp();
+        TerminarCopias(false);
+        EmpezarCopias(carpeta.string(), Pantalla());
+    }
+    std::vector<std::string> Textos() const {
+        std::vector<std::string> r;
+        for (const auto &e : std::filesystem::directory_iterator(carpeta))
+            if (e.path().extension() == ".TXT") r.push_back(BytesDe(e.path().string()));
+        return r;
+    }
+    // Another run of the program: it keeps a copy of its statements, and of its work if it has one, and is killed.
+    void MuereConTexto(const std::string &texto, bool conTrabajo) {
+        const pid_t hijo = fork();
+        ASSERT_GE(hijo, 0);
+        if (hijo == 0) {
+            EmpezarPrueba();
+            if (conTrabajo) TrabajoPequeno(1);
+            EmpezarCopias(carpeta.string(), Pantalla());
+            Prueba.textoControl = texto;
+            GuardarCopia();
+            _exit(0);
+        }
+        waitpid(hijo, nullptr, 0);
+    }
+};
+
+TEST_F(CopiaDeSentencias, SigueALaPantalla) {
+    for (const char *texto : {"", "SER A = 1", "SER A = 1\n; Pe\xf1\xf3n", "x", ""}) {
+        SCOPED_TRACE(texto);
+        Prueba.textoControl = texto;
+        GuardarCopia();
+        EXPECT_EQ(Textos(), *texto == '\0' ? std::vector<std::string>{} : std::vector<std::string>{texto});
+        EXPECT_TRUE(Copias().empty()); // there is no work yet
+    }
+}
+
+TEST_F(CopiaDeSentencias, AlTerminarEnOrdenSeVa) {
+    Prueba.textoControl = "SER A = 1";
+    GuardarCopia();
+    AnotarTrabajoGuardado(); // of the work, not of the text
+    EXPECT_EQ(Textos().size(), 1u);
+    EXPECT_TRUE(TerminarCopias(true)); // and nothing is left that would have to be saved
+    EXPECT_EQ(Ficheros(), 0);
+}
+
+// What is kept because a save came to nothing is kept whole.
+TEST_F(CopiaDeSentencias, QuedaConElTrabajo) {
+    TrabajoPequeno(1);
+    Prueba.textoControl = "SER A = 1";
+    EXPECT_TRUE(TerminarCopias(true));
+    EXPECT_EQ(Copias().size(), 1u);
+    EXPECT_EQ(Textos(), std::vector<std::string>{"SER A = 1"});
+}
+
+TEST_F(CopiaDeSentencias, SeOfrecenEnLaMismaCaja) {
+    for (const bool conTrabajo : {true, false}) {
+        SCOPED_TRACE(conTrabajo);
+        MuereConTexto("SER A = 1\nSER B = 2", conTrabajo);
+        EmpezarPrueba();
+        OfrecerCopia(nullptr);
+        EXPECT_EQ(Prueba.cajas, std::vector<CajaVista>{Oferta});
+        EXPECT_EQ(Prueba.textoControl, "SER A = 1\nSER B = 2");
+        EXPECT_EQ(ArchivoTrabajo.NumSeries > 0, conTrabajo);
+        EXPECT_EQ(Prueba.titulo.empty(), !conTrabajo);
+        // It is this program's now, and goes with it.
+        EXPECT_EQ(Textos().size(), 1u);
+        OfrecerCopia(nullptr);
+        EXPECT_EQ(Prueba.cajas.size(), 1u);
+        TerminarCopias(false);
+        EXPECT_EQ(Ficheros(), 0);
+        EmpezarCopias(carpeta.string(), Pantalla());
+    }
+}
+
+TEST_F(CopiaDeSentencias, NoLasBorraYCancelarLasDeja) {
+    MuereConTexto("SER A = 1", true);
+    Prueba.respuestas = {RespuestaCancelar, RespuestaNo};
+    OfrecerCopia(nullptr);
+    EXPECT_EQ(Textos().size(), 1u);
+    EXPECT_EQ(Copias().size(), 1u);
+    OfrecerCopia(nullptr);
+    EXPECT_TRUE(Textos().empty());
+    EXPECT_TRUE(Copias().empty());
+    EXPECT_EQ(Prueba.textoControl, "");
+}
+
+// A work that can't be read doesn't take the statements with it.
+TEST_F(CopiaDeSentencias, DeUnaDanadaQuedanLasSentencias) {
+    MuereConTexto("SER A = 1", true);
+    PonerBytes(Copias()[0], "SQLite format 3, pero no");
+    OfrecerCopia(nullptr);
+    EXPECT_EQ(Prueba.cajas.size(), 2u);
+    EXPECT_EQ(Prueba.textoControl, "SER A = 1");
+    EXPECT_TRUE(Copias().empty());
+}
+
 } // namespace

@@ -5,9 +5,11 @@
 #include "data/rejilla.h"
 #include "data/trabajo.h"
 #include "language/lote_sentencias.h"
+#include "platform/archivo_dado.h"
 #include "platform/archivos.h"
 #include "platform/carpeta_estado.h"
 #include "platform/texto.h"
+#include "shell/abrir_fichero.h"
 #include "shell/comandos.h"
 #include "shell/listas.h"
 #include "store/archivo.h"
@@ -332,6 +334,7 @@ TEST(Comandos, UnaCopiaAntesDeCadaLote) {
     PonerSerie("A", {1, 2, 3});
     setenv("XDG_STATE_HOME", carpeta.ruta.c_str(), 1);
     const std::string casa = carpeta.ruta + "/tabira";
+    InstalarEscritorio(Anotadas);
     IniciarCopias(nullptr);
     EXPECT_TRUE(Prueba.cajas.empty());
     EXPECT_TRUE(ArchivosConTerminacion(casa, ".TR2").empty());
@@ -342,7 +345,6 @@ TEST(Comandos, UnaCopiaAntesDeCadaLote) {
     EXPECT_EQ(TablaEscalares.numero, 0);
     EXPECT_EQ(ValoresDe("A", 3), (std::vector<double>{1, 2, 3}));
     TerminarCopias(false);
-    AntesDeCadaLote = nullptr;
     unsetenv("XDG_STATE_HOME");
 }
 
@@ -352,4 +354,35 @@ TEST(Comandos, SinMemoria) {
     EXPECT_EQ(Prueba.cajas,
               (std::vector<CajaVista>{{"Proceso cancelado", "No hay suficiente memoria. Ptos: 2001 3999",
                                        IconoInformacion, BotonesAceptar}}));
+}
+
+// ----- Files that are named outside the menus
+
+TEST(Comandos, ComandoDeCadaFichero) {
+    constexpr struct {
+        const char *ruta;
+        int comando;
+    } Casos[] = {
+        {"/casa/klein.TR2", 2055}, {"klein.tr2", 2055},
+        {"/casa/klein.txt", 2092}, {"KLEIN.TXT", 2092},
+        {"/casa/klein.csv", 2072}, {"klein.TR2.csv", 2072},
+        {"klein", 2072},           {"/casa.TR2/klein", 2072},
+        {"/casa.txt/a.tr2", 2055}, {"", 2072},
+    };
+    for (const auto &c : Casos) EXPECT_EQ(ComandoDeFichero(c.ruta), c.comando) << c.ruta;
+}
+
+// The next question for a file to open has its answer; one for a place to save hasn't.
+TEST(Comandos, ArchivoDado) {
+    EmpezarPrueba();
+    DarArchivo("/no hay/klein.TR2");
+    std::string ruta;
+    EXPECT_FALSE(ElegirArchivo(nullptr, {true, "Guardar", {}, "x"}, ruta));
+    EXPECT_EQ(Prueba.archivos.size(), 1u);
+    EXPECT_TRUE(HayArchivoDado());
+    EXPECT_TRUE(ElegirArchivo(nullptr, {false, "Abrir", {}, "x"}, ruta));
+    EXPECT_EQ(ruta, "/no hay/klein.TR2");
+    EXPECT_EQ(Prueba.archivos.size(), 1u);
+    EXPECT_FALSE(HayArchivoDado());
+    EXPECT_FALSE(ElegirArchivo(nullptr, {false, "Abrir", {}, "x"}, ruta));
 }
