@@ -1,7 +1,7 @@
-// The copy of the work in the user's state folder: what a crash, an endless loop or a save that came to nothing would lose. It
-// is written before each batch and now and then in between, when the work changed; goes when the program ends in order; and
-// the next start offers what was left. The text of the statements is kept with it, also where there is no work yet. Two
-// programs that run at once keep one each.
+// The copy of the work in the user's state folder: what a crash, an endless loop or a save that came to nothing would
+// lose. It is written before each batch and now and then in between, when the work changed; goes when the program
+// ends in order; and the next start offers what was left. The text of the statements is kept with it, also where
+// there is no work yet. Two programs that run at once keep one each.
 #pragma once
 
 #include "platform/plataforma.h"
@@ -24,6 +24,6 @@ void GuardarCopia();
 // The work is as it stands in a file of the user.
 void AnotarTrabajoGuardado();
 
-// The end of the program. With `conservar` the copy of work that isn't saved stays for the next start; else it goes. False
-// when there is such work and no copy of it can be kept: the program must not end then.
+// The end of the program. With `conservar` the copy of work that isn't saved stays for the next start; else it goes.
+// False when there is such work and no copy of it can be kept: the program must not end then.
 bool TerminarCopias(bool conservar);

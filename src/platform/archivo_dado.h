@@ -3,7 +3,8 @@
 
 #include <string>
 
-// The next file that ElegirArchivo is asked for, to be opened, is this one, and the user isn't asked. Empty: the user is, as always.
+// The next file that ElegirArchivo is asked for, to be opened, is this one, and the user isn't asked. Empty: the user
+// is, as always.
 void DarArchivo(const std::string &ruta);
 
 // True until it is taken.

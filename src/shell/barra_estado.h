@@ -1,5 +1,5 @@
-// What the status line of the main window says: the work file and its sample, and at its left how the last batch ended and
-// what it noted. It only looks: neither the sample nor a batch knows of it. Texts are in Windows-1252.
+// What the status line of the main window says: the work file and its sample, and at its left how the last batch
+// ended and what it noted. It only looks: neither the sample nor a batch knows of it. Texts are in Windows-1252.
 #pragma once
 
 #include <string>
@@ -21,8 +21,8 @@ std::string TextoDeBarra(const EstadoDeBarra &estado, int linea, int columna);
 
 // ----- The message
 
-// "Procesando...", while a batch runs; "8 sentencias procesadas", "Detenido en la línea 5: SER LB = LN(BENEFF)" or "Procesado
-// hasta la línea 5" behind it, with the first of its notes; or a note alone.
+// "Procesando...", while a batch runs; "8 sentencias procesadas", "Detenido en la línea 5: SER LB = LN(BENEFF)" or
+// "Procesado hasta la línea 5" behind it, with the first of its notes; or a note alone.
 std::string MensajeDeBarra();
 
 // A command begins: what stood there was of the one before.

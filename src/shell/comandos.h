@@ -37,13 +37,15 @@ extern const int NumComandos;
 // Carries out a command: guard, refresh of the sample, routine. An unknown id does nothing.
 void EjecutarComando(Ventana *ventana, int id);
 
-// The sequence of closing: asks "¿Desea guardar su trabajo?" when there is a series or a matrix, saves on "Sí", frees the blocks
-// of the matrices and destroys the window. It goes on when the save is cancelled or fails, and leaves what isn't saved as a
-// copy for the next start. False when the program stays: after "Cancelar", and where such a copy can't be written.
+// The sequence of closing: asks "¿Desea guardar su trabajo?" when there is a series or a matrix, saves on "Sí", frees
+// the blocks of the matrices and destroys the window. It goes on when the save is cancelled or fails, and leaves what
+// isn't saved as a copy for the next start. False when the program stays: after "Cancelar", and where such a copy
+// can't be written.
 bool CerrarPrograma(Ventana *ventana);
 
 // Start of the work file and of the estimation state, after the windows exist.
 void IniciarPrograma();
 
-// Behind that: copies of the work are kept from here on (EmpezarCopias), and the one that an earlier run left is offered.
+// Behind that: copies of the work are kept from here on (EmpezarCopias), and the one that an earlier run left is
+// offered.
 void IniciarCopias(Ventana *ventana);

@@ -134,7 +134,7 @@ TEST_F(Cierre, PortadaUnaVez) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return testigo.pintadas > 0; }));
     EXPECT_TRUE(testigo.conEspera);
     EXPECT_EQ(testigo.sitio, QPoint(50, 10));
-    EXPECT_EQ(testigo.padre, ventana->PantallaEdicion->viewport());
+    EXPECT_EQ(testigo.padre, ventana->PantallaEdicion); // at the corner of the client area, over the margin
     QTest::qWait(50);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     EXPECT_EQ(ventana->findChild<QLabel *>(QStringLiteral("imagen")), nullptr);

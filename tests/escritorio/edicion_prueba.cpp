@@ -142,6 +142,7 @@ struct CasoProcesar {
     int desde, hasta; // the cursor goes from here to there
     std::vector<std::pair<const char *, double>> escalares;
     const char *caja = nullptr, *titulo = "Proceso cancelado";
+    int falla = -1; // where the statement begins that stopped it
 };
 
 const CasoProcesar Procesados[] = {
@@ -164,15 +165,17 @@ const CasoProcesar Procesados[] = {
      22,
      {{"A", 1}},
      "Funciones o parámetros no válidos: \n (QQ)",
-     "Proceso Cancelado"},
+     "Proceso Cancelado",
+     10},
     {"one character is a selection",
      "QQ",
      0,
      1,
      {},
      "Funciones o parámetros no válidos: \n (QQ)",
-     "Proceso Cancelado"},
-    {"parentheses", "ESC A = (1", 0, 10, {}, "Número inadecuado de paréntesis"},
+     "Proceso Cancelado",
+     0},
+    {"parentheses", "ESC A = (1", 0, 10, {}, "Número inadecuado de paréntesis", "Proceso cancelado", 0},
     {"blank lines", "\n\n  \t\nESC A = 1\n\n", 0, 17, {{"A", 1}}},
 };
 
@@ -189,9 +192,10 @@ TEST_F(Edicion, ProcesarLoSeleccionado) {
         ConGuion(guion, [&] { Ordenar(2006); });
         EXPECT_EQ(TablaEscalares.numero, static_cast<int>(c.escalares.size()));
         for (const auto &[codigo, valor] : c.escalares) EXPECT_EQ(EscalarDe(codigo), valor) << codigo;
-        // The user finds the text and the selection as they were, and the arrow cursor.
+        // The user finds the text and the selection as they were (the caret at the statement that failed, where one did),
+        // and the arrow cursor.
         EXPECT_EQ(ventana->PantallaEdicion->toPlainText().toStdString(), c.texto);
-        EXPECT_EQ(ventana->PantallaEdicion->textCursor().position(), c.hasta);
+        EXPECT_EQ(ventana->PantallaEdicion->textCursor().position(), c.falla >= 0 ? c.falla : c.hasta);
         EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     }
 }

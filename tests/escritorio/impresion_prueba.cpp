@@ -212,9 +212,8 @@ TEST_F(Impresion, PapelDeOtraForma) {
 
 // What a note tells is of its own job: the next one begins without it.
 TEST_F(Impresion, LaNotaEsDeSuTrabajo) {
-    ImpresoraEnUso().empezarTrabajo(
-        "sin nota"); // a job that a printer takes has none, and no empty line either
-    EXPECT_TRUE(ventana->statusBar()->isHidden());
+    ImpresoraEnUso().empezarTrabajo("sin nota"); // a job that a printer takes has none
+    EXPECT_TRUE(ventana->statusBar()->currentMessage().isEmpty());
     ASSERT_FALSE(Imprimir(*ventana).isEmpty());
     ImpresoraEnUso().empezarTrabajo("otro");
     EXPECT_TRUE(ventana->statusBar()->currentMessage().isEmpty());

@@ -114,9 +114,18 @@ void DialogoFormatoFijo(Ventana *ventana) {
 
 // ---------------------------------------------------------------------------------------------------------------
 
+namespace {
+
+void MostrarArchivo(QLabel &texto) {
+    texto.setText(QFileInfo(QString::fromStdString(Intercambio.archivo)).fileName());
+}
+
+} // namespace
+
 void DialogoIntercambio(Ventana *ventana, const DatosDialogo &) {
     DialogoConFormulario<Ui::DialogoAscii> d(ventana);
     d.dialogo.setWindowTitle(Titulo(""));
+    MostrarArchivo(*d.ui.archivo);    // none yet, or the one that was dropped on the window
     d.ui.FormatoVariable->setFocus(); // without a format OK is of no use
     MenuDecimales(d.dialogo, Intercambio.decimales);
     MenuAyuda(d.dialogo, PaginaAscii);
@@ -126,7 +135,7 @@ void DialogoIntercambio(Ventana *ventana, const DatosDialogo &) {
                      [&] { DialogoFormatoFijo(d.ventana()); });
     QObject::connect(d.ui.SeleccionarArchivo, &QPushButton::clicked, &d.dialogo, [&] {
         if (!ElegirArchivoDeIntercambio(d.ventana())) return d.dialogo.reject();
-        d.ui.archivo->setText(QFileInfo(QString::fromStdString(Intercambio.archivo)).fileName());
+        MostrarArchivo(*d.ui.archivo);
     });
     d.AlAceptar([&] {
         Opciones().Aceptado = 1;

@@ -1,6 +1,7 @@
 // The desktop's chooser of files.
 #include "platform/qt/elegir_archivo_qt.h"
 
+#include "platform/qt/ajustes_qt.h"
 #include "platform/qt/texto_qt.h"
 #include "platform/qt/ventana_qt.h"
 
@@ -11,6 +12,7 @@
 #include <QSplitter>
 #include <QStandardPaths>
 #include <QTreeView>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -36,6 +38,15 @@ QString CarpetaInicial(std::string_view pedida) {
     return QDir(carpeta).exists() ? carpeta : QDir::homePath();
 }
 
+// The folders of the files of late are at hand: at the side, under those of the toolkit, and in the list of the present folder.
+void OfrecerRecientes(QFileDialog &dialogo, const QStringList &carpetas) {
+    QList<QUrl> lado = dialogo.sidebarUrls();
+    for (const QString &carpeta : carpetas)
+        if (const QUrl url = QUrl::fromLocalFile(carpeta); !lado.contains(url)) lado << url;
+    dialogo.setSidebarUrls(lado);
+    dialogo.setHistory(carpetas);
+}
+
 } // namespace
 
 bool ElegirArchivoQt(Ventana *ventana, const PeticionArchivo &peticion, std::string &ruta) {
@@ -46,6 +57,7 @@ bool ElegirArchivoQt(Ventana *ventana, const PeticionArchivo &peticion, std::str
     dialogo.setAcceptMode(peticion.guardar ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     if (!peticion.guardar) dialogo.setFileMode(QFileDialog::ExistingFile);
     dialogo.setOption(QFileDialog::DontConfirmOverwrite); // the name isn't whole yet when it would look
+    OfrecerRecientes(dialogo, CarpetasRecientes());
     dialogo.selectFile(QDe1252(peticion.nombre));
     dialogo.resize(DentroDeLaPantalla(dialogo, dialogo.sizeHint() * 4 / 3));
     // The toolkit's own chooser, which not every desktop shows, cuts its columns and the user's places.
@@ -66,6 +78,7 @@ bool ElegirArchivoQt(Ventana *ventana, const PeticionArchivo &peticion, std::str
                     RespuestaSi)
                 continue;
         }
+        AnotarReciente(elegida);
         ruta = elegida.toStdString();
         return true;
     }

@@ -77,6 +77,7 @@ void InstalarPlataformaQt(const VentanasQt &ventanas) {
     Operaciones.mostrarResultado = ventanas.mostrarResultado;
     Operaciones.mostrarGrafico = ventanas.mostrarGrafico;
     Operaciones.refrescarEditor = ventanas.refrescarEditor;
+    Operaciones.nota = ventanas.nota;
     Dialogos = ventanas.dialogos;
     InstalarPlataforma(Operaciones);
 }

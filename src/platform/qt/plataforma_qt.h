@@ -17,6 +17,7 @@ struct VentanasQt {
     decltype(OperacionesPlataforma::mostrarGrafico) mostrarGrafico;
     std::span<const FilaDeDialogo> dialogos;
     decltype(OperacionesPlataforma::refrescarEditor) refrescarEditor;
+    decltype(OperacionesPlataforma::nota) nota;
 };
 
 // Installs the desktop's operations. After the QApplication exists; `ventanas.dialogos` must outlive their use.

@@ -72,7 +72,7 @@ std::span<const FilaDeDialogo> TablaDeDialogos() {
 }
 
 void InstalarVentanas() {
-    InstalarPlataformaQt({MostrarResultadoQt, MostrarGraficoQt, Dialogos, RefrescarEditorQt});
+    InstalarPlataformaQt({MostrarResultadoQt, MostrarGraficoQt, Dialogos, RefrescarEditorQt, NotaEnPantalla});
 }
 
 void PrepararEscritorio() {

@@ -3,43 +3,34 @@
 
 #include "data/copia_seguridad.h"
 #include "data/ventanas/ventana_editor.h"
+#include "language/fin_lote.h"
+#include "language/lote_sentencias.h"
 #include "platform/qt/impresora_qt.h"
-#include "platform/qt/superficie_qt.h"
 #include "platform/qt/texto_qt.h"
 #include "platform/qt/ventana_qt.h"
 #include "shell/comandos.h"
+#include "shell/ventanas/abrir_fichero_qt.h"
+#include "shell/ventanas/barra_buscar.h"
+#include "shell/ventanas/barra_estado_qt.h"
 #include "shell/ventanas/lector_ayuda.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QPixmap>
-#include <QStatusBar>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QTextBlock>
 #include <QTimer>
+#include <QVBoxLayout>
 
 namespace {
 
 constexpr int MinutoEnMilisegundos = 60'000;
 
-// Two things that the toolkit's control does otherwise. It writes the letter of Alt+letter. And it looks at the first
-// format of what is pasted: version 6.4 ends the program when the clipboard has none, on a desktop where nothing was copied
-// yet, or whose owner has gone.
-class ControlDeSentencias : public QPlainTextEdit {
-public:
-    using QPlainTextEdit::QPlainTextEdit;
-
-protected:
-    void keyPressEvent(QKeyEvent *tecla) override {
-        if (!EsLetraConAlt(*tecla)) QPlainTextEdit::keyPressEvent(tecla);
-    }
-    void insertFromMimeData(const QMimeData *datos) override {
-        if (datos != nullptr && datos->hasText()) QPlainTextEdit::insertFromMimeData(datos);
-    }
-};
+VentanaPrincipal *EnPantalla = nullptr; // the program has one
 
 VentanaPrincipal *Principal(Ventana *ventana) {
     return qobject_cast<VentanaPrincipal *>(DeVentana(ventana));
@@ -70,29 +61,97 @@ void EsperarDeLaPortada() {
 
 } // namespace
 
+void NotaEnPantalla(std::string_view texto, int linea) {
+    AnotarEnBarra(texto, linea);
+    if (EnPantalla != nullptr && !EnLote()) EnPantalla->barra->RefrescarMensaje();
+}
+
 VentanaPrincipal::VentanaPrincipal()
-    : EditorDatos(new VentanaEditor(this)), PantallaEdicion(new ControlDeSentencias(this)) {
+    : EditorDatos(new VentanaEditor(this)), PantallaEdicion(new ControlSentencias(this)),
+      buscar(new BarraBuscar(this, *PantallaEdicion)), barra(new BarraDeEstado(this, *PantallaEdicion)) {
     setObjectName(QStringLiteral("MiClaseVentana"));
     setWindowTitle(QStringLiteral("Tabira"));
-    PantallaEdicion->setObjectName(QStringLiteral("PantallaEdicion"));
-    PantallaEdicion->setAccessibleName(QStringLiteral("Pantalla de edición"));
-    PantallaEdicion->setFont(FuenteFijaDePantalla());
-    PantallaEdicion->setLineWrapMode(QPlainTextEdit::NoWrap);
-    PantallaEdicion->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    PantallaEdicion->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    PantallaEdicion->setFrameShape(QFrame::NoFrame);
-    // Tab goes on to the next control in dialogs; here it writes, as in any editor of statements.
-    PantallaEdicion->setTabChangesFocus(false);
-    setCentralWidget(PantallaEdicion);
-    statusBar()->hide(); // it takes room from the first note on
+    auto *centro = new QWidget(this);
+    auto *disposicion = new QVBoxLayout(centro);
+    disposicion->setContentsMargins(0, 0, 0, 0);
+    disposicion->setSpacing(0);
+    disposicion->addWidget(PantallaEdicion);
+    disposicion->addWidget(buscar);
+    setCentralWidget(centro);
+    setStatusBar(barra);
     resize(640, 400);
     CrearMenus();
+    CrearTeclas();
     PonerLector(*PantallaEdicion);
     auto *reloj = new QTimer(this);
     reloj->setObjectName(QStringLiteral("relojDeCopias"));
     connect(reloj, &QTimer::timeout, this, GuardarCopia);
     reloj->start(MinutoEnMilisegundos);
     PantallaEdicion->setFocus();
+    EnPantalla = this;
+}
+
+VentanaPrincipal::~VentanaPrincipal() {
+    if (EnPantalla == this) EnPantalla = nullptr;
+}
+
+void VentanaPrincipal::Ordenar(int id) {
+    BorrarNotasDeImpresion();
+    barra->Olvidar();
+    EjecutarComando(AVentana(this), id);
+    if (!Destruida) Refrescar();
+}
+
+void VentanaPrincipal::Refrescar() {
+    barra->Refrescar();
+    PantallaEdicion->RefrescarColores();
+}
+
+void VentanaPrincipal::TrasElLote() {
+    if (!UltimoFin.deDialogo) {
+        PantallaEdicion->QuitarParada();
+        if (Lote.detenido != 0 && Lote.parada.linea > 0 && !UltimoFin.porRegla)
+            PantallaEdicion->MarcarParada(Lote.parada.inicio);
+    }
+    Refrescar();
+}
+
+// What the menu has no entry for.
+void VentanaPrincipal::CrearTeclas() {
+    const auto tecla = [this](const QKeySequence &cual, void (VentanaPrincipal::*hacer)()) {
+        connect(new QShortcut(cual, this), &QShortcut::activated, this, hacer);
+    };
+    tecla(Qt::CTRL | Qt::Key_Return, &VentanaPrincipal::ProcesarLinea);
+    tecla(Qt::CTRL | Qt::Key_Enter, &VentanaPrincipal::ProcesarLinea);
+    tecla(Qt::Key_F5, &VentanaPrincipal::ProcesarTodo);
+    connect(PantallaEdicion, &ControlSentencias::PideBuscar, buscar, &BarraBuscar::Abrir);
+    connect(PantallaEdicion, &ControlSentencias::FicheroSoltado, this,
+            [this](const QString &ruta) { AbrirFichero(*this, ruta); });
+}
+
+void VentanaPrincipal::ProcesarTramo(int desde, int hasta) {
+    const QTextCursor antes = PantallaEdicion->textCursor();
+    QScrollBar *barras[] = {PantallaEdicion->verticalScrollBar(), PantallaEdicion->horizontalScrollBar()};
+    const int sitio[] = {barras[0]->value(), barras[1]->value()};
+    ControlTexto *control = AControl(PantallaEdicion);
+    SeleccionarEnControl(control, desde, hasta);
+    Ordenar(ComandoProcesar);
+    int inicio = 0, fin = 0;
+    SeleccionDeControl(control, inicio, fin);
+    if (Destruida || inicio != desde || fin != hasta) return; // the caret is where it stopped
+    PantallaEdicion->setTextCursor(antes);
+    for (int i = 0; i < 2; ++i) barras[i]->setValue(sitio[i]);
+}
+
+void VentanaPrincipal::ProcesarLinea() {
+    const QTextCursor cursor = PantallaEdicion->textCursor();
+    if (cursor.hasSelection()) return Ordenar(ComandoProcesar);
+    const QTextBlock linea = cursor.block();
+    ProcesarTramo(linea.position(), linea.position() + linea.length() - 1);
+}
+
+void VentanaPrincipal::ProcesarTodo() {
+    ProcesarTramo(0, PantallaEdicion->document()->characterCount() - 1);
 }
 
 void VentanaPrincipal::CrearMenus() {
@@ -103,10 +162,7 @@ void VentanaPrincipal::CrearMenus() {
         accion->setData(c.id);
         accion->setObjectName(QStringLiteral("comando%1").arg(c.id));
         const int id = c.id;
-        connect(accion, &QAction::triggered, this, [this, id] {
-            BorrarNotasDeImpresion();
-            EjecutarComando(AVentana(this), id);
-        });
+        connect(accion, &QAction::triggered, this, [this, id] { Ordenar(id); });
     }
 }
 
@@ -121,6 +177,7 @@ void VentanaPrincipal::closeEvent(QCloseEvent *suceso) {
 // No entry of the menu has a tip for the status line, and the toolkit would wipe out with it what stands there: where
 // the last document was printed to.
 bool VentanaPrincipal::event(QEvent *suceso) {
+    if (suceso->type() == QEvent::WindowActivate) Refrescar(); // the editor may have changed the data
     return suceso->type() == QEvent::StatusTip || QMainWindow::event(suceso);
 }
 
@@ -139,7 +196,7 @@ void VentanaPrincipal::paintEvent(QPaintEvent *suceso) {
 void VentanaPrincipal::MostrarPortada() {
     QApplication::setOverrideCursor(Qt::WaitCursor);
     const QPixmap imagen(QStringLiteral(":/tabira/portada.png"));
-    QLabel portada(PantallaEdicion->viewport());
+    QLabel portada(PantallaEdicion);
     portada.setObjectName(QStringLiteral("imagen"));
     portada.setPixmap(imagen);
     portada.move(50, 10);
@@ -178,6 +235,14 @@ void InstalarOperacionesEscritorio() {
                 Principal(v)->Destruida = true;
                 Principal(v)->close();
                 QCoreApplication::quit();
+            },
+        .empiezaLote =
+            [] {
+                if (EnPantalla != nullptr) EnPantalla->barra->RefrescarMensaje();
+            },
+        .terminaLote =
+            [] {
+                if (EnPantalla != nullptr) EnPantalla->TrasElLote();
             },
     };
     InstalarEscritorio(Operaciones);

@@ -2,21 +2,38 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QPlainTextEdit>
 
 #include "platform/plataforma.h"
+#include "shell/ventanas/control_sentencias.h"
 
 #include <functional>
 
+class BarraBuscar;
+class BarraDeEstado;
 class VentanaEditor;
 
 class VentanaPrincipal : public QMainWindow {
     Q_OBJECT
 public:
     VentanaPrincipal();
+    ~VentanaPrincipal() override;
 
     VentanaEditor *EditorDatos; // of the series and the matrices; hidden but while one of them is edited
-    QPlainTextEdit *PantallaEdicion;
+    ControlSentencias *PantallaEdicion;
+    BarraBuscar *buscar;
+    BarraDeEstado *barra;
+
+    // A command, with the status line around it.
+    void Ordenar(int id);
+
+    // Procesar over the selection or, where there is none, the line of the caret; and over the whole text. The
+    // selection is then as it was, unless the batch stopped.
+    void ProcesarLinea();
+    void ProcesarTodo();
+
+    // A batch has ended: its mark, the colours, the status line.
+    void TrasElLote();
+
     bool Destruida = false;              // the closing sequence ended: the window goes without asking again
     std::function<void()> TrasLaPortada; // once, when the window stands on the screen; may be empty
 
@@ -27,10 +44,16 @@ protected:
 
 private:
     void CrearMenus();
+    void CrearTeclas();
     void MostrarPortada();
+    void ProcesarTramo(int desde, int hasta);
+    void Refrescar();
 
     bool PortadaMostrada = false;
 };
+
+// A note, in the status line of the main window.
+void NotaEnPantalla(std::string_view texto, int linea);
 
 // The desktop's main window for the commands.
 void InstalarOperacionesEscritorio();

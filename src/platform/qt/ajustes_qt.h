@@ -1,0 +1,16 @@
+// What the desktop remembers from one run to the next, in its own place: where windows stood, and the files of late.
+#pragma once
+
+#include <QStringList>
+
+class QApplication;
+
+// From here on each dialog, result and chart opens where it was closed last, on the screen; and as large as the user
+// made it, but never smaller than what it shows asks for. Boxes and the main window have places of their own.
+void RecordarSitios(QApplication &aplicacion);
+
+// The file was opened, or is going to be saved. The last 10 are remembered.
+void AnotarReciente(const QString &ruta);
+
+// The folders of those that are still there, each once, that of the last one first.
+QStringList CarpetasRecientes();
