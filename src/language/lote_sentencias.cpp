@@ -67,7 +67,8 @@ bool RecorrerLote(Ventana *ventana, int origen, std::string_view sentencia, cons
 // The same with the places of the statements told.
 void CorrerConLugares(Ventana *ventana, int origen, std::string_view sentencia, const TextoDeLote &texto,
                       int primera, int ultima) {
-    const TextoEnCurso anterior = EmpezarLugares(texto.completo);
+    const int hasta = origen == OrigenSeleccion ? texto.hasta : static_cast<int>(texto.completo.size());
+    const TextoEnCurso anterior = EmpezarLugares(texto.completo, texto.desde, hasta);
     if (RecorrerLote(ventana, origen, sentencia, texto, primera, ultima)) {
         Lote.detenido = 0;
     } else {

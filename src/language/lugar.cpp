@@ -9,10 +9,14 @@ TextoEnCurso EnCurso;
 
 } // namespace
 
-TextoEnCurso EmpezarLugares(const std::string &texto) {
+TextoEnCurso EmpezarLugares(const std::string &texto, int desde, int hasta) {
     const TextoEnCurso anterior = EnCurso;
-    EnCurso = {&texto, 0, 0};
+    EnCurso = {&texto, 0, 0, desde, hasta};
     return anterior;
+}
+
+const TextoEnCurso &LoteEnCurso() {
+    return EnCurso;
 }
 
 void TerminarLugares(const TextoEnCurso &anterior) {

@@ -17,9 +17,14 @@ struct TextoEnCurso {
     const std::string *texto = nullptr;
     int inicio = 0; // offset of the statement at hand
     int base = 0;   // offset of the block around it
+    int desde = 0;  // what runs of the text: [desde, hasta)
+    int hasta = 0;
 };
-TextoEnCurso EmpezarLugares(const std::string &texto);
+TextoEnCurso EmpezarLugares(const std::string &texto, int desde, int hasta);
 void TerminarLugares(const TextoEnCurso &anterior);
+
+// The batch at hand; without one, its text is null.
+const TextoEnCurso &LoteEnCurso();
 
 // The statement at hand begins at `inicio` of the text; the lines of the block at hand begin at `base` of it.
 void PonerLugar(int inicio);

@@ -16,6 +16,7 @@
 #include "language/lote_sentencias.h"
 #include "platform/qt/dialogo_decimales.h"
 #include "platform/qt/impresora_qt.h"
+#include "shell/registro.h"
 #include "shell/ventanas/dialogos.h"
 #include "shell/ventanas/ventana_principal.h"
 #include "store/ventanas/dialogo_tipo_datos.h"
@@ -73,6 +74,7 @@ std::span<const FilaDeDialogo> TablaDeDialogos() {
 
 void InstalarVentanas() {
     InstalarPlataformaQt({MostrarResultadoQt, MostrarGraficoQt, Dialogos, RefrescarEditorQt, NotaEnPantalla});
+    RegistrarPlataforma();
 }
 
 void PrepararEscritorio() {

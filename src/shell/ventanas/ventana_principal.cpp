@@ -13,6 +13,7 @@
 #include "shell/ventanas/barra_buscar.h"
 #include "shell/ventanas/barra_estado_qt.h"
 #include "shell/ventanas/lector_ayuda.h"
+#include "shell/ventanas/registro_qt.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -83,6 +84,7 @@ VentanaPrincipal::VentanaPrincipal()
     CrearMenus();
     CrearTeclas();
     PonerLector(*PantallaEdicion);
+    PonerRegistro(*this);
     auto *reloj = new QTimer(this);
     reloj->setObjectName(QStringLiteral("relojDeCopias"));
     connect(reloj, &QTimer::timeout, this, GuardarCopia);
