@@ -124,7 +124,7 @@ private:
             if (e.clase == EntradaResultado) {
                 const qsizetype titulo = lineas.indexOf(u'\n');
                 QTextCharFormat abrible;
-                abrible.setForeground(palette().link());
+                abrible.setFontWeight(QFont::Bold);
                 abrible.setFontUnderline(true);
                 c.insertText(lineas.left(titulo), abrible);
                 c.insertText(lineas.mid(titulo), formato);
