@@ -7,17 +7,11 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QScreen>
-#include <QSettings>
 
 namespace {
 
 constexpr qsizetype MaximoRecientes = 10;
 constexpr const char *Recientes = "recientes";
-
-QSettings Ajustes() {
-    return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("tabira"),
-                     QStringLiteral("tabira"));
-}
 
 // The name under which the place of this window is kept; empty for one that has none.
 QString NombreDeSitio(const QObject *objeto) {
@@ -77,6 +71,11 @@ private:
 };
 
 } // namespace
+
+QSettings Ajustes() {
+    return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("tabira"),
+                     QStringLiteral("tabira"));
+}
 
 void RecordarSitios(QApplication &aplicacion) {
     aplicacion.installEventFilter(new MemoriaDeSitios(&aplicacion));

@@ -1,9 +1,14 @@
-// What the desktop remembers from one run to the next, in its own place: where windows stood, and the files of late.
+// What the desktop remembers from one run to the next, in its own place: where windows stood, the files of late,
+// choices of the user. None of it touches what the program computes.
 #pragma once
 
+#include <QSettings>
 #include <QStringList>
 
 class QApplication;
+
+// The one place of all of it.
+QSettings Ajustes();
 
 // From here on each dialog, result and chart opens where it was closed last, on the screen; and as large as the user
 // made it, but never smaller than what it shows asks for. Boxes and the main window have places of their own.

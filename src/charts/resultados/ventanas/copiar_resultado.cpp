@@ -2,7 +2,7 @@
 #include "charts/resultados/ventanas/copiar_resultado.h"
 
 #include "charts/resultados/formatos_tabla.h"
-#include "platform/qt/preferencias.h"
+#include "platform/qt/ajustes_qt.h"
 #include "platform/qt/texto_qt.h"
 
 #include <QApplication>
@@ -44,9 +44,9 @@ void CopiarComoMarkdown(const SalidaResultado &salida) {
 }
 
 bool ComasAlCopiar() {
-    return Preferencias().value(QLatin1String(ClaveDeComas), false).toBool();
+    return Ajustes().value(QLatin1String(ClaveDeComas), false).toBool();
 }
 
 void PonerComasAlCopiar(bool comas) {
-    Preferencias().setValue(QLatin1String(ClaveDeComas), comas);
+    Ajustes().setValue(QLatin1String(ClaveDeComas), comas);
 }
