@@ -5,7 +5,7 @@
 #include "estimation/regresion.h"
 #include "hypothesis/orden.h"
 #include "language/cadena.h"
-#include "language/fin_lote.h"
+#include "language/lote_sentencias.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
@@ -259,7 +259,7 @@ int ContrasteGoldfeldQuandt(LineasSentencia &lineas, int posicion, Ventana *vent
     if (Contrastar(g) == 0) {
         BorrarTemporales(ventana, OrdenMGD);
     } else {
-        UltimoFin.porRegla = true;
+        Lote.finPorRegla = true;
     }
     return 0;
 }

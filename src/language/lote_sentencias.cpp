@@ -1,7 +1,6 @@
 // The loop that runs a batch of statements: the selection of a text control, or the one statement of a dialog.
 #include "language/lote_sentencias.h"
 
-#include "language/fin_lote.h"
 #include "language/notas.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
@@ -9,8 +8,7 @@
 
 #include <algorithm>
 
-EstadoLote Lote{1, 2, 0, 0, 0, {}};
-FinDeLote UltimoFin;
+EstadoLote Lote;
 void (*AntesDeCadaLote)() = nullptr;
 void (*DespuesDeCadaLote)() = nullptr;
 
@@ -80,7 +78,7 @@ void CorrerConLugares(Ventana *ventana, int origen, std::string_view sentencia, 
 } // namespace
 
 void IniciarLote() {
-    Lote = {1, 2, 0, 0, 0, {}};
+    Lote = {};
 }
 
 int MensajeNumerado(Ventana *ventana, int punto, std::string_view texto) {
@@ -118,7 +116,8 @@ int ProcesarLote(Ventana *ventana, ControlTexto *control, int origen, std::strin
     Lote.detenido = 1;
     Lote.sentencias = 0;
     Lote.parada = {};
-    UltimoFin = {origen != OrigenSeleccion, false};
+    Lote.finPorRegla = false;
+    Lote.deDialogo = origen != OrigenSeleccion;
     OlvidarNotas();
     CorrerLote(ventana, control, origen, texto, primera, ultima);
     if (DespuesDeCadaLote != nullptr) DespuesDeCadaLote();

@@ -7,14 +7,17 @@
 
 #include <string_view>
 
+// With the values of the program's start.
 struct EstadoLote {
-    int VerRegresion;          // 0: MC and MCP show no window; start value 1
-    int DecimalesSalida;       // decimals of result windows; start value 2
-    int NingunaSentenciaHecha; // 1 from the start of a batch until a first statement ended well
-    int detenido;              // 1 when the last batch stopped before its end
-    int sentencias;            // that the last batch ran to their end, blocks counted as one, comments not
-    LugarDeSentencia
-        parada; // at which the last batch stopped; none when it didn't, or before its first statement
+    int VerRegresion = 1;          // 0: MC and MCP show no window
+    int DecimalesSalida = 2;       // decimals of result windows
+    int NingunaSentenciaHecha = 0; // 1 from the start of a batch until a first statement ended well
+    int detenido = 0;              // 1 when the last batch stopped before its end
+    int sentencias = 0; // that the last batch ran to their end, blocks counted as one, comments not
+    // At which the last batch stopped; none when it didn't, or before its first statement.
+    LugarDeSentencia parada = {};
+    bool finPorRegla = false; // it stopped at a statement that went well and ends its batch all the same
+    bool deDialogo = false;   // it was one statement that a dialog or a command composed, no text of the user
 };
 
 extern EstadoLote Lote;

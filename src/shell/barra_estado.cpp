@@ -1,7 +1,6 @@
 // The texts of the status line.
 #include "shell/barra_estado.h"
 
-#include "language/fin_lote.h"
 #include "language/lote_sentencias.h"
 #include "platform/campos_texto.h"
 #include "platform/texto.h"
@@ -98,9 +97,9 @@ std::string FinalDelLote() {
         return Lote.sentencias == 1 ? "1 sentencia procesada"
                                     : Formatear("%d sentencias procesadas", Lote.sentencias);
     if (Lote.parada.linea == 0) return {}; // refused before its first statement, and its box said why
-    if (UltimoFin.deDialogo)
-        return UltimoFin.porRegla ? "1 sentencia procesada" : "Detenido: " + Lote.parada.sentencia;
-    if (UltimoFin.porRegla) return Formatear("Procesado hasta la línea %d"_w, Lote.parada.linea);
+    if (Lote.deDialogo)
+        return Lote.finPorRegla ? "1 sentencia procesada" : "Detenido: " + Lote.parada.sentencia;
+    if (Lote.finPorRegla) return Formatear("Procesado hasta la línea %d"_w, Lote.parada.linea);
     return Formatear("Detenido en la línea %d: "_w, Lote.parada.linea) + Lote.parada.sentencia;
 }
 

@@ -3,7 +3,6 @@
 
 #include "data/copia_seguridad.h"
 #include "data/ventanas/ventana_editor.h"
-#include "language/fin_lote.h"
 #include "language/lote_sentencias.h"
 #include "platform/qt/impresora_qt.h"
 #include "platform/qt/texto_qt.h"
@@ -110,9 +109,9 @@ void VentanaPrincipal::Refrescar() {
 }
 
 void VentanaPrincipal::TrasElLote() {
-    if (!UltimoFin.deDialogo) {
+    if (!Lote.deDialogo) {
         PantallaEdicion->QuitarParada();
-        if (Lote.detenido != 0 && Lote.parada.linea > 0 && !UltimoFin.porRegla)
+        if (Lote.detenido != 0 && Lote.parada.linea > 0 && !Lote.finPorRegla)
             PantallaEdicion->MarcarParada(Lote.parada.inicio);
     }
     Refrescar();
