@@ -30,7 +30,7 @@ struct EstadoDeCopias {
     bool escrita = false; // the file is there
     Huella copiado = 0;   // the work that it holds
     bool hayGuardado = false;
-    Huella guardado = 0; // the work that a file of the user holds
+    Huella guardado = 0; // the work that a file of the user, or of an example, holds
     ControlTexto *pantalla = nullptr;
     std::string texto = {}; // that the copy of the statements holds; empty: there is none
 };
@@ -215,6 +215,10 @@ void AnotarTrabajoGuardado() {
     Copias.hayGuardado = true;
     Copias.guardado = HuellaDelTrabajo();
     BorrarCopia();
+}
+
+bool HayTrabajoSinGuardar() {
+    return !EstaGuardado(HuellaDelTrabajo());
 }
 
 bool TerminarCopias(bool conservar) {

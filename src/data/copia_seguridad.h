@@ -21,8 +21,11 @@ void OfrecerCopia(Ventana *ventana);
 // statements likewise while there are any.
 void GuardarCopia();
 
-// The work is as it stands in a file of the user.
+// The work is as it stands in a file: of the user, or of an example.
 void AnotarTrabajoGuardado();
+
+// There is work that no file holds as it is.
+bool HayTrabajoSinGuardar();
 
 // The end of the program. With `conservar` the copy of work that isn't saved stays for the next start; else it goes.
 // False when there is such work and no copy of it can be kept: the program must not end then.

@@ -104,6 +104,16 @@ void PonerEnPantalla(ControlTexto *pantalla, std::string_view actual, std::strin
     EscribirEnControl(pantalla, ConFinesLf(texto));
 }
 
+// The same with what was read, cut to what the commands work with.
+void PonerLeido(ControlTexto *pantalla, std::string_view actual, std::string &buffer) {
+    if (buffer.size() > Limite) {
+        buffer.resize(CortePantalla);
+    } else if (buffer.size() >= 2) {
+        buffer.resize(buffer.size() - 2);
+    }
+    PonerEnPantalla(pantalla, actual, buffer);
+}
+
 } // namespace
 
 void ComandoSentencias(Ventana *ventana, ControlTexto *pantalla, ComandosDeSentencias comando) {
@@ -112,10 +122,12 @@ void ComandoSentencias(Ventana *ventana, ControlTexto *pantalla, ComandosDeSente
     std::string &buffer = area.BufferSentencias;
     if (comando != AbrirSentencias) buffer = ConFinesCrLf(actual).substr(0, Limite) + "\r\n";
     if (!ArchivoSentencias(ventana, comando, area) || comando == GuardarSentencias) return;
-    if (buffer.size() > Limite) {
-        buffer.resize(CortePantalla);
-    } else if (buffer.size() >= 2) {
-        buffer.resize(buffer.size() - 2);
-    }
-    PonerEnPantalla(pantalla, actual, buffer);
+    PonerLeido(pantalla, actual, buffer);
+}
+
+bool AbrirFicheroSentencias(Ventana *ventana, ControlTexto *pantalla, const std::string &ruta) {
+    AreaSentencias area = {"", 0};
+    if (!LeerSentencias(ventana, ruta, area)) return false;
+    PonerLeido(pantalla, TextoDeControl(pantalla), area.BufferSentencias);
+    return true;
 }

@@ -3,6 +3,8 @@
 
 #include "platform/plataforma.h"
 
+#include <string>
+
 enum ComandosDeSentencias { AbrirSentencias, GuardarSentencias, AnadirSentencias };
 
 // Characters of the text of a statement file with which the commands work.
@@ -14,3 +16,7 @@ inline constexpr int LimiteSentencias = 4000;
 // "Nombre archivo incorrecto" (a name or folder with "*", "?" or "-"), "Error al abrir el archivo", "No se puede leer el
 // fichero completo" (what was read goes on to the screen).
 void ComandoSentencias(Ventana *ventana, ControlTexto *pantalla, ComandosDeSentencias comando);
+
+// Opens the statement file of this path, whatever its name, in the same way. False after its message, with the screen as it
+// was.
+bool AbrirFicheroSentencias(Ventana *ventana, ControlTexto *pantalla, const std::string &ruta);

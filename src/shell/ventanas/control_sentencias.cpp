@@ -4,6 +4,7 @@
 #include "platform/qt/superficie_qt.h"
 #include "platform/qt/texto_qt.h"
 #include "platform/qt/ventana_qt.h"
+#include "shell/ejemplos.h"
 #include "shell/ventanas/colores_sentencias.h"
 
 #include <QMenu>
@@ -239,6 +240,13 @@ void ControlSentencias::contextMenuEvent(QContextMenuEvent *suceso) {
     menu->setObjectName(QStringLiteral("menuContexto"));
     menu->addSeparator();
     menu->addAction(QStringLiteral("&Buscar y reemplazar..."), this, &ControlSentencias::PideBuscar);
+    QMenu *ejemplos = menu->addMenu(QStringLiteral("&Ejemplos"));
+    ejemplos->setObjectName(QStringLiteral("menuEjemplos"));
+    for (int i = 0; i < NumEjemplos; ++i) {
+        if (i > 0 && TablaEjemplos[i].nombre == nullptr && TablaEjemplos[i - 1].nombre != nullptr)
+            ejemplos->addSeparator(); // statements behind the data
+        ejemplos->addAction(QDe1252(TablaEjemplos[i].entrada), this, [this, i] { emit PideEjemplo(i); });
+    }
     menu->exec(suceso->globalPos());
 }
 

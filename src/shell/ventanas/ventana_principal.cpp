@@ -8,6 +8,7 @@
 #include "platform/qt/texto_qt.h"
 #include "platform/qt/ventana_qt.h"
 #include "shell/comandos.h"
+#include "shell/ejemplos.h"
 #include "shell/ventanas/abrir_fichero_qt.h"
 #include "shell/ventanas/barra_buscar.h"
 #include "shell/ventanas/barra_estado_qt.h"
@@ -97,9 +98,13 @@ VentanaPrincipal::~VentanaPrincipal() {
 }
 
 void VentanaPrincipal::Ordenar(int id) {
+    ConLaBarra([&] { EjecutarComando(AVentana(this), id); });
+}
+
+void VentanaPrincipal::ConLaBarra(const std::function<void()> &hacer) {
     BorrarNotasDeImpresion();
     barra->Olvidar();
-    EjecutarComando(AVentana(this), id);
+    hacer();
     if (!Destruida) Refrescar();
 }
 
@@ -128,6 +133,9 @@ void VentanaPrincipal::CrearTeclas() {
     connect(PantallaEdicion, &ControlSentencias::PideBuscar, buscar, &BarraBuscar::Abrir);
     connect(PantallaEdicion, &ControlSentencias::FicheroSoltado, this,
             [this](const QString &ruta) { AbrirFichero(*this, ruta); });
+    connect(PantallaEdicion, &ControlSentencias::PideEjemplo, this, [this](int cual) {
+        ConLaBarra([&] { AbrirEjemplo(AVentana(this), AControl(PantallaEdicion), cual); });
+    });
 }
 
 void VentanaPrincipal::ProcesarTramo(int desde, int hasta) {

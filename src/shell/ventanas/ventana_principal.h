@@ -43,6 +43,7 @@ protected:
     void paintEvent(QPaintEvent *suceso) override;
 
 private:
+    void ConLaBarra(const std::function<void()> &hacer);
     void CrearMenus();
     void CrearTeclas();
     void MostrarPortada();
