@@ -8,6 +8,7 @@
 
 #include "estimation/tabla_pasos.h"
 #include "platform/numeros.h"
+#include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 
@@ -82,6 +83,24 @@ int PonerObservacionDelTermino(Estimacion &e, const Datos &d, int t, int retardo
     return GuardarFila(e, "_S2", "_TMS3", x, d.k) == 1 ? GuardarFila(e, "_TMS2", "_S3", z, d.k) : 0;
 }
 
+// The trace of a sum. x(t) is a row of the data as a column, e(t) its residual; the weights have ten decimals, as told.
+void TrazarCentro(int retardo, const char *destino) {
+    if (!Trazando()) return;
+    FilasTraza filas = FilasDeRegresion();
+    filas.primera += retardo;
+    const int n = UltimaRegresion.RetardosCovarianza + 1;
+    if (retardo == 0)
+        TrazarMatriz(destino, ConPeriodos("suma de e(t)^2 x(t) x(t)'", filas),
+                     "Productos de los regresores, ponderados por los cuadrados de los residuos", filas);
+    else
+        TrazarMatriz(destino,
+                     ConPeriodos(Formatear("suma de (1 - %d/%d) e(t) e(t-%d) (x(t) x(t-%d)' + x(t-%d) x(t)')",
+                                           retardo, n, retardo, retardo, retardo),
+                                 filas),
+                     Formatear("Productos cruzados a distancia %d, ponderados por los residuos", retardo),
+                     filas);
+}
+
 // The matrix `destino` := the sum over t from `retardo` on of w(t) = e(t) e(t - retardo) factor times the products of the
 // two rows. Without such a t nothing is stored.
 int SumarCentro(Estimacion &e, const Datos &d, int retardo, double factor, const char *destino) {
@@ -108,7 +127,10 @@ int SumarCentro(Estimacion &e, const Datos &d, int retardo, double factor, const
     LlenarMitadInferior(suma, d.k);
     const std::vector<double> ultimo = MatrizDeTermino(d, d.n - 1, retardo, w);
     if (PonerObservacionDelTermino(e, d, d.n - 1, retardo) == 0) return 0;
-    return Guardar(e, "_S5", ultimo.data(), d.k, d.k) == 1 ? Guardar(e, destino, suma.data(), d.k, d.k) : 0;
+    if (Guardar(e, "_S5", ultimo.data(), d.k, d.k) == 0 || Guardar(e, destino, suma.data(), d.k, d.k) == 0)
+        return 0;
+    TrazarCentro(retardo, destino);
+    return 1;
 }
 
 // _S0 and _S9. The second is X'X once more, which the regression has in the same order of its sums.
@@ -117,7 +139,12 @@ int SumarSinRetardo(Estimacion &e, const Datos &d) {
     const double *momentos = ElementosDe("_TMF5");
     const double *ultima = d.X + (d.n - 1) * d.k;
     if (momentos == nullptr) return MensajePunto(e.ventana, SecuenciaNoValida, 6528);
-    return GuardarFila(e, "_TMS2", "_TMS3", ultima, d.k) == 1 ? Guardar(e, "_S9", momentos, d.k, d.k) : 0;
+    if (GuardarFila(e, "_TMS2", "_TMS3", ultima, d.k) == 0 || Guardar(e, "_S9", momentos, d.k, d.k) == 0)
+        return 0;
+    if (Trazando())
+        TrazarMatriz("_S9", ConPeriodos("suma de x(t) x(t)'", FilasDeRegresion()),
+                     "Productos cruzados de los regresores: X'X", FilasDeRegresion());
+    return 1;
 }
 
 // `veces` additions of c to s, one after the other. From one power of two to the next every addition of the same number
@@ -162,7 +189,11 @@ int SumarRetardos(Estimacion &e, const Datos &d) {
     const double *ultimo = ElementosDe("_S8");
     for (std::size_t i = 0; retardo <= n && i < elementos; ++i)
         suma[i] = SumarVeces(suma[i], ultimo[i], n - retardo + 1);
-    return Guardar(e, "_S7", suma.data(), d.k, d.k);
+    if (Guardar(e, "_S7", suma.data(), d.k, d.k) == 0) return 0;
+    if (Trazando())
+        TrazarMatriz("_S7", Formatear("suma de _S8, retardos 1 a %d", n),
+                     "Suma de los productos cruzados de todos los retardos");
+    return 1;
 }
 
 // ----- The Wald statistic
@@ -191,12 +222,18 @@ int EstadisticoWald(Estimacion &e) {
     }
     SoltarMatriz(BuscarMatriz("_S0"));
     SoltarMatriz(BuscarMatriz("_S8"));
+    if (Trazando()) {
+        TrazarMatriz("_S0", "_S0 sin las constantes", "Coeficientes que se contrastan");
+        TrazarMatriz("_S8", "_S8 sin las constantes",
+                     "Matriz de covarianzas de los coeficientes que se contrastan");
+    }
     // With nothing but constants there is nothing to test, and no inverse.
     const double nada = 0.0;
     if (TablaMatrices.registro[BuscarMatriz("_S0")].Filas == 0) return Guardar(e, "_S3", &nada, 1, 1);
     if (EjecutarSinPuntos(e, PasosFilaWald) == 0) return 0;
     RegistroMatriz &fila = TablaMatrices.registro[BuscarMatriz("_S2")];
     std::swap(fila.Filas, fila.Columnas);
+    if (Trazando()) TrazarMatriz("_S2", "_S2'", "Coeficientes que se contrastan, en fila");
     const DatoCadena datos[] = {DatoNumero("d", std::max(e.regresores - 1, 1))};
     return EjecutarSinPuntos(e, PasosFormaWald, datos);
 }

@@ -37,7 +37,8 @@ void AnadirSerie(Estimacion &e, const std::string &columna, const std::string &t
 // Evaluates the text over the sample into the next _TMRn, whose name goes to `nombre`.
 int GenerarRegresor(Estimacion &e, const std::string &texto, std::string &nombre) {
     nombre = Formatear("_TMR%d", e.numeroGenerada++);
-    switch (SerieDeFormula(CadenaDe(e), nombre, texto)) {
+    switch (SerieDeFormula(CadenaDe(e), nombre, texto,
+                           "Regresor retardado, adelantado o de un período, como serie"_w)) {
     case FormulaErronea: return MensajePunto(e.ventana, SecuenciaNoValida, 851);
     case FormulaSinGuardar: return MensajePunto(e.ventana, FaltanSeries, 862);
     default: return 1;
@@ -133,12 +134,14 @@ int LeerRegresores(Estimacion &e, Lector &lector) {
 // ----- The two matrices
 
 // The matrix from the brace list over the range of the regression. False after the evaluator's message.
-bool MatrizDelRango(const Estimacion &e, std::string_view destino, const std::string &llaves) {
-    return MatrizDeFormula(CadenaDe(e), destino, llaves) == FormulaGuardada;
+bool MatrizDelRango(const Estimacion &e, std::string_view destino, const std::string &llaves,
+                    std::string_view explicacion) {
+    return MatrizDeFormula(CadenaDe(e), destino, llaves, explicacion) == FormulaGuardada;
 }
 
 int ConstruirDependiente(Estimacion &e) {
-    if (MatrizDelRango(e, "_YDEP", "{" + e.dependiente + "} ")) return 1;
+    if (MatrizDelRango(e, "_YDEP", "{" + e.dependiente + "} ", "Variable dependiente y, en columna"))
+        return 1;
     return MensajePunto(e.ventana, Formatear("%s: [%s]", SecuenciaNoValida, e.dependiente.c_str()), 363);
 }
 
@@ -158,7 +161,9 @@ int ConstruirRegresores(Estimacion &e) {
     std::string llaves = "{ ";
     for (const std::string &columna : e.columnas) llaves += columna + " ";
     llaves += "} ";
-    if (MatrizDelRango(e, "_XIND", llaves)) return 1;
+    if (MatrizDelRango(e, "_XIND", llaves,
+                       "Regresores X: una columna por regresor, una fila por observación"_w))
+        return 1;
     return MensajePunto(e.ventana, Formatear("%s: [%s]", SecuenciaNoValida, llaves.c_str()), 651);
 }
 

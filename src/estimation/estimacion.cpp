@@ -20,6 +20,10 @@ Cadena CadenaDe(const Estimacion &e, std::span<const DatoCadena> datos) {
             e.codigo, datos};
 }
 
+FilasTraza FilasDeRegresion() {
+    return {Muestra.InicioRegresion, Muestra.FinRegresion};
+}
+
 double *ElementosDe(std::string_view matriz) {
     const int m = BuscarMatriz(matriz);
     if (m < 0 || !FijarMatriz(m)) return nullptr;

@@ -3,6 +3,7 @@
 
 #include "estimation/regresion.h"
 #include "language/cadena.h"
+#include "language/traza.h"
 
 #include <string>
 #include <string_view>
@@ -36,6 +37,9 @@ void AnadirRegresor(Estimacion &e, std::string_view columna, std::string_view te
 
 // The chain over the range of the regression at this moment, with the names of its code.
 Cadena CadenaDe(const Estimacion &e, std::span<const DatoCadena> datos = {});
+
+// The range of the regression at this moment, for the trace.
+FilasTraza FilasDeRegresion();
 
 // Elements of a matrix, by rows, with its block locked; null when there is no such matrix. The place is valid until the
 // matrix is stored anew or deleted, locked or not.

@@ -35,12 +35,23 @@ std::string EstadisticoF(const Estimacion &e) {
     const double r2 = RCuadrado(e);
     const int k = e.regresores, gl = GradosDeLibertad(e);
     if (k - 1 <= 0 || 1.0 - r2 <= 0.0 || gl <= 0) return "0.00";
-    return Formatear("%f", (r2 / (k - 1)) / ((1.0 - r2) / gl));
+    const double f = (r2 / (k - 1)) / ((1.0 - r2) / gl);
+    if (Trazando()) {
+        const char *rc = NombreFamilia(FamRC, e.codigo);
+        TrazarEscalar({}, Formatear("(%s/%d) / ((1 - %s)/%d)", rc, k - 1, rc, gl), f,
+                      "Estadístico F: R2 por regresor entre lo que falta a 1 por grado de libertad"_w);
+    }
+    return Formatear("%f", f);
 }
 
 // Without degrees of freedom the quotient is no number, and its text would be no formula: it counts as 0, as F does.
 std::string RCuadradoCorregido(const Estimacion &e) {
     const double corregido = 1.0 - (1.0 - RCuadrado(e)) * (e.observaciones - 1) / GradosDeLibertad(e);
+    if (Trazando())
+        TrazarEscalar({},
+                      Formatear("1 - (1 - %s) * %d / %d", NombreFamilia(FamRC, e.codigo), e.observaciones - 1,
+                                GradosDeLibertad(e)),
+                      corregido, "R2 corregido por los grados de libertad");
     return GradosDeLibertad(e) == 0 || !std::isfinite(corregido) ? "0.00" : Formatear("%f", corregido);
 }
 
@@ -88,6 +99,9 @@ int EjecutarRestringido(const Estimacion &e) {
 }
 
 int EjecutarWhite(const Estimacion &e) {
+    if (Trazando())
+        TrazarEscalar({}, Formatear("%d * %s", e.observaciones, NombreFamilia(FamRC, e.codigo)),
+                      e.observaciones * RCuadrado(e), "Estadístico de White: observaciones por R2"_w);
     const DatoCadena datos[] = {
         DatoNumero("chi", e.observaciones * RCuadrado(e)),
         DatoNumero("grados", SeriesDe(OrdenCWH)),
@@ -107,6 +121,13 @@ int EjecutarGoldfeld(const Estimacion &e) {
     const double glNumerador = c.ultimaNumerador - c.primeraNumerador + 1 - k;
     const double denominador = Cociente(ValorDe(FamSCR, OrdenMGD), glDenominador);
     const double numerador = Cociente(ValorDe(FamSCR, OrdenMGN), glNumerador);
+    if (Trazando()) {
+        const char *arriba = NombreFamilia(FamSCR, OrdenMGN), *abajo = NombreFamilia(FamSCR, OrdenMGD);
+        TrazarEscalar(
+            {}, Formatear("(%s/%.0f) / (%s/%.0f)", arriba, glNumerador, abajo, glDenominador),
+            Cociente(numerador, denominador),
+            "Estadístico de Goldfeld y Quandt: cociente de las varianzas de los residuos de las dos partes"_w);
+    }
     const DatoCadena datos[] = {
         DatoNumero("cociente", Cociente(numerador, denominador)),
         DatoNumero("glNumerador", glNumerador),

@@ -10,6 +10,19 @@
 #include <algorithm>
 #include <vector>
 
+namespace {
+
+// The weight is typed: the trace shows how it is reduced.
+FinesDeFormula FormulaEscrita(const Estimacion &e, const std::string &formula) {
+    Traza.reducciones = true;
+    const FinesDeFormula fin =
+        SerieDeFormula(CadenaDe(e), "_VORD", formula, "Ponderación de cada observación"_w);
+    Traza.reducciones = false;
+    return fin;
+}
+
+} // namespace
+
 int LeerPonderacion(Estimacion &e, const std::string &texto, int &posicion) {
     SaltarBlancos(texto, posicion);
     if (CaracterEn(texto, posicion) != '(') return MensajePunto(e.ventana, "Indroduzca ponderación"_w, 1633);
@@ -19,7 +32,7 @@ int LeerPonderacion(Estimacion &e, const std::string &texto, int &posicion) {
     posicion = std::min(cierre + 1, static_cast<int>(texto.size()));
     if (UltimoNivel()) return MensajePunto(e.ventana, FaltanSeries, 8621);
     UltimaRegresion.TextoPonderacion = formula;
-    switch (SerieDeFormula(CadenaDe(e), "_VORD", formula)) {
+    switch (FormulaEscrita(e, formula)) {
     case FormulaErronea: return MensajePunto(e.ventana, formula, 8511);
     case FormulaSinGuardar: return MensajePunto(e.ventana, FaltanSeries, 8628);
     default: UltimaRegresion.Ponderada = 1; return 1;
@@ -45,6 +58,13 @@ int PonderarDatos(Estimacion &e) {
     }
     if (GuardarMatriz("_S2", ponderados.data(), n, k) != MatrizGuardada)
         return MensajePunto(e.ventana, SecuenciaNoValida, 6529);
+    if (Trazando()) {
+        const FilasTraza filas = FilasDeRegresion();
+        TrazarMatriz("_S2", ConPeriodos("x(t) _VORD(t)", filas),
+                     "Regresores por la ponderación de su observación"_w, filas);
+        TrazarMatriz("_YDEP", ConPeriodos("y(t) _VORD(t)", filas),
+                     "Variable dependiente por la ponderación de su observación"_w, filas);
+    }
     return EjecutarCadena(CadenaDe(e), PasosPonderada);
 }
 
@@ -102,5 +122,8 @@ int GuardarResiduosOriginales(const Estimacion &e) {
         residuos.push_back(fila[y] - ajustado);
     }
     GuardarEnSerie("_RESN", residuos, desde);
+    if (Trazando())
+        TrazarSerie("_RESN", ConPeriodos("y(t) - x(t)' _BETA, sin ponderar", FilasDeRegresion()),
+                    "Residuos de los datos originales con los coeficientes ponderados", FilasDeRegresion());
     return 1;
 }

@@ -34,6 +34,19 @@ void Informar(Estimacion &e) {
     SoltarTodasMatrices();
 }
 
+// What the trace calls it.
+const char *NombreDeRegresion(int codigo) {
+    switch (codigo) {
+    case OrdenMCP: return "Regresión por mínimos cuadrados ponderados"_w;
+    case OrdenCR: return "Regresión del modelo restringido"_w;
+    case OrdenMGN: return "Regresión del numerador: la parte de mayor varianza"_w;
+    case OrdenMGD: return "Regresión del denominador: la parte de menor varianza"_w;
+    case OrdenCWH:
+        return "Regresión auxiliar: cuadrados de los residuos sobre regresores, cuadrados y productos"_w;
+    default: return "Regresión por mínimos cuadrados ordinarios"_w;
+    }
+}
+
 int Estimar(Estimacion &e, int posicion) {
     if (LeerEcuacion(e, posicion) == 0 || EjecutarPasos(e) == 0 || CompletarRegresion(e) == 0) return 0;
     SoltarTodasMatrices();
@@ -51,7 +64,9 @@ int EstimarRegresion(LineasSentencia &lineas, int &posicion, Ventana *ventana, i
     e.lineas = &lineas;
     e.ventana = ventana;
     e.codigo = codigo;
+    const int grupo = AbrirGrupo(Recortado(LineaDelNivel(lineas)), NombreDeRegresion(codigo));
     const int bien = Estimar(e, posicion);
+    CerrarGrupo(grupo, bien == 1);
     SoltarTodasMatrices();
     const bool paraMGD = bien == 1 && codigo == OrdenMGN;
     if (!paraMGD && !e.seQuedan) BorrarTemporales(ventana, codigo);

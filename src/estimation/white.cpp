@@ -47,13 +47,17 @@ int GenerarCuadrados(Estimacion &e) {
     }
     ArchivoTrabajo.PrimeraObs[s] = 0;
     ArchivoTrabajo.UltimaObs[s] = MaxObservaciones - 1;
+    if (Trazando())
+        TrazarSerie("_RESCUAD", ArchivoTrabajo.Codigos[residuos] + std::string("^2, en todas las filas"),
+                    "Cuadrados de los residuos: variable dependiente de la regresión auxiliar"_w);
     return 1;
 }
 
 // A product of two columns of the list as the next series _TMPn, added to the list.
 int AnadirProducto(Estimacion &e, std::size_t i, std::size_t j, int &numero) {
     const std::string nombre = Formatear("_TMP%d", numero++);
-    switch (SerieDeFormula(CadenaDe(e), nombre, e.columnas[i] + "*" + e.columnas[j])) {
+    const char *explicacion = i == j ? "Cuadrado de un regresor" : "Producto de dos regresores";
+    switch (SerieDeFormula(CadenaDe(e), nombre, e.columnas[i] + "*" + e.columnas[j], explicacion)) {
     case FormulaErronea: return MensajePunto(e.ventana, SecuenciaNoValida, 851);
     case FormulaSinGuardar: return MensajePunto(e.ventana, FaltanSeries, 862);
     default: break;

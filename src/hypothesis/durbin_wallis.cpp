@@ -4,6 +4,8 @@
 #include "estimation/regresion.h"
 #include "hypothesis/informe_contrastes.h"
 #include "language/cadena.h"
+#include "language/traza.h"
+#include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 #include "store/temporales.h"
@@ -19,11 +21,15 @@ constexpr int OrdenWallis = 4; // quarters of a year
 // h is that of the rounded factors; its probability that of the product at full precision. The bracket belongs to the text,
 // and the evaluator stops there.
 constexpr PasoCadena PasosDurbin[] = {
-    {PasoEscalar, PrimeraFila, "_TMDU", "%(rho)f * %(raiz)f)"},
-    {PasoEscalar, PrimeraFila, "_TMDN", "PROBN(%(producto)f)"},
+    {PasoEscalar, PrimeraFila, "_TMDU", "%(rho)f * %(raiz)f)",
+     "Estadístico h de Durbin: autocorrelación por la raíz de n entre 1 - n por la varianza del coeficiente del retardo"_w},
+    {PasoEscalar, PrimeraFila, "_TMDN", "PROBN(%(producto)f)",
+     "Probabilidad del estadístico h de Durbin, normal"_w},
 };
 
-constexpr PasoCadena PasosWallis[] = {{PasoEscalar, PrimeraFila, "_DWWA", "%(d)f"}};
+constexpr PasoCadena PasosWallis[] = {
+    {PasoEscalar, PrimeraFila, "_DWWA", "%(d)f",
+     "Estadístico de Wallis: diferencias de los residuos a cuatro períodos entre residuos, al cuadrado"_w}};
 
 Cadena CadenaDeContraste(LineasSentencia &lineas, Ventana *ventana, const MensajesCadena &mensajes) {
     return {&lineas, ventana, Muestra.InicioRegresion, Muestra.FinRegresion, &mensajes};
@@ -65,6 +71,18 @@ int CalcularDurbin(LineasSentencia &lineas, Ventana *ventana) {
     const double raiz = s < 0.0 ? 0.0 : std::sqrt(s);
     const DatoCadena datos[] = {DatoNumero("rho", rho), DatoNumero("raiz", raiz),
                                 DatoNumero("producto", std::fabs(rho) * raiz)};
+    if (Trazando()) {
+        TrazarEscalar({}, Formatear("1 - %s/2", NombreFamilia(FamDW, OrdenMC)), rho,
+                      "Coeficiente de autocorrelación de primer orden"_w);
+        const int lugar = UltimaRegresion.RegresorRetardado + 1;
+        TrazarEscalar({}, Formatear("%s[%d,%d]", NombreFamilia(FamCOV, OrdenMC), lugar, lugar), varianza,
+                      "Varianza del coeficiente de la variable retardada");
+        const int n = Muestra.FinRegresion - Muestra.InicioRegresion + 1;
+        TrazarEscalar({}, Formatear("RCUAD(%d/(1 - %d * varianza))", n, n), raiz,
+                      "Raíz de n entre 1 menos n por la varianza; 0 si no existe"_w);
+        TrazarEscalar({}, "|autocorrelación| por la raíz"_w, std::fabs(rho) * raiz,
+                      "Estadístico h con todas sus cifras, sin signo, para su probabilidad"_w);
+    }
     Cadena c = CadenaDeContraste(lineas, ventana, MensajesAvisoSecuencia);
     c.datos = datos;
     if (EjecutarCadena(c, PasosDurbin) == 0) return 0;
@@ -97,7 +115,15 @@ int ContrasteDurbin(LineasSentencia &lineas, Ventana *ventana) {
 int ContrasteWallis(LineasSentencia &lineas, Ventana *ventana) {
     const int residuos = BuscarSerie(NombreFamilia(FamRES, OrdenMC));
     if (residuos < 0) return MensajeAviso(ventana, "Realize previamente una regresión"_w);
-    const DatoCadena datos[] = {DatoNumero("d", EstadisticoWallis(residuos))};
+    const double d = EstadisticoWallis(residuos);
+    if (Trazando()) {
+        const FilasTraza filas = {Muestra.InicioRegresion + OrdenWallis, Muestra.FinRegresion};
+        TrazarEscalar(
+            {}, ConPeriodos("suma de (e(t) - e(t-4))^2 / suma de e(t)^2", filas), d,
+            "Estadístico de Wallis: diferencias a cuatro períodos entre residuos, desde el quinto residuo"_w,
+            filas);
+    }
+    const DatoCadena datos[] = {DatoNumero("d", d)};
     Cadena c = CadenaDeContraste(lineas, ventana, MensajesAvisoCalculos);
     c.datos = datos;
     const int bien = EjecutarCadena(c, PasosWallis);

@@ -6,6 +6,8 @@
 #include "hypothesis/orden.h"
 #include "language/cadena.h"
 #include "language/lote_sentencias.h"
+#include "language/traza.h"
+#include "platform/campos_texto.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
@@ -132,7 +134,11 @@ int LeerOrdenacion(Goldfeld &g) {
     UltimoContraste.ordenacion = linea.substr(desde, static_cast<std::size_t>(cierre) - desde);
     g.posicion = std::min(cierre + 1, static_cast<int>(linea.size()));
     if (UltimoNivel()) return MensajePunto(g.ventana, FaltanSeries, 8622);
-    switch (SerieDeFormula(EnLaMuestra(g), "_TMP1", UltimoContraste.ordenacion)) {
+    Traza.reducciones = true; // the formula was typed
+    const FinesDeFormula fin =
+        SerieDeFormula(EnLaMuestra(g), "_TMP1", UltimoContraste.ordenacion, "Variable de ordenación"_w);
+    Traza.reducciones = false;
+    switch (fin) {
     case FormulaErronea: return MensajePunto(g.ventana, UltimoContraste.ordenacion, 8511);
     case FormulaSinGuardar: return MensajePunto(g.ventana, FaltanSeries, 8629);
     default: return 1;
@@ -180,7 +186,8 @@ std::string NombreCopia(std::size_t regresor) {
 
 // False when the copy couldn't be stored, after its message. A formula that fails shows the evaluator's and leaves no copy.
 bool Copiar(const Goldfeld &g, const std::string &destino, const std::string &formula, int sinSitio) {
-    if (SerieDeFormula(EnLaMuestra(g), destino, formula) != FormulaSinGuardar) return true;
+    if (SerieDeFormula(EnLaMuestra(g), destino, formula, "Copia para ordenarla") != FormulaSinGuardar)
+        return true;
     MensajePunto(g.ventana, FaltanSeries, sinSitio);
     return false;
 }
@@ -215,7 +222,14 @@ void Ordenar(const Goldfeld &g) {
     const int ultima = std::min(Muestra.FinRegresion, MaxObservaciones - 1);
     std::vector<double> claves = ValoresDeFilas(g.series.front(), primera, ultima);
     const std::vector<int> orden = OrdenarPorIntercambio(claves);
-    for (const int serie : g.series) ReordenarSerie(serie, primera, orden);
+    for (const int serie : g.series) {
+        ReordenarSerie(serie, primera, orden);
+        if (Trazando()) {
+            const std::string codigo(Recortado(ArchivoTrabajo.Codigos[serie]));
+            TrazarSerie(codigo, ConPeriodos(codigo + " por orden de _TMP1", {primera, ultima}),
+                        "Serie en el orden de la variable de ordenación"_w, {primera, ultima});
+        }
+    }
 }
 
 // ----- The regressions

@@ -4,6 +4,7 @@
 #include "hypothesis/informe_contrastes.h"
 #include "hypothesis/restriccion.h"
 #include "language/cadena.h"
+#include "language/traza.h"
 #include "platform/campos_texto.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
@@ -27,12 +28,17 @@ enum PuntosDeMatriz { SinSitioR = 10, SinSitior = 11, SinMemoriaR = 100, SinMemo
 // (Rb - r)' (R V R')^-1 (Rb - r) / q; V is the covariance matrix as the last regression left it, plain, consistent or
 // weighted.
 constexpr PasoCadena PasosHipotesis[] = {
-    {PasoMatriz, PrimeraFila, "_TMP3", "((_TMP1 * _BETA) - _TMP2)'", 12},
-    {PasoMatriz, PrimeraFila, "_TMP4", "((_TMP1 * _COV)* _TMP1')$", 13},
-    {PasoMatriz, PrimeraFila, "_TMP5", "((_TMP1 * _BETA)- _TMP2)", 14},
-    {PasoMatriz, PrimeraFila, "_TMP6", "((_TMP3 * _TMP4 * _TMP5)/%(q)d)", 15},
-    {PasoEscalar, PrimeraFila, "_FORLARH", "ESCAL(_TMP6)", 16, 17},
-    {PasoEscalar, PrimeraFila, "_ESTFH", "PROBF(_FORLARH,%(q)d,_NORE)", 18, 19},
+    {PasoMatriz, PrimeraFila, "_TMP3", "((_TMP1 * _BETA) - _TMP2)'",
+     "Diferencias de las restricciones, en fila: (R b - r)'", 12},
+    {PasoMatriz, PrimeraFila, "_TMP4", "((_TMP1 * _COV)* _TMP1')$",
+     "Inversa de la matriz de covarianzas de R b: (R V R')^-1", 13},
+    {PasoMatriz, PrimeraFila, "_TMP5", "((_TMP1 * _BETA)- _TMP2)",
+     "Diferencias de las restricciones, en columna: R b - r", 14},
+    {PasoMatriz, PrimeraFila, "_TMP6", "((_TMP3 * _TMP4 * _TMP5)/%(q)d)",
+     "Estadístico de Wald de las restricciones, entre su número"_w, 15},
+    {PasoEscalar, PrimeraFila, "_FORLARH", "ESCAL(_TMP6)", "Estadístico F de las restricciones"_w, 16, 17},
+    {PasoEscalar, PrimeraFila, "_ESTFH", "PROBF(_FORLARH,%(q)d,_NORE)",
+     "Probabilidad del estadístico F de las restricciones"_w, 18, 19},
 };
 
 int FallarCalculos(Ventana *ventana, int punto) {
@@ -66,12 +72,25 @@ int GuardarTemporal(Ventana *ventana, const char *codigo, const double *datos, i
     return FallarCalculos(ventana, sinMemoria);
 }
 
+// The restrictions in a line, for the trace.
+std::string UnirRestricciones(const Restricciones &textos) {
+    std::string texto;
+    for (int i = 0; i < HipotesisNula.q; ++i)
+        texto.append(i > 0 ? "; " : "").append(textos[static_cast<std::size_t>(i)]);
+    return texto;
+}
+
 int Calcular(Ventana *ventana, Restricciones &textos, LineasSentencia &lineas) {
     double r[MaxRestricciones] = {};
     if (PrepararRestricciones(ventana) == 0 || LeerRestricciones(ventana, textos, r) == 0) return 0;
     if (GuardarTemporal(ventana, "_TMP1", BufferMatriz.datos, HipotesisNula.K, SinSitioR, SinMemoriaR) == 0 ||
         GuardarTemporal(ventana, "_TMP2", r, 1, SinSitior, SinMemoriar) == 0)
         return 0;
+    if (Trazando()) {
+        TrazarMatriz("_TMP1", UnirRestricciones(textos),
+                     "R: los coeficientes de las restricciones, una por fila");
+        TrazarMatriz("_TMP2", UnirRestricciones(textos), "r: los lados derechos de las restricciones");
+    }
     const DatoCadena datos[] = {DatoNumero("q", HipotesisNula.q)};
     Cadena c{&lineas, ventana, Muestra.InicioRegresion, Muestra.FinRegresion, &MensajesCalculos};
     c.datos = datos;

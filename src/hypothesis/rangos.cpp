@@ -5,6 +5,7 @@
 #include "hypothesis/informe_contrastes.h"
 #include "hypothesis/orden.h"
 #include "language/cadena.h"
+#include "language/traza.h"
 #include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
@@ -19,25 +20,33 @@ namespace {
 constexpr std::size_t InicioOrdenacion = 4; // the text stands behind the word and one character
 
 constexpr PasoCadena PasosCopia[] = {
-    {PasoSerie, TodasLasFilas, "_TMP2", "_TMP1", 11, 12},
-    {PasoSerie, TodasLasFilas, "_TMP3", " 0 ", 13, 14},
+    {PasoSerie, TodasLasFilas, "_TMP2", "_TMP1", "Copia de la variable de ordenación, para ordenarla"_w, 11,
+     12},
+    {PasoSerie, TodasLasFilas, "_TMP3", " 0 ", "Sitio para los rangos", 13, 14},
 };
 constexpr PasoCadena PasosRangoOrdenacion[] = {
-    {PasoSerie, TodasLasFilas, "_TMP1", "_TMP3", 15, 16},
-    {PasoSerie, TodasLasFilas, "_TMP2", "_RES", 17, 18},
+    {PasoSerie, TodasLasFilas, "_TMP1", "_TMP3", "Rangos de la variable de ordenación"_w, 15, 16},
+    {PasoSerie, TodasLasFilas, "_TMP2", "_RES", "Residuos, para ordenar sus valores absolutos", 17, 18},
 };
 constexpr PasoCadena PasosCorrelacion[] = {
-    {PasoSerie, TodasLasFilas, "_TMP2", "_TMP3", 20, 21},
-    {PasoSerie, TodasLasFilas, "_TMP3", "_TMP1 - MEDSER(_TMP1)", 22, 23},
-    {PasoSerie, TodasLasFilas, "_TMP4", "_TMP2 - MEDSER(_TMP2)", 24, 25},
-    {PasoSerie, TodasLasFilas, "_TMP5", "_TMP3 * _TMP4", 26, 27},
-    {PasoSerie, TodasLasFilas, "_TMP6", "_TMP3 *_TMP3", 28, 29},
-    {PasoSerie, TodasLasFilas, "_TMP7", "_TMP4 *_TMP4", 30, 31},
-    {PasoEscalar, TodasLasFilas, "_TMP8", " RCUAD((SUMSER(_TMP6) * SUMSER(_TMP7)))", 32, 33},
-    {PasoEscalar, TodasLasFilas, "_TMP9", " SUMSER(_TMP5)/_TMP8", 34, 35},
-    {PasoEscalar, PrimeraFila, "_TMP10", "(_TMP9 * RCUAD(%(n)d-2))/(RCUAD(1.0 - POT(_TMP9,2)))", 36, 37},
-    {PasoEscalar, PrimeraFila, "_TMP11", "%(n)d-2", 38, 39},
-    {PasoEscalar, PrimeraFila, "_TMP12", "PROBT(_TMP10,_TMP11)", 40, 41},
+    {PasoSerie, TodasLasFilas, "_TMP2", "_TMP3", "Rangos de los valores absolutos de los residuos", 20, 21},
+    {PasoSerie, TodasLasFilas, "_TMP3", "_TMP1 - MEDSER(_TMP1)",
+     "Rangos de la ordenación en desviaciones a su media"_w, 22, 23},
+    {PasoSerie, TodasLasFilas, "_TMP4", "_TMP2 - MEDSER(_TMP2)",
+     "Rangos de los residuos en desviaciones a su media", 24, 25},
+    {PasoSerie, TodasLasFilas, "_TMP5", "_TMP3 * _TMP4", "Productos de las desviaciones", 26, 27},
+    {PasoSerie, TodasLasFilas, "_TMP6", "_TMP3 *_TMP3",
+     "Cuadrados de las desviaciones de los rangos de la ordenación"_w, 28, 29},
+    {PasoSerie, TodasLasFilas, "_TMP7", "_TMP4 *_TMP4",
+     "Cuadrados de las desviaciones de los rangos de los residuos", 30, 31},
+    {PasoEscalar, TodasLasFilas, "_TMP8", " RCUAD((SUMSER(_TMP6) * SUMSER(_TMP7)))",
+     "Denominador de la correlación: raíz del producto de las sumas de cuadrados"_w, 32, 33},
+    {PasoEscalar, TodasLasFilas, "_TMP9", " SUMSER(_TMP5)/_TMP8",
+     "Coeficiente de correlación por rangos de Spearman"_w, 34, 35},
+    {PasoEscalar, PrimeraFila, "_TMP10", "(_TMP9 * RCUAD(%(n)d-2))/(RCUAD(1.0 - POT(_TMP9,2)))",
+     "Estadístico t de la correlación por rangos"_w, 36, 37},
+    {PasoEscalar, PrimeraFila, "_TMP11", "%(n)d-2", "Grados de libertad: observaciones menos 2", 38, 39},
+    {PasoEscalar, PrimeraFila, "_TMP12", "PROBT(_TMP10,_TMP11)", "Probabilidad del estadístico t"_w, 40, 41},
 };
 
 // The rows of the sample of the last regression that exist.
@@ -72,6 +81,16 @@ int Clasificar(Ventana *ventana, const char *original, int puntoOriginal, bool a
     ReordenarSerie(copia, f.primera, OrdenarPorIntercambio(claves));
     AnotarRangos(ValoresDeFilas(serie, f.primera, f.ultima), ValoresDeFilas(copia, f.primera, f.ultima),
                  rangos, f);
+    if (Trazando()) {
+        const FilasTraza filas = {f.primera, f.ultima};
+        TrazarSerie(
+            "_TMP2",
+            ConPeriodos(std::string(original) + (absolutos ? " por orden de |valor|" : " por orden de valor"),
+                        filas),
+            "Valores ordenados de menor a mayor", filas);
+        TrazarSerie("_TMP3", ConPeriodos(std::string("primer lugar de ") + original + " en _TMP2", filas),
+                    "Rangos: a valores iguales, el menor"_w, filas);
+    }
     return 1;
 }
 
@@ -80,7 +99,11 @@ int Clasificar(Ventana *ventana, const char *original, int puntoOriginal, bool a
 int LeerOrdenacion(const Cadena &c) {
     const std::string_view linea = Recortado(LineaDelNivel(*c.lineas), RecorteDerecha);
     UltimoContraste.ordenacion = linea.substr(std::min(InicioOrdenacion, linea.size()));
-    switch (SerieDeFormula(c, "_TMP1", UltimoContraste.ordenacion)) {
+    Traza.reducciones = true; // the formula was typed
+    const FinesDeFormula fin =
+        SerieDeFormula(c, "_TMP1", UltimoContraste.ordenacion, "Variable de ordenación"_w);
+    Traza.reducciones = false;
+    switch (fin) {
     case FormulaErronea: return MensajeAviso(c.ventana, MensajesAvisoCalculos.alEvaluar);
     case FormulaSinGuardar: return MensajeAviso(c.ventana, MensajesAvisoCalculos.alGuardar);
     default: break;

@@ -2,6 +2,7 @@
 #include "language/asignaciones.h"
 
 #include "language/lote_sentencias.h"
+#include "language/traza.h"
 #include "matrix/formula_matriz.h"
 #include "platform/campos_texto.h"
 #include "platform/texto.h"
@@ -98,19 +99,94 @@ int AsignarEscalar(LineasSentencia &lineas, int &posicion, Ventana *ventana, int
 }
 
 int Calcular(LineasSentencia &lineas, int &posicion, Ventana *ventana, int primera, int ultima) {
-    SaltarBlancos(lineas[0], posicion);
-    if (posicion >= Tamano(lineas[0])) return MensajeNumerado(ventana, 39, " : Faltan datos");
-    AgruparPrioridades(lineas[0], posicion, Tamano(lineas[0]));
     if (EvaluarPrimeraFila(lineas, posicion, primera, ultima) != 1) return 0;
     MostrarMensaje(ventana, Formatear(" %8.4lf ", ValorSuperior()), "Resultado");
     return 1;
+}
+
+int AsignarObservacion(LineasSentencia &lineas, int &posicion, const std::string &periodo, Ventana *ventana,
+                       int primera, int ultima) {
+    if (EvaluarPrimeraFila(lineas, posicion, primera, ultima) != 1) return 0;
+    return GuardarObservacion(periodo, ventana);
+}
+
+int Asignar(LineasSentencia &lineas, int &posicion, const std::string &periodo, Ventana *ventana, int primera,
+            int ultima, int codigo) {
+    switch (codigo) {
+    case OrdenMAT: return AsignarMatriz(lineas, posicion, ventana, primera, ultima);
+    case OrdenSER: return AsignarSerie(lineas, posicion, ventana, primera, ultima);
+    case OrdenESC: return AsignarEscalar(lineas, posicion, ventana, primera, ultima);
+    case OrdenCAL: return Calcular(lineas, posicion, ventana, primera, ultima);
+    default: return AsignarObservacion(lineas, posicion, periodo, ventana, primera, ultima);
+    }
+}
+
+// ----- The trace
+
+// A typed formula as a step. Its operands and its text are those before it is evaluated.
+int AbrirPasoEscrito(const std::string &linea, int posicion, const std::string &periodo, int primera,
+                     int ultima, int codigo) {
+    if (!Trazando()) return SinTrazar;
+    const std::string_view formula =
+        std::string_view(linea).substr(std::min(static_cast<std::size_t>(posicion), linea.size()));
+    const FilasTraza filas = {primera, ultima};
+    Traza.reducciones = true;
+    switch (codigo) {
+    case OrdenMAT: {
+        const bool llaves = formula.starts_with('{');
+        const char *explicacion = llaves
+                                      ? "Matriz: una columna por serie o número, una fila por observación"_w
+                                      : "Matriz: operaciones de izquierda a derecha, sin prioridades"_w;
+        return AbrirPaso(TrazaMatriz, Evaluador.CodigoMatrizDestino, formula, explicacion, filas);
+    }
+    case OrdenESC:
+        return AbrirPaso(TrazaEscalar, Evaluador.CodigoEscalarDestino, formula,
+                         "Escalar: el valor de la fórmula en la primera fila de la muestra"_w, filas);
+    case OrdenCAL:
+        return AbrirPaso(TrazaEscalar, {}, formula, "Valor de la fórmula en la primera fila de la muestra"_w,
+                         filas);
+    case OrdenSER: {
+        const std::string_view destino = Recortado(Evaluador.CodigoSerieDestino);
+        const bool recursiva =
+            formula.starts_with(destino) && formula.substr(destino.size()).starts_with('(');
+        const char *explicacion =
+            recursiva ? "Serie recursiva: cada fila desde una anterior ya calculada; aquí, la primera"_w
+            : formula.starts_with('{') ? "Serie: los elementos de la matriz, en la muestra de la regresión"_w
+                                       : "Serie: la fórmula en todas las filas de la muestra"_w;
+        return AbrirPaso(TrazaSerie, destino, formula, explicacion, filas);
+    }
+    default:
+        return AbrirPaso(TrazaSerie, Evaluador.CodigoSerieDestino, formula,
+                         "Observación "_w + periodo + " de la serie: el valor en la primera fila"_w, filas);
+    }
+}
+
+void CerrarPasoEscrito(int paso, bool bien, int codigo) {
+    if (bien && codigo == OrdenCAL)
+        CerrarPasoConValor(paso, ValorSuperior());
+    else
+        CerrarPaso(paso, bien);
+    Traza.reducciones = false;
+}
+
+int EjecutarFormula(LineasSentencia &lineas, int &posicion, const std::string &periodo, Ventana *ventana,
+                    int primera, int ultima, int codigo) {
+    AgruparPrioridades(lineas[0], posicion, Tamano(lineas[0]));
+    const int paso = AbrirPasoEscrito(lineas[0], posicion, periodo, primera, ultima, codigo);
+    const int r = Asignar(lineas, posicion, periodo, ventana, primera, ultima, codigo);
+    CerrarPasoEscrito(paso, r == 1, codigo);
+    return r;
 }
 
 } // namespace
 
 int EjecutarAsignacion(LineasSentencia &lineas, int &posicion, Ventana *ventana, int primera, int ultima,
                        int &codigo) {
-    if (codigo == OrdenCAL) return Calcular(lineas, posicion, ventana, primera, ultima);
+    if (codigo == OrdenCAL) {
+        SaltarBlancos(lineas[0], posicion);
+        if (posicion >= Tamano(lineas[0])) return MensajeNumerado(ventana, 39, " : Faltan datos");
+        return EjecutarFormula(lineas, posicion, {}, ventana, primera, ultima, codigo);
+    }
     if (codigo == OrdenSER) ReconocerFICTIC(lineas[0], posicion, codigo);
     std::string periodo;
     if (LeerObjetivo(lineas[0], posicion, codigo, periodo, ventana) == 0) return 0;
@@ -119,14 +195,5 @@ int EjecutarAsignacion(LineasSentencia &lineas, int &posicion, Ventana *ventana,
         return 1;
     }
     if (LeerIgual(lineas[0], posicion, ventana) == 0) return 0;
-    AgruparPrioridades(lineas[0], posicion, Tamano(lineas[0]));
-    switch (codigo) {
-    case OrdenMAT: return AsignarMatriz(lineas, posicion, ventana, primera, ultima);
-    case OrdenSER: return AsignarSerie(lineas, posicion, ventana, primera, ultima);
-    case OrdenESC: return AsignarEscalar(lineas, posicion, ventana, primera, ultima);
-    default:
-        return EvaluarPrimeraFila(lineas, posicion, primera, ultima) == 1
-                   ? GuardarObservacion(periodo, ventana)
-                   : 0;
-    }
+    return EjecutarFormula(lineas, posicion, periodo, ventana, primera, ultima, codigo);
 }

@@ -2,6 +2,7 @@
 #include "language/cadena.h"
 
 #include "language/asignaciones.h"
+#include "language/traza.h"
 #include "matrix/formula_matriz.h"
 #include "platform/campos_texto.h"
 #include "platform/texto.h"
@@ -36,29 +37,42 @@ bool Evaluar(const Cadena &c, const std::string &texto) {
 
 } // namespace
 
-FinesDeFormula MatrizDeFormula(const Cadena &c, std::string_view destino, const std::string &texto) {
-    int nivel = 0;
-    if (!SubirNivel(c, texto, nivel)) return FormulaErronea;
-    PonerCampo(Evaluador.CodigoMatrizDestino, destino, AnchoCodigo);
-    int posicion = 0;
-    const int bien = EvaluarFormulaMatriz(*c.lineas, posicion, c.ventana, c.primera, c.ultima);
-    Evaluador.NivelLinea = nivel; // the brace form leaves it raised
+FinesDeFormula MatrizDeFormula(const Cadena &c, std::string_view destino, const std::string &texto,
+                               std::string_view explicacion) {
+    const int trazado = AbrirPaso(TrazaMatriz, destino, texto, explicacion, {c.primera, c.ultima});
+    int nivel = 0, bien = 0;
+    if (SubirNivel(c, texto, nivel)) {
+        PonerCampo(Evaluador.CodigoMatrizDestino, destino, AnchoCodigo);
+        int posicion = 0;
+        bien = EvaluarFormulaMatriz(*c.lineas, posicion, c.ventana, c.primera, c.ultima);
+        Evaluador.NivelLinea = nivel; // the brace form leaves it raised
+    }
+    CerrarPaso(trazado, bien == 1);
     return bien == 1 ? FormulaGuardada : FormulaErronea;
 }
 
 FinesDeFormula EscalarDeFormula(const Cadena &c, std::string_view destino, const std::string &texto,
-                                int &causa) {
+                                std::string_view explicacion, int &causa) {
+    const int trazado = AbrirPaso(TrazaEscalar, destino, texto, explicacion, {c.primera, c.ultima});
     PonerCampo(Evaluador.CodigoEscalarDestino, destino, AnchoCodigo);
     causa = 0;
-    if (!Evaluar(c, texto)) return FormulaErronea;
-    causa = GuardarEscalar();
-    return causa == 0 ? FormulaGuardada : FormulaSinGuardar;
+    FinesDeFormula fin = FormulaErronea;
+    if (Evaluar(c, texto)) {
+        causa = GuardarEscalar();
+        fin = causa == 0 ? FormulaGuardada : FormulaSinGuardar;
+    }
+    CerrarPaso(trazado, fin == FormulaGuardada);
+    return fin;
 }
 
-FinesDeFormula SerieDeFormula(const Cadena &c, std::string_view destino, const std::string &texto) {
+FinesDeFormula SerieDeFormula(const Cadena &c, std::string_view destino, const std::string &texto,
+                              std::string_view explicacion) {
+    const int trazado = AbrirPaso(TrazaSerie, destino, texto, explicacion, {c.primera, c.ultima});
     PonerCampo(Evaluador.CodigoSerieDestino, destino, AnchoCodigo);
-    if (!Evaluar(c, texto)) return FormulaErronea;
-    return GuardarSerie() == 1 ? FormulaGuardada : FormulaSinGuardar;
+    FinesDeFormula fin = FormulaErronea;
+    if (Evaluar(c, texto)) fin = GuardarSerie() == 1 ? FormulaGuardada : FormulaSinGuardar;
+    CerrarPaso(trazado, fin == FormulaGuardada);
+    return fin;
 }
 
 // ----- Placeholders
@@ -120,6 +134,14 @@ int FallarAlGuardar(const Cadena &c, const PasoCadena &p, int causa) {
     }
 }
 
+int SerieDeMatriz(const Cadena &c, const std::string &destino, const std::string &llaves,
+                  std::string_view explicacion) {
+    const int trazado = AbrirPaso(TrazaSerie, destino, llaves, explicacion, {c.primera, c.ultima});
+    const int bien = SerieDesdeMatriz(destino, llaves, 1, c.ventana);
+    CerrarPaso(trazado, bien == 1);
+    return bien;
+}
+
 int EjecutarPaso(Cadena c, const PasoCadena &p) {
     if (p.filas == PrimeraFila) c.ultima = c.primera;
     const std::string destino = TextoDePaso(c, p.destino);
@@ -127,10 +149,10 @@ int EjecutarPaso(Cadena c, const PasoCadena &p) {
     int causa = 0;
     FinesDeFormula fin = FormulaErronea;
     switch (p.clase) {
-    case PasoMatriz: fin = MatrizDeFormula(c, destino, formula); break;
-    case PasoEscalar: fin = EscalarDeFormula(c, destino, formula, causa); break;
-    case PasoSerie: fin = SerieDeFormula(c, destino, formula); break;
-    case PasoSerieDeMatriz: return SerieDesdeMatriz(destino, "{" + formula + "}", 1, c.ventana);
+    case PasoMatriz: fin = MatrizDeFormula(c, destino, formula, p.explicacion); break;
+    case PasoEscalar: fin = EscalarDeFormula(c, destino, formula, p.explicacion, causa); break;
+    case PasoSerie: fin = SerieDeFormula(c, destino, formula, p.explicacion); break;
+    case PasoSerieDeMatriz: return SerieDeMatriz(c, destino, "{" + formula + "}", p.explicacion);
     }
     if (fin == FormulaErronea) return Fallar(c, c.mensajes->alEvaluar, p.puntoFormula);
     return fin == FormulaGuardada ? 1 : FallarAlGuardar(c, p, causa);

@@ -3,15 +3,17 @@
 // A step is a row of a constexpr table; a chain is run by EjecutarCadena over a `Cadena`, which says where:
 //
 //     constexpr PasoCadena Pasos[] = {
-//         {PasoSerie, TodasLasFilas, "_TMP6", "_TMP3 *_TMP3", 28, 29},
-//         {PasoEscalar, TodasLasFilas, "_TMP9", " SUMSER(_TMP5)/_TMP8", 34, 35},
-//         {PasoEscalar, PrimeraFila, "_TMP11", "%(n)d-2", 38, 39},
+//         {PasoSerie, TodasLasFilas, "_TMP6", "_TMP3 *_TMP3", "Cuadrados de las desviaciones", 28, 29},
+//         {PasoEscalar, TodasLasFilas, "_TMP9", " SUMSER(_TMP5)/_TMP8", "Coeficiente de correlación"_w, 34, 35},
+//         {PasoEscalar, PrimeraFila, "_TMP11", "%(n)d-2", "Grados de libertad", 38, 39},
 //     };
 //     const DatoCadena datos[] = {DatoNumero("n", n)};
 //     Cadena c{&lineas, ventana, Muestra.InicioRegresion, Muestra.FinRegresion};
 //     c.mensajes = &MensajesVariables;
 //     c.datos = datos;
 //     if (EjecutarCadena(c, Pasos) == 0) return Deshacer();
+//
+// The line behind the formula says what the step computes, in the words of a textbook, for whoever watches the computation.
 //
 // Placeholders stand in formulas and destinations: "%(name)" and the print format that the number or text takes, such as
 // "%(media)10.6f", "%(gl)d", "%(ordenacion)s". A name is looked for in `datos` and then among the result families, with
@@ -56,6 +58,7 @@ struct PasoCadena {
     FilasPaso filas;
     const char *destino;
     const char *formula;
+    const char *explicacion;
     int puntoFormula = 0;
     int puntoGuardar = 0;
     FallosGuardar fallo = GuardarPunto;
@@ -120,9 +123,11 @@ std::string TextoDePaso(const Cadena &c, const char *modelo);
 enum FinesDeFormula { FormulaErronea, FormulaSinGuardar, FormulaGuardada };
 
 // Each runs `texto` one level above the present one with a clear evaluator, and puts the level back. At the last level:
-// FormulaErronea and no box. A matrix that can't be stored is FormulaErronea, after a box.
-FinesDeFormula MatrizDeFormula(const Cadena &c, std::string_view destino, const std::string &texto);
+// FormulaErronea and no box. A matrix that can't be stored is FormulaErronea, after a box. `explicacion` is that of a step.
+FinesDeFormula MatrizDeFormula(const Cadena &c, std::string_view destino, const std::string &texto,
+                               std::string_view explicacion);
 // `causa` receives what GuardarEscalar answered.
 FinesDeFormula EscalarDeFormula(const Cadena &c, std::string_view destino, const std::string &texto,
-                                int &causa);
-FinesDeFormula SerieDeFormula(const Cadena &c, std::string_view destino, const std::string &texto);
+                                std::string_view explicacion, int &causa);
+FinesDeFormula SerieDeFormula(const Cadena &c, std::string_view destino, const std::string &texto,
+                              std::string_view explicacion);

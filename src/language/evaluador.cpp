@@ -2,6 +2,7 @@
 #include "language/evaluador_interno.h"
 
 #include "language/notas.h"
+#include "language/traza.h"
 #include "matrix/formula_matriz.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
@@ -128,16 +129,36 @@ int OperandoHecho() {
     return Bien;
 }
 
+// Where the text of each level begins to be read.
+std::array<int, MaxNiveles> InicioNivel;
+
+int InicioDelNivel() {
+    return InicioNivel[static_cast<std::size_t>(Evaluador.NivelLinea)];
+}
+
+// What stands between the two places of the present level was worked out, and its value is on top.
+int ReduccionHecha(const std::string &texto, int desde, int hasta) {
+    if (TrazandoReducciones())
+        TrazarReduccionDeColumna(std::string_view(texto).substr(static_cast<std::size_t>(desde),
+                                                                static_cast<std::size_t>(hasta - desde)),
+                                 Evaluador.NivelLinea);
+    return OperandoHecho();
+}
+
 // The element behind an operator.
 int ElementoDerecho(LineasSentencia &lineas, int &posicion) {
     const std::string_view token = SiguienteToken(LineaDelNivel(lineas), posicion);
     return Elemento(token, lineas, posicion);
 }
 
-int ElementoFuncion(const FuncionSerie &funcion, LineasSentencia &lineas, int &posicion) {
+int ElementoFuncion(std::string_view token, const FuncionSerie &funcion, LineasSentencia &lineas,
+                    int &posicion) {
     if (TrasOperando()) return 4444;
+    const std::string &texto = LineaDelNivel(lineas);
+    const int nombre = static_cast<int>(token.data() - texto.data());
     const int fallo = AplicarFuncionSerie(funcion, lineas, posicion);
-    return fallo != 0 ? fallo : OperandoHecho();
+    if (fallo != 0) return fallo;
+    return ReduccionHecha(texto, nombre, std::min(posicion + 1, static_cast<int>(texto.size())));
 }
 
 // AND and OR. The word is kept in one place for the whole statement, so that a right side with a logical operator of
@@ -150,7 +171,7 @@ int ElementoLogico(std::string_view palabra, LineasSentencia &lineas, int &posic
     if (r != Bien) return r + 200;
     if (Evaluador.profundidad < 2) return 29;
     if (!AplicarLogico()) return 220;
-    return OperandoHecho();
+    return ReduccionHecha(LineaDelNivel(lineas), InicioDelNivel(), posicion);
 }
 
 int ElementoSerie(int serie, const std::string &texto, int &posicion) {
@@ -186,6 +207,7 @@ int ElementoFuncionMatriz(std::string_view nombre, LineasSentencia &lineas, int 
 // to right. The ranks there are were written into the text as parentheses (AgruparPrioridades).
 int ElementoConOperador(char operador, LineasSentencia &lineas, int &posicion) {
     const bool signo = operador == '-' && !TrasOperando();
+    const int detras = posicion;
     if (!signo && Evaluador.EstadoElemento == ElementoOperador) return 15;
     Evaluador.EstadoElemento = ElementoOperador;
     if (!AnotarOperador(operador)) return 16;
@@ -194,11 +216,14 @@ int ElementoConOperador(char operador, LineasSentencia &lineas, int &posicion) {
     if (Evaluador.profundidad < 1) return 1119;
     if (signo) {
         if (!AplicarSigno()) return 18;
-    } else {
-        if (Evaluador.profundidad < 2) return 1129;
-        if (!AplicarOperador()) return 20;
+        const std::string &texto = LineaDelNivel(lineas);
+        return ReduccionHecha(texto, static_cast<int>(texto.rfind('-', static_cast<std::size_t>(detras))),
+                              posicion);
     }
-    return OperandoHecho();
+    if (Evaluador.profundidad < 2) return 1129;
+    if (!AplicarOperador()) return 20;
+    // All operators are of one rank: what was worked out begins where the level begins.
+    return ReduccionHecha(LineaDelNivel(lineas), InicioDelNivel(), posicion);
 }
 
 int ElementoParentesis(LineasSentencia &lineas, int &posicion) {
@@ -240,7 +265,7 @@ int Elemento(std::string_view token, LineasSentencia &lineas, int &posicion) {
     if (token.empty()) return ElementoVacio(texto, posicion);
 
     if (const FuncionSerie *f = BuscarFuncionSerie(token); f != nullptr)
-        return ElementoFuncion(*f, lineas, posicion);
+        return ElementoFuncion(token, *f, lineas, posicion);
     if (token == "AND" || token == "OR") return ElementoLogico(token, lineas, posicion);
     if (const int s = SerieVisible(token); s >= 0) return ElementoSerie(s, texto, posicion);
     if (EsNumero(token)) return ElementoConstante(LeerDecimal(token), 9, 10);
@@ -260,6 +285,7 @@ int Elemento(std::string_view token, LineasSentencia &lineas, int &posicion) {
 // what stands behind a comma or a semicolon is ignored without a word.
 int EvaluarNivel(LineasSentencia &lineas, int &posicion) {
     Evaluador.EstadoElemento = ElementoInicio;
+    InicioNivel[static_cast<std::size_t>(Evaluador.NivelLinea)] = posicion;
     const std::string &texto = LineaDelNivel(lineas);
     while (EsDeToken(CaracterEn(texto, posicion))) {
         const std::string_view token = SiguienteToken(texto, posicion);

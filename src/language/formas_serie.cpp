@@ -1,5 +1,6 @@
 // The special forms of SER: from a matrix, recursive, and the dummy series of FICTIC.
 #include "language/asignaciones.h"
+#include "language/traza.h"
 #include "platform/campos_texto.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
@@ -119,7 +120,8 @@ void SeriesFicticias(Ventana *ventana, int primera, int ultima) {
         MostrarMensaje(ventana, Formatear("(%s)", Evaluador.CodigoSerieDestino), "Serie no existe");
         return;
     }
-    std::string base(Recortado(Evaluador.CodigoSerieDestino));
+    const std::string codigo(Recortado(Evaluador.CodigoSerieDestino));
+    std::string base = codigo;
     if (base.size() > 6) base.resize(5);
     const int desde = std::max(primera, 0);
     const int hasta =
@@ -131,5 +133,10 @@ void SeriesFicticias(Ventana *ventana, int primera, int ultima) {
         const int ficticia = TomarSerie(nombre);
         PonerCodigoSerie(ficticia, nombre);
         LlenarFicticia(ficticia, serie, valores.valor[k], desde, hasta);
+        if (Trazando())
+            TrazarSerie(
+                nombre, Formatear("%s = %d", codigo.c_str(), valores.valor[k]),
+                "Variable ficticia: 1 donde la parte entera de la serie es ese valor, 0 en las demás"_w,
+                {desde, hasta - 1});
     }
 }

@@ -2,6 +2,7 @@
 #include "language/lote_sentencias.h"
 
 #include "language/notas.h"
+#include "language/traza.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
@@ -119,7 +120,9 @@ int ProcesarLote(Ventana *ventana, ControlTexto *control, int origen, std::strin
     Lote.finPorRegla = false;
     Lote.deDialogo = origen != OrigenSeleccion;
     OlvidarNotas();
+    EmpezarTraza();
     CorrerLote(ventana, control, origen, texto, primera, ultima);
+    TerminarTraza();
     if (DespuesDeCadaLote != nullptr) DespuesDeCadaLote();
     return 0;
 }

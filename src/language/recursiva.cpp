@@ -1,6 +1,7 @@
 // SER serie = serie(-n) resto: each row from the one n above it, stored before the next is computed.
 #include "language/asignaciones.h"
 #include "language/evaluador_interno.h"
+#include "language/traza.h"
 #include "matrix/formula_matriz.h"
 #include "platform/campos_texto.h"
 #include "platform/numeros.h"
@@ -98,6 +99,7 @@ int SerieRecursiva(int posicion, Ventana *ventana, LineasSentencia &lineas, int 
             Evaluador.pasos = leido ? nullptr : &pasos;
             const int r = EvaluarFila(lineas, fila, retardo, resto, primera, ultima);
             Evaluador.pasos = nullptr;
+            Traza.reducciones = false; // the first row shows how the others are worked out
             if (r != 1) {
                 MostrarMensaje(ventana, "Error en el cálculo"_w);
                 return 1;

@@ -1,6 +1,7 @@
 // One statement: cut out of the text, checked, normalised, and handed to the routine of its first word.
-#include "language/lugar.h"
+#include "language/lote_sentencias.h"
 #include "language/palabras.h"
+#include "language/traza.h"
 #include "platform/campos_texto.h"
 #include "store/archivo.h"
 
@@ -103,6 +104,7 @@ int RevisarYRepartir(int origen, Orden &o) {
         MostrarMensaje(o.ventana, "Número inadecuado de corchetes"_w);
         return 0;
     }
+    const std::string escrita = Trazando() ? linea : std::string();
     NormalizarLinea(linea, aspecto.conDobles);
     const std::size_t fin = std::min(linea.find_first_of(" ("), linea.size());
     const std::string_view palabra = std::string_view(linea).substr(0, fin);
@@ -111,7 +113,10 @@ int RevisarYRepartir(int origen, Orden &o) {
     const Palabra *p = BuscarPalabra(palabra, origen, CaracterEn(linea, o.detras));
     if (p == nullptr) return Desconocida(o.ventana, palabra);
     o.codigo = p->codigo;
-    return p->rutina(o);
+    const int trazada = AbrirSentencia(escrita);
+    const int r = p->rutina(o);
+    CerrarGrupo(trazada, r == 1 || Lote.finPorRegla);
+    return r;
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 #include "estimation/listados_regresion.h"
 #include "estimation/regresion.h"
 #include "language/lote_sentencias.h"
+#include "language/traza.h"
 #include "lote/acciones_analisis.h"
 #include "lote/ayuda.h"
 #include "lote/corrida.h"
@@ -222,6 +223,11 @@ bool HacerSemilla(const Accion &accion) {
 
 bool HacerJson(const Accion &) {
     Corrida.json = true;
+    return true;
+}
+
+bool HacerTraza(const Accion &) {
+    PonerTraza(true);
     return true;
 }
 
@@ -497,6 +503,7 @@ constexpr FilaDeAccion TablaAcciones[] = {
     {"--transformar", "X:DESTINO:OP=N,...", LeerTransformacion, HacerTransformar,
      "transforma X; OP: boxcox, estacional, regular"},
     {"--semilla", "N", LeerSemilla, HacerSemilla, "el reloj de RND y RNDN empieza en N y avanza en cada uso"},
+    {"--traza", nullptr, nullptr, HacerTraza, "cada paso de los cálculos que siguen es también un suceso"},
     {"--volcado", nullptr, nullptr, HacerVolcado, "muestra el contenido del archivo de trabajo"},
 };
 

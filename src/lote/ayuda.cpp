@@ -44,6 +44,8 @@ constexpr const char *AyudaSucesos =
     "  nota        texto, linea: lo que se ha aceptado y quizá no se quería; también en la salida de "
     "errores\n"
     "  parada      linea, sentencia: dónde se ha detenido un lote\n"
+    "  paso        con --traza, cada paso de un cálculo: n, nivel, sentencia, formula, destino, clase,\n"
+    "              filas, columnas, valores, explicacion, fallo\n"
     "  volcado     el contenido del archivo de trabajo\n"
     "  fin         estado: el de salida; siempre el último\n\n"
     "Los textos están en UTF-8; los números, con todas sus cifras.\n";

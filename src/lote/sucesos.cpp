@@ -4,6 +4,7 @@
 #include "charts/resultados/impresion.h"
 #include "charts/resultados/ventana_resultado.h"
 #include "language/palabras.h"
+#include "language/traza.h"
 #include "lote/corrida.h"
 #include "lote/graficos.h"
 #include "lote/impresora.h"
@@ -34,6 +35,13 @@ std::string AbrirSuceso(const char *suceso) {
     std::string json = "{";
     PonerParJson(json, "suceso", suceso);
     return json;
+}
+
+std::string EnUnaLinea(std::string_view texto) {
+    std::string linea(texto);
+    std::replace_if(
+        linea.begin(), linea.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+    return linea;
 }
 
 void EscribirLinea(std::string_view linea) {
@@ -245,6 +253,85 @@ void SucesoNota(std::string_view texto, int linea) {
     EscribirLinea(json + "}");
 }
 
+namespace {
+
+// By ClasesTraza.
+constexpr const char *NombresClaseTraza[] = {"sentencia", "grupo", "escalar", "matriz", "serie"};
+
+std::int64_t PasosAnteriores = 0; // of the batches that ended
+
+// The explanation, and the periods of a series that is no single value.
+std::string ExplicacionDePaso(const PasoTraza &p) {
+    const ValorTraza &v = p.resultado;
+    return v.primerPeriodo.empty() ? p.explicacion
+                                   : p.explicacion + " (" + v.primerPeriodo + " a " + v.ultimoPeriodo + ")";
+}
+
+void EscribirPasoJson(const PasoTraza &p, std::int64_t n) {
+    std::string json = AbrirSuceso("paso");
+    PonerParJson(json, "n", static_cast<int>(n));
+    PonerParJson(json, "nivel", p.nivel);
+    PonerParJson(json, "sentencia",
+                 p.sentencia < 0 ? std::string_view()
+                                 : Traza.pasos[static_cast<std::size_t>(p.sentencia)].formula);
+    PonerParJson(json, "formula", p.formula);
+    PonerParJson(json, "destino", p.destino);
+    PonerParJson(json, "clase", NombresClaseTraza[p.clase]);
+    PonerParJson(json, "filas", p.resultado.filas);
+    PonerParJson(json, "columnas", p.resultado.columnas);
+    PonerClaveJson(json, "valores");
+    json += '[';
+    for (const double valor : p.resultado.valores) {
+        PonerComaJson(json);
+        PonerNumeroJson(json, valor);
+    }
+    json += ']';
+    PonerParJson(json, "explicacion", ExplicacionDePaso(p));
+    PonerParJson(json, "fallo", p.fallo);
+    EscribirLinea(json + "}");
+}
+
+// "    _DW = formula = 1.2: explanation"; a matrix or a series with its size and the values that are kept of it.
+void EscribirPasoTexto(const PasoTraza &p) {
+    std::string linea(2 * static_cast<std::size_t>(p.nivel), ' ');
+    if (!p.destino.empty()) linea += p.destino + " = ";
+    linea += p.formula;
+    const ValorTraza &v = p.resultado;
+    if (v.filas * v.columnas > 1) linea += Formatear(" [%d x %d]", v.filas, v.columnas);
+    for (std::size_t i = 0; i < v.valores.size(); ++i)
+        linea += Formatear(i == 0 ? " = %.10g" : " %.10g", v.valores[i]);
+    if (p.clase != TrazaSentencia) linea += ": " + ExplicacionDePaso(p);
+    if (!p.fallo.empty()) linea += " [" + EnUnaLinea(p.fallo) + "]";
+    EscribirLinea(Utf8De1252(linea));
+}
+
+void EscribirOmitidos(std::int64_t omitidos, std::int64_t n) {
+    const std::string texto = Formatear("%lld pasos más"_w, static_cast<long long>(omitidos));
+    if (!Corrida.json) return EscribirLinea(Utf8De1252(texto));
+    PasoTraza resto;
+    resto.clase = TrazaGrupo;
+    resto.nivel = 0;
+    resto.sentencia = -1;
+    resto.explicacion = texto;
+    EscribirPasoJson(resto, n);
+}
+
+} // namespace
+
+void SucesoPasos(int desde, int hasta) {
+    for (int i = desde; i < hasta; ++i) {
+        const PasoTraza &p = Traza.pasos[static_cast<std::size_t>(i)];
+        if (Corrida.json)
+            EscribirPasoJson(p, PasosAnteriores + i + 1);
+        else
+            EscribirPasoTexto(p);
+    }
+    if (desde < hasta) return;
+    const std::int64_t omitidos = Traza.numero - static_cast<std::int64_t>(Traza.pasos.size());
+    PasosAnteriores += Traza.numero;
+    if (omitidos > 0) EscribirOmitidos(omitidos, PasosAnteriores);
+}
+
 void SucesoSalida(const SalidaResultado &salida) {
     if (!Corrida.json) {
         EscribirLinea("");
@@ -332,10 +419,7 @@ void SucesoImpresion(const TrabajoImpreso &trabajo) {
 
 void Quejarse(std::string_view texto) {
     // A value of the command line may hold a line break; what a script reads is one line a complaint.
-    std::string linea(texto);
-    std::replace_if(
-        linea.begin(), linea.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
-    std::fprintf(stderr, "tabira-lote: %s\n", linea.c_str());
+    std::fprintf(stderr, "tabira-lote: %s\n", EnUnaLinea(texto).c_str());
 }
 
 void SucesoFin(int estado) {
@@ -361,6 +445,7 @@ void InstalarPlataformaLote() {
         .segundos = Segundos,
     };
     DespuesDeCadaLote = SucesoParada;
+    AlTrazar = SucesoPasos;
     InstalarPlataforma(Operaciones);
     static const OperacionesImpresora OperacionesDePapel = {.terminarTrabajo = TerminarTrabajoDeCorrida};
     InstalarImpresora(OperacionesDePapel);

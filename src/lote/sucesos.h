@@ -20,6 +20,10 @@ void SucesoParada();
 // A note, also on standard error; `linea` 0 outside a batch.
 void SucesoNota(std::string_view texto, int linea);
 
+// Steps [desde, hasta) of the trace, numbered through the whole run; an empty range ends the steps of a batch, of which the
+// ones that were not kept are told by their number alone.
+void SucesoPasos(int desde, int hasta);
+
 // A result window.
 void SucesoSalida(const SalidaResultado &salida);
 

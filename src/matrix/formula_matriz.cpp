@@ -1,17 +1,37 @@
 // The evaluator of matrix formulas: strictly from left to right, every operator as soon as its right operand is there.
 #include "matrix/formula_matriz.h"
 
+#include "language/traza.h"
 #include "matrix/evaluador_matriz.h"
 #include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
 bool EsUnoDe(char c, std::string_view caracteres) {
     return caracteres.find(c) != std::string_view::npos;
+}
+
+// Where the text of each level begins to be read.
+std::array<int, MaxNiveles> InicioNivel;
+
+// The text of the level was worked out up to `hasta`, and its value is on top. Always 1.
+int ReduccionHecha(const std::string &texto, int hasta) {
+    if (!TrazandoReducciones()) return 1;
+    const int nivel = Evaluador.NivelLinea, desde = InicioNivel[static_cast<std::size_t>(nivel)];
+    const std::string_view hecho = std::string_view(texto).substr(static_cast<std::size_t>(desde),
+                                                                  static_cast<std::size_t>(hasta - desde));
+    if (TipoSuperior() == OperandoEsEscalar && FormulaMatriz.numEscalares > 0) {
+        TrazarReduccion(hecho, nivel, FormulaMatriz.PilaEscalares[FormulaMatriz.numEscalares - 1]);
+    } else if (FormulaMatriz.tope >= 0) {
+        const TemporalMatriz &t = TemporalSuperior();
+        TrazarReduccion(hecho, nivel, t.datos, t.filas, t.columnas);
+    }
+    return 1;
 }
 
 int ParentesisComoOperando(LineasSentencia &lineas, int &posicion, Ventana *ventana) {
@@ -36,14 +56,15 @@ int AplicarOperador(std::string_view operador, LineasSentencia &lineas, int &pos
         if (CaracterEn(texto, posicion) != '(') return MensajePunto(ventana, texto, 56);
         if (ParentesisComoOperando(lineas, posicion, ventana) == 0) return 0;
     }
-    return ReducirOperacion(ventana);
+    return ReducirOperacion(ventana) == 1 ? ReduccionHecha(texto, posicion) : 0;
 }
 
 // A token that is no operand.
 int AplicarElemento(std::string_view token, LineasSentencia &lineas, int &posicion, Ventana *ventana) {
     const char c = token.empty() ? '\0' : token[0];
     if (EsUnoDe(c, "*+-/")) return AplicarOperador(token, lineas, posicion, ventana);
-    if (EsUnoDe(c, "'$")) return AplicarSigno(c, ventana);
+    if (EsUnoDe(c, "'$"))
+        return AplicarSigno(c, ventana) == 1 ? ReduccionHecha(LineaDelNivel(lineas), posicion) : 0;
     if (!token.empty()) return ErrorEnSecuencia(55, ventana);
     const char siguiente = CaracterEn(LineaDelNivel(lineas), posicion);
     if (siguiente == '(') return ParentesisComoOperando(lineas, posicion, ventana);
@@ -78,11 +99,14 @@ std::string_view LeerElementoMatriz(const std::string &texto, int &posicion) {
 
 int EvaluarExpresionMatriz(LineasSentencia &lineas, int &posicion, Ventana *ventana) {
     const std::string &texto = LineaDelNivel(lineas);
+    InicioNivel[static_cast<std::size_t>(Evaluador.NivelLinea)] = posicion;
     FormulaMatriz.UltimoElemento = ElementoInicio;
     while (EsCaracterMatriz(CaracterEn(texto, posicion))) {
         const std::string_view token = LeerElementoMatriz(texto, posicion);
+        const bool producto = FormulaMatriz.UltimoElemento == ElementoOperando; // a matrix without a sign
         const ResultadosOperando r = OperandoMatriz(token, lineas, posicion, ventana);
         if (r == OperandoFallido) return 0;
+        if (r == OperandoTratado && producto) ReduccionHecha(texto, posicion);
         if (r == NoEsOperando && AplicarElemento(token, lineas, posicion, ventana) == 0) return 0;
     }
     return 1;

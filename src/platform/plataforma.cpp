@@ -3,6 +3,7 @@
 
 #include "platform/archivo_dado.h"
 #include "platform/texto.h"
+#include "platform/ultima_caja.h"
 
 #include <utility>
 
@@ -10,6 +11,8 @@ namespace {
 const OperacionesPlataforma *Instalada = nullptr;
 std::string Dado; // the file that was named beforehand
 } // namespace
+
+CajaMostrada UltimaCaja;
 
 void InstalarPlataforma(const OperacionesPlataforma &operaciones) {
     Instalada = &operaciones;
@@ -21,6 +24,8 @@ const OperacionesPlataforma &Plataforma() {
 
 Respuesta MostrarCaja(Ventana *ventana, std::string_view texto, std::string_view titulo, Icono icono,
                       Botones botones) {
+    ++UltimaCaja.numero;
+    UltimaCaja.texto = texto;
     return Instalada->caja(ventana, texto, titulo, icono, botones);
 }
 

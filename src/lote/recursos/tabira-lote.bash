@@ -21,7 +21,7 @@ _tabira_lote() {
                         --abrir --guardar --ordenar --eliminar-observacion --procesar --sentencia --decimales
                         --ecuacion --relacion --borrar --muestra-actual --ultima-regresion --imprimir
                         --imprimir-salidas --listado --histograma --grafico --graficos --estadisticos --normalidad
-                        --fac --facp --prediccion --transformar --semilla --volcado"
+                        --fac --facp --prediccion --transformar --semilla --traza --volcado"
         [ "$anterior" = --ayuda ] && acciones="tipo formato sucesos $acciones"
         mapfile -t COMPREPLY < <(compgen -W "$acciones" -- "$palabra")
         ;;

@@ -1,0 +1,146 @@
+// "Cómo se calcula": the steps of a computation, recorded one by one while the trace is on.
+//
+// A record is one run: a batch of statements, or a command that computes. Its steps stand in the order in which they began.
+// A step is a statement, a group of steps (a regression inside a test), or a formula with its result; `nivel` is its depth,
+// 0 for a statement of the batch. Formulas run by the evaluators come here by themselves. Whoever computes without one tells
+// the formula that its loop stands for:
+//
+//     if (Trazando())
+//         TrazarMatriz("_TMF5", "suma de x(t) x(t)'", "Momentos de los regresores: X'X", FilasDe(e));
+//
+// and whoever works for several steps puts them in a group:
+//
+//     const int grupo = AbrirGrupo("MGN _TMP2 _TMP3 1", "Regresión del numerador"_w);
+//     ...
+//     CerrarGrupo(grupo);
+//
+// A run keeps at most MaxPasosTraza steps; the further ones are only counted. The trace reads the tables and changes nothing
+// in them. Off, each of these calls costs one comparison.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// ----- Values
+
+inline constexpr int MaxPasosTraza = 20000;
+inline constexpr int LadoDeMatriz = 10;   // a matrix with more rows or columns shows its edges
+inline constexpr int ExtremosDeSerie = 5; // values at the start and at the end of a series
+
+enum ClasesTraza { TrazaSentencia, TrazaGrupo, TrazaEscalar, TrazaMatriz, TrazaSerie };
+
+// A scalar, a matrix by rows, or a series. Of a matrix with more than LadoDeMatriz rows, the first and the last five; its
+// columns in the same way. Of a series, the first and the last five of its values, all of them if they are ten or fewer:
+// `filas` is their number, missing ones not counted, and the two periods are those of the first and of the last one.
+struct ValorTraza {
+    int filas = 0, columnas = 0;
+    std::vector<double> valores;
+    std::string primerPeriodo, ultimoPeriodo;
+};
+
+// The rows or columns, from 0, that stand in `valores` for `total` of them.
+std::vector<int> LugaresMostrados(int total);
+
+// ----- Steps
+
+// Rows of the work file, both included; none when ultima < primera.
+struct FilasTraza {
+    int primera = 0, ultima = -1;
+};
+
+// A name that a formula takes a value from. The step that gave it that value, from 0; -1 when none of this record did, and
+// then its value stands here: of a series, that in the rows of the step.
+struct OperandoTraza {
+    std::string nombre;
+    ClasesTraza clase;
+    int paso;
+    ValorTraza valor;
+};
+
+// The texts are in Windows-1252. `formula` of a statement is its text; a reduction, the part of a typed formula that was
+// worked out so far, is a step below that of its formula, without a destination.
+struct PasoTraza {
+    ClasesTraza clase;
+    int nivel;
+    int sentencia; // the step of the statement that it belongs to, from 0; its own place for a statement, -1 for none
+    std::string formula, destino, explicacion;
+    std::string fallo;    // why it failed; empty for a step that went well
+    FilasTraza filas;     // that it ran over
+    ValorTraza resultado; // empty for statements, groups and failures
+    std::vector<OperandoTraza> operandos;
+};
+
+struct RegistroTraza {
+    bool activa = false;
+    bool reducciones = false; // the formula at hand was typed: its reductions are steps
+    int corrida = 0;          // of the record, from 1
+    std::int64_t numero = 0;  // of all steps of the run, those included that were not kept
+    std::vector<PasoTraza> pasos;
+};
+
+extern RegistroTraza Traza;
+
+inline bool Trazando() {
+    return Traza.activa;
+}
+
+// Called with the steps [desde, hasta) of Traza.pasos once their results are known, and at the end of a run with an empty
+// range; where a program sets it.
+extern void (*AlTrazar)(int desde, int hasta);
+
+// Switches the trace on or off. The record stays.
+void PonerTraza(bool activa);
+
+// A run begins: the record is emptied, if the trace is on. Inside another run it goes on.
+void EmpezarTraza();
+// The last run that was begun ends.
+void TerminarTraza();
+
+// The last step of the record that gave a value to this name, from 0; -1 for none. `hasta`: only steps before it.
+int PasoQueDio(std::string_view nombre, int hasta = MaxPasosTraza);
+
+// ----- Who records
+
+// What AbrirPaso and AbrirGrupo return, for CerrarPaso and CerrarGrupo: the place of the step, or one of these.
+inline constexpr int SinTrazar = -2;   // the trace was off
+inline constexpr int PasoContado = -1; // the step was only counted
+
+// A statement begins, or a group.
+int AbrirSentencia(std::string_view texto);
+int AbrirGrupo(std::string_view formula, std::string_view explicacion);
+// It ends. Where it failed and no step below it did, a step of its own says so.
+void CerrarGrupo(int grupo, bool bien = true);
+
+// A formula is about to be evaluated and stored as `destino`; its operands are looked up now. Behind it, the result is read
+// from the tables.
+int AbrirPaso(ClasesTraza clase, std::string_view destino, std::string_view formula,
+              std::string_view explicacion, const FilasTraza &filas = {});
+void CerrarPaso(int paso, bool bien);
+// The same for a value that isn't stored.
+void CerrarPasoConValor(int paso, double valor);
+
+// A result that was computed without a formula and is stored.
+void TrazarMatriz(std::string_view destino, std::string_view formula, std::string_view explicacion,
+                  const FilasTraza &filas = {});
+void TrazarSerie(std::string_view destino, std::string_view formula, std::string_view explicacion,
+                 const FilasTraza &filas = {});
+// A number, stored or not.
+void TrazarEscalar(std::string_view destino, std::string_view formula, double valor,
+                   std::string_view explicacion, const FilasTraza &filas = {});
+
+// A reduction of the typed formula at hand: `texto` was worked out at this level of parentheses, from 0.
+void TrazarReduccion(std::string_view texto, int parentesis, double valor);
+void TrazarReduccion(std::string_view texto, int parentesis, const double *datos, int filas, int columnas);
+// The top column of the evaluation, over its rows.
+void TrazarReduccionDeColumna(std::string_view texto, int parentesis);
+
+inline bool TrazandoReducciones() {
+    return Traza.activa && Traza.reducciones;
+}
+
+// ----- Texts
+
+// "suma de e(t)^2, 1921 a 1941": a formula and its periods.
+std::string ConPeriodos(std::string_view formula, const FilasTraza &filas);
