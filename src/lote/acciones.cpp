@@ -445,7 +445,7 @@ bool HacerVolcado(const Accion &) {
 }
 
 // ---------------------------------------------------------------------------------------------------------------
-// The table of actions. Without a routine an action is announced and not available yet.
+// The table of actions.
 
 struct FilaDeAccion {
     std::string_view nombre;
@@ -514,7 +514,6 @@ void MostrarUso() {
                "que están.\n\n",
                f);
     for (const FilaDeAccion &fila : TablaAcciones) {
-        if (fila.rutina == nullptr) continue;
         std::string izquierda(fila.nombre);
         if (fila.valor != nullptr) izquierda += std::string(" ") + fila.valor;
         std::fprintf(f, "  %-38s %s\n", izquierda.c_str(), fila.explicacion);
@@ -533,10 +532,6 @@ bool LeerLinea(const std::vector<std::string> &argumentos, std::vector<Accion> &
                                         [&](const FilaDeAccion &f) { return f.nombre == nombre; });
         if (fila == std::end(TablaAcciones)) {
             queja = "acción desconocida: '" + nombre + "' (--ayuda las muestra)";
-            return false;
-        }
-        if (fila->rutina == nullptr) {
-            queja = "la acción " + nombre + " no está disponible todavía";
             return false;
         }
         Accion &accion = acciones.emplace_back();

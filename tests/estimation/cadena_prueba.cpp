@@ -129,7 +129,7 @@ void CompararProblema(const Problema &p) {
     Montar(p, columnas);
     if (o.ponderada) {
         Cadena c{&lineas, nullptr, Muestra.InicioRegresion, Muestra.FinRegresion};
-        ASSERT_EQ(SerieDeFormula(c, "_VORD", "X1 - 0.5"), FormulaGuardada);
+        ASSERT_EQ(SerieDeFormula(c, "_VORD", "X1 - 0.5", ""), FormulaGuardada);
     }
     EXPECT_EQ(EstimarPorFormulas("Y", columnas, p.k - 1, o), bien);
     SoltarTodasMatrices();

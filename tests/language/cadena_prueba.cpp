@@ -76,15 +76,15 @@ TEST(TextoDePaso, ValoresYNombres) {
 
 TEST(Cadena, GuardaCadaClase) {
     static constexpr PasoCadena Pasos[] = {
-        {PasoMatriz, PrimeraFila, "M2", "M * M"},
-        {PasoEscalar, TodasLasFilas, "TOTAL", "SUMSER(A)"},
-        {PasoEscalar, PrimeraFila, "UNA", "SUMSER(A)"},
-        {PasoEscalar, PrimeraFila, "X%(n)d", "%(n)d * E"},
-        {PasoSerie, TodasLasFilas, "COPIA", "A"},
-        {PasoSerie, TodasLasFilas, "%(destino)s", "COPIA - MEDSER(COPIA)"},
-        {PasoSerie, TodasLasFilas, "CERO", " 0 "},
-        {PasoMatriz, TodasLasFilas, "LLAVES", "{1 A}"},
-        {PasoMatriz, PrimeraFila, "FILA", "{1 A}"},
+        {PasoMatriz, PrimeraFila, "M2", "M * M", ""},
+        {PasoEscalar, TodasLasFilas, "TOTAL", "SUMSER(A)", ""},
+        {PasoEscalar, PrimeraFila, "UNA", "SUMSER(A)", ""},
+        {PasoEscalar, PrimeraFila, "X%(n)d", "%(n)d * E", ""},
+        {PasoSerie, TodasLasFilas, "COPIA", "A", ""},
+        {PasoSerie, TodasLasFilas, "%(destino)s", "COPIA - MEDSER(COPIA)", ""},
+        {PasoSerie, TodasLasFilas, "CERO", " 0 ", ""},
+        {PasoMatriz, TodasLasFilas, "LLAVES", "{1 A}", ""},
+        {PasoMatriz, PrimeraFila, "FILA", "{1 A}", ""},
     };
     const DatoCadena datos[] = {DatoNumero("n", 3), DatoTexto("destino", "DESVIO")};
     CadenaAbierta c;
@@ -116,8 +116,8 @@ TEST(Cadena, GuardaCadaClase) {
 // A lag of one formula is none of the next, and what a formula leaves on the stack is gone.
 TEST(Cadena, CadaFormulaEmpiezaLimpia) {
     static constexpr PasoCadena Pasos[] = {
-        {PasoSerie, TodasLasFilas, "RETARDO", "A(-1)"},
-        {PasoSerie, TodasLasFilas, "DOBLE", "A * 2"},
+        {PasoSerie, TodasLasFilas, "RETARDO", "A(-1)", ""},
+        {PasoSerie, TodasLasFilas, "DOBLE", "A * 2", ""},
     };
     CadenaAbierta c;
     Empezar(c);
@@ -129,7 +129,7 @@ TEST(Cadena, CadaFormulaEmpiezaLimpia) {
 }
 
 TEST(Cadena, SerieDeMatriz) {
-    static constexpr PasoCadena Pasos[] = {{PasoSerieDeMatriz, TodasLasFilas, "S", "V"}};
+    static constexpr PasoCadena Pasos[] = {{PasoSerieDeMatriz, TodasLasFilas, "S", "V", ""}};
     CadenaAbierta c;
     Empezar(c);
     Procesar("MUEST 1 6");
@@ -160,7 +160,7 @@ TEST_P(FallosDeCadena, Caja) {
     Empezar(c);
     c.cadena.mensajes = &f.mensajes;
     const PasoCadena pasos[] = {
-        {PasoEscalar, PrimeraFila, "ANTES", "1"}, f.paso, {PasoEscalar, PrimeraFila, "DESPUES", "1"}};
+        {PasoEscalar, PrimeraFila, "ANTES", "1", ""}, f.paso, {PasoEscalar, PrimeraFila, "DESPUES", "1", ""}};
     EXPECT_EQ(EjecutarCadena(c.cadena, pasos), 0);
     EXPECT_EQ(Prueba.cajas, f.cajas);
     // What came before stays, what comes behind doesn't run.
@@ -178,8 +178,8 @@ CajaVista Caja(const char *texto, const char *titulo = "Proceso cancelado") {
 
 const CajaVista Desconocida = Caja("Función desconocida [QQ]"), EnFormula = Caja("QQ. Pto 199");
 
-constexpr PasoCadena Mala = {PasoEscalar, PrimeraFila, "X", "QQ", 12, 13};
-constexpr PasoCadena Ocupado = {PasoEscalar, PrimeraFila, "A", "1", 12, 13};
+constexpr PasoCadena Mala = {PasoEscalar, PrimeraFila, "X", "QQ", "", 12, 13};
+constexpr PasoCadena Ocupado = {PasoEscalar, PrimeraFila, "A", "1", "", 12, 13};
 
 } // namespace
 
@@ -224,35 +224,35 @@ INSTANTIATE_TEST_SUITE_P(
         FalloDeCadena{"del evaluador, store", MensajesDelEvaluador, Ocupado, {}},
         FalloDeCadena{"causa, serie",
                       MensajesSecuencia,
-                      {PasoEscalar, PrimeraFila, "A", "1", 12, 780, GuardarCausa},
+                      {PasoEscalar, PrimeraFila, "A", "1", "", 12, 780, GuardarCausa},
                       {Caja("Secuencia no válida. Pto 781")}},
         FalloDeCadena{"causa, matriz",
                       MensajesCalculos,
-                      {PasoEscalar, PrimeraFila, "M", "1", 12, 780, GuardarCausa},
+                      {PasoEscalar, PrimeraFila, "M", "1", "", 12, 780, GuardarCausa},
                       {Caja("Error en cálculos. P782")}},
         FalloDeCadena{"sin punto",
                       MensajesCalculos,
-                      {PasoEscalar, PrimeraFila, "M", "1", 12, 861, GuardarSinPunto},
+                      {PasoEscalar, PrimeraFila, "M", "1", "", 12, 861, GuardarSinPunto},
                       {Caja("Secuencia no válida. 861. Pto 2")}},
         FalloDeCadena{"series",
                       MensajesVariables,
-                      {PasoSerie, TodasLasFilas, "E", "A", 12, 8622, GuardarSeries},
+                      {PasoSerie, TodasLasFilas, "E", "A", "", 12, 8622, GuardarSeries},
                       {Caja("Borre algunas series. Pto 8622")}},
         FalloDeCadena{"serie, store",
                       MensajesVariables,
-                      {PasoSerie, TodasLasFilas, "M", "A", 22, 23},
+                      {PasoSerie, TodasLasFilas, "M", "A", "", 22, 23},
                       {Caja("No se pueden generar las variables temporales. P23")}},
         FalloDeCadena{"serie, formula",
                       MensajesVariables,
-                      {PasoSerie, TodasLasFilas, "X", "QQ", 22, 23},
+                      {PasoSerie, TodasLasFilas, "X", "QQ", "", 22, 23},
                       {Desconocida, EnFormula, Caja("No se pueden generar las variables temporales. P22")}},
         FalloDeCadena{"matriz, store",
                       MensajesCalculos,
-                      {PasoMatriz, PrimeraFila, "E", "M", 14},
+                      {PasoMatriz, PrimeraFila, "E", "M", "", 14},
                       {Caja("Nombre matriz no válido. Pto 29"), Caja("Error en cálculos. P14")}},
         FalloDeCadena{"serie de matriz",
                       MensajesSecuencia,
-                      {PasoSerieDeMatriz, TodasLasFilas, "X", "QQ"},
+                      {PasoSerieDeMatriz, TodasLasFilas, "X", "QQ", ""},
                       {Caja("Nombre Matriz no Válido. Pto 30")}}));
 
 TEST(Cadena, EnElUltimoNivelSoloLaCajaDelPaso) {
@@ -260,7 +260,7 @@ TEST(Cadena, EnElUltimoNivelSoloLaCajaDelPaso) {
         CadenaAbierta c;
         Empezar(c);
         c.cadena.mensajes = &MensajesCalculos;
-        const PasoCadena paso = {clase, PrimeraFila, "X", "M", 12, 13};
+        const PasoCadena paso = {clase, PrimeraFila, "X", "M", "", 12, 13};
         Evaluador.NivelLinea = MaxNiveles - 1;
         EXPECT_EQ(EjecutarCadena(c.cadena, {&paso, 1}), 0);
         EXPECT_EQ(Evaluador.NivelLinea, MaxNiveles - 1);
