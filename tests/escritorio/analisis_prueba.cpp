@@ -52,13 +52,6 @@ Paso PideGraficos(const char *titulo) {
             }};
 }
 
-Textos EntradasDelMenu(QDialog &d) {
-    Textos r;
-    if (auto *barra = d.findChild<QMenuBar *>())
-        for (const QAction *a : barra->actions()) r.push_back(a->text().toStdString());
-    return r;
-}
-
 Textos EntradasDe(QDialog &d, const char *lista) {
     Textos r;
     const auto *c = Hijo<QComboBox>(d, lista);

@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QMenuBar>
 #include <QTimer>
 
 namespace {
@@ -153,6 +154,19 @@ std::vector<std::string> LineasDe(QWidget &w, const char *lista) {
     if (auto *l = Hijo<QListWidget>(w, lista))
         for (int i = 0; i < l->count(); ++i) r.push_back(l->item(i)->text().toStdString());
     return r;
+}
+
+std::vector<std::string> EntradasDelMenu(const QDialog &d) {
+    std::vector<std::string> r;
+    if (const auto *barra = d.findChild<QMenuBar *>())
+        for (const QAction *a : barra->actions()) r.push_back(a->text().toStdString());
+    return r;
+}
+
+QString NotaDeImpresion(QWidget &w) {
+    const auto *lugar = Hijo<QLabel>(w, "lugarDeImpresion");
+    return lugar != nullptr && lugar->isVisibleTo(&w) ? QString(lugar->text()).remove(QChar(0x200B))
+                                                      : QString();
 }
 
 void Elegir(QWidget &w, const char *lista, int linea) {

@@ -62,6 +62,10 @@ void Pulsar(QWidget &w, const char *boton);                       // a click
 void Escribir(QWidget &w, const char *campo, const char *texto);  // typed in place of what stands there
 std::string TextoDe(QWidget &w, const char *control);             // of a label, a button or a field
 std::vector<std::string> LineasDe(QWidget &w, const char *lista); // of a list
+// The entries of a window's menu bar, with their "&".
+std::vector<std::string> EntradasDelMenu(const QDialog &d);
+// What the note of printing tells in the window, without the breaks that let it take several lines.
+QString NotaDeImpresion(QWidget &w);
 // Chooses a line of a list by a click.
 void Elegir(QWidget &w, const char *lista, int linea);
 

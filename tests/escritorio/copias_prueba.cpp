@@ -21,7 +21,6 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
-#include <QStatusBar>
 #include <QTextBrowser>
 
 namespace {
@@ -64,12 +63,6 @@ void EnInforme(int numero, const Hacer &hacer, const Guion &mas = {}) {
 
 QString Texto() {
     return QApplication::clipboard()->text();
-}
-
-// The place that the note of the dialog tells, without the breaks that let it take several lines.
-QString Nota(QDialog &d) {
-    auto *lugar = Hijo<QLabel>(d, "lugarDeImpresion");
-    return lugar != nullptr && lugar->isVisible() ? QString(lugar->text()).remove(QChar(0x200B)) : QString();
 }
 
 QStringList Impresos() {
@@ -218,10 +211,10 @@ TEST_F(Copias, Teclas) {
               [](QDialog &d, QAbstractScrollArea &area, const SalidaResultado &) {
                   QTest::keyClick(&area, Qt::Key_P, Qt::ControlModifier);
                   ASSERT_EQ(Impresos().size(), 1);
-                  EXPECT_TRUE(Nota(d).endsWith(Documentos().filePath(Impresos().constFirst())))
-                      << Nota(d).toStdString();
+                  EXPECT_TRUE(NotaDeImpresion(d).endsWith(Documentos().filePath(Impresos().constFirst())))
+                      << NotaDeImpresion(d).toStdString();
                   QTest::keyClick(&area, Qt::Key_S, Qt::ControlModifier);
-                  EXPECT_EQ(Nota(d), QString()) << "gone at the next command";
+                  EXPECT_EQ(NotaDeImpresion(d), QString()) << "gone at the next command";
                   QTest::keyClick(&area, Qt::Key_C, Qt::ControlModifier);
                   EXPECT_EQ(Texto(), QStringLiteral("linea 0\nlinea 1\nlinea 2\n"));
                   EXPECT_TRUE(d.isVisible());
@@ -245,26 +238,54 @@ TEST_F(Copias, ElLugarDeLoImpreso) {
         QTest::mouseClick(Hijo<QPushButton>(d, "abrirCarpeta"), Qt::LeftButton);
         EXPECT_EQ(QDir(escritorio.source().toLocalFile()), Documentos());
         QTest::keyClick(&area, Qt::Key_C, Qt::ControlModifier);
-        EXPECT_EQ(Nota(d), QString());
+        EXPECT_EQ(NotaDeImpresion(d), QString());
     });
     testing::internal::GetCapturedStderr();
     QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
 }
 
-// The same in the status line of the main window.
+// The same in the main window, on a small screen and where the documents lie deep.
 TEST_F(Copias, ElLugarEnLaPrincipal) {
-    testing::internal::CaptureStderr();
-    ventana->PantallaEdicion->setPlainText(QStringLiteral("ESC A = 1"));
-    ventana->show();
-    ConGuion({}, [&] { Ordenar(2088); });
-    testing::internal::GetCapturedStderr();
-    QStatusBar &estado = *ventana->statusBar();
-    EXPECT_TRUE(estado.currentMessage().contains(Documentos().path()));
-    EXPECT_EQ(estado.toolTip(), estado.currentMessage());
-    auto *boton = Hijo<QPushButton>(estado, "abrirCarpeta");
-    ASSERT_NE(boton, nullptr);
-    EXPECT_TRUE(boton->isVisible());
-    Ordenar(2049);
-    EXPECT_EQ(estado.currentMessage(), QString());
-    EXPECT_FALSE(boton->isVisible());
+    const QString casa = Casa();
+    const struct {
+        QString carpeta;
+        int largo; // of the path, at least
+    } casos[] = {
+        {QStringLiteral("/facultad/econometría"), 60},
+        {QStringLiteral("/facultad de económicas/segundo curso/econometría/prácticas de regresión"), 120},
+        {u'/' + QString(60, u'm') + QStringLiteral("/") + QString(60, u'W'), 160}, // no blanks to break at
+    };
+    for (const auto &c : casos) {
+        SCOPED_TRACE(c.carpeta.toStdString());
+        qputenv("HOME", (casa + c.carpeta).toUtf8());
+        const QString carpeta = casa + c.carpeta + QStringLiteral("/Documents");
+        testing::internal::CaptureStderr();
+        ventana->PantallaEdicion->setPlainText(QStringLiteral("ESC A = 1"));
+        ventana->show(); // it fills its screen
+        ConGuion({}, [&] { Ordenar(2088); });
+        testing::internal::GetCapturedStderr();
+        QCoreApplication::processEvents();
+        ASSERT_LE(ventana->width(), 800);
+        const QStringList impresos = QDir(carpeta).entryList({QStringLiteral("*.pdf")});
+        ASSERT_EQ(impresos.size(), 1);
+        const QString donde = carpeta + u'/' + impresos[0];
+        EXPECT_GE(donde.size(), c.largo);
+        EXPECT_EQ(NotaDeImpresion(*ventana), QStringLiteral("Sin impresora: impreso en ") + donde);
+        // All of it is within the label, in its lines: nothing is cut at any side.
+        const auto *lugar = Hijo<QLabel>(*ventana, "lugarDeImpresion");
+        const QRect hueco = lugar->contentsRect();
+        const QRect escrito = lugar->fontMetrics().boundingRect(QRect(0, 0, hueco.width(), 10'000),
+                                                                Qt::TextWordWrap, lugar->text());
+        EXPECT_LE(escrito.width(), hueco.width());
+        EXPECT_LE(escrito.height(), hueco.height());
+        auto *boton = Hijo<QPushButton>(*ventana, "abrirCarpeta");
+        for (const QWidget *w : {static_cast<const QWidget *>(lugar), static_cast<const QWidget *>(boton)}) {
+            EXPECT_TRUE(w->isVisible());
+            EXPECT_TRUE(ventana->rect().contains(QRect(w->mapTo(ventana.get(), QPoint(0, 0)), w->size())));
+        }
+        Ordenar(2049);
+        EXPECT_EQ(NotaDeImpresion(*ventana), QString());
+        EXPECT_FALSE(boton->isVisible());
+    }
+    qputenv("HOME", casa.toUtf8());
 }

@@ -74,13 +74,6 @@ void Entrada(QDialog &d, const char *texto) {
     ADD_FAILURE() << "no entry " << texto;
 }
 
-std::vector<std::string> EntradasDe(QDialog &d) {
-    std::vector<std::string> r;
-    for (const QAction *a : static_cast<QMenuBar *>(d.layout()->menuBar())->actions())
-        r.push_back(a->text().toStdString());
-    return r;
-}
-
 void Mover(QWidget &area, QPoint a) {
     QMouseEvent suceso(QEvent::MouseMove, a, area.mapToGlobal(a), Qt::NoButton, Qt::LeftButton,
                        Qt::NoModifier);
@@ -107,7 +100,7 @@ TEST_F(Graficos, LaVentanaDeUnaSentencia) {
     ventana->PantallaEdicion->selectAll();
     ConGuion({{TituloSeries,
                [](QDialog &d) {
-                   EXPECT_EQ(EntradasDe(d), (std::vector<std::string>{"I&mprimir", "&Ayuda"}));
+                   EXPECT_EQ(EntradasDelMenu(d), (std::vector<std::string>{"I&mprimir", "&Ayuda"}));
                    EXPECT_EQ(BuscarSerie("Z"), -1); // the batch waits
                    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
                    d.reject();
@@ -255,9 +248,9 @@ TEST_F(Graficos, OpcionesDeLaVentanaDeResiduos) {
     CalcularLimites(g);
     EnVentana(g,
               [&](QDialog &d, QWidget &) {
-                  EXPECT_EQ(EntradasDe(d), (std::vector<std::string>{"&Intervalos y títulos",
-                                                                     "&Formas y colores", "&Otras opciones",
-                                                                     "&Decimales", "I&mprimir", "&Ayuda"}));
+                  EXPECT_EQ(EntradasDelMenu(d), (std::vector<std::string>{
+                                                    "&Intervalos y títulos", "&Formas y colores",
+                                                    "&Otras opciones", "&Decimales", "I&mprimir", "&Ayuda"}));
                   Entrada(d, "Intervalos y títulos");
                   EXPECT_EQ(g.opciones.titulo, "Residuos");
                   EXPECT_EQ(g.limites.maxY, 8); // the chart has its new limits at once
@@ -385,7 +378,7 @@ TEST_F(Graficos, OtrasOpcionesDeLaPrediccion) {
 TEST_F(Graficos, ElegirSeries) {
     ConGuion({{"Gráficos temporales",
                [](QDialog &d) {
-                   EXPECT_EQ(EntradasDe(d),
+                   EXPECT_EQ(EntradasDelMenu(d),
                              (std::vector<std::string>{"&Intervalos y títulos", "&Formas y colores",
                                                        "&Decimales", "I&mprimir", "&Ayuda"}));
                    EXPECT_EQ(TextoDe(d, "textoDisponibles"), "Series en el archivo de trabajo");

@@ -12,8 +12,6 @@
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QRegularExpression>
-#include <QStatusBar>
-#include <QStatusTipEvent>
 
 #include <algorithm>
 #include <array>
@@ -36,13 +34,13 @@ void EscribirEn(const QString &ruta, const char *contenido) {
     f.write(contenido);
 }
 
-// Prints the edit screen; what the status of the main window tells then, which is on standard error, too.
+// Prints the edit screen; what the note of the main window tells then, which is on standard error, too.
 QString Imprimir(VentanaPrincipal &v) {
     v.PantallaEdicion->setPlainText(QStringLiteral("ESC A = 1"));
     testing::internal::CaptureStderr();
     ConGuion({}, [&] { v.findChild<QAction *>(QStringLiteral("comando2088"))->trigger(); });
     const QString nota = QString::fromStdString(testing::internal::GetCapturedStderr());
-    const QString estado = v.statusBar()->currentMessage();
+    const QString estado = NotaDeImpresion(v);
     EXPECT_EQ(nota, QStringLiteral("tabira: %1\n").arg(estado));
     return estado;
 }
@@ -213,19 +211,10 @@ TEST_F(Impresion, PapelDeOtraForma) {
 // What a note tells is of its own job: the next one begins without it.
 TEST_F(Impresion, LaNotaEsDeSuTrabajo) {
     ImpresoraEnUso().empezarTrabajo("sin nota"); // a job that a printer takes has none
-    EXPECT_TRUE(ventana->statusBar()->currentMessage().isEmpty());
+    EXPECT_TRUE(NotaDeImpresion(*ventana).isEmpty());
     ASSERT_FALSE(Imprimir(*ventana).isEmpty());
     ImpresoraEnUso().empezarTrabajo("otro");
-    EXPECT_TRUE(ventana->statusBar()->currentMessage().isEmpty());
-}
-
-// Opening a menu clears the tips of a status line; the note stays.
-TEST_F(Impresion, LaNotaQueda) {
-    const QString nota = Imprimir(*ventana);
-    ASSERT_FALSE(nota.isEmpty());
-    QStatusTipEvent vacio{QString()};
-    QApplication::sendEvent(ventana.get(), &vacio);
-    EXPECT_EQ(ventana->statusBar()->currentMessage(), nota);
+    EXPECT_TRUE(NotaDeImpresion(*ventana).isEmpty());
 }
 
 // The printer itself: here one that writes a file, and one whose file can't be written.

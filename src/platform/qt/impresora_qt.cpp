@@ -14,13 +14,12 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMainWindow>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
 #include <QStandardPaths>
-#include <QStatusBar>
 #include <QUrl>
+#include <QVBoxLayout>
 
 #include <cstdio>
 
@@ -56,57 +55,43 @@ QString DocumentoNuevo(const std::string &documento) {
 }
 
 constexpr const char *NombreDeNota = "notaDeImpresion";
-constexpr const char *NombreDeBoton = "abrirCarpeta";
 constexpr QChar Rotura(0x200B); // a blank of no width
+
+// The text may break behind each folder of its path, and within a name that is long: all of it is to be read, however
+// narrow the window is.
+QString ConRoturas(const QString &texto) {
+    constexpr int MaximoEntero = 24; // characters of a name without a blank
+    QString roto;
+    int entero = 0;
+    for (const QChar c : texto) {
+        roto += c;
+        entero = c.isSpace() ? 0 : entero + 1;
+        if (c != u'/' && entero < MaximoEntero) continue;
+        roto += Rotura;
+        entero = 0;
+    }
+    return roto;
+}
 
 // A button that opens the folder of a document, named by its property.
 QPushButton *BotonDeCarpeta(QWidget *padre) {
     auto *boton = new QPushButton(QStringLiteral("Abrir carpeta"), padre);
-    boton->setObjectName(QLatin1String(NombreDeBoton));
+    boton->setObjectName(QStringLiteral("abrirCarpeta"));
     QObject::connect(boton, &QPushButton::clicked, boton, [boton] {
         QDesktopServices::openUrl(QUrl::fromLocalFile(boton->property("carpeta").toString()));
     });
     return boton;
 }
 
-// `carpeta` empty: there is no document to go to.
-void PonerCarpeta(QPushButton &boton, const QString &carpeta) {
-    boton.setProperty("carpeta", carpeta);
-    boton.setVisible(!carpeta.isEmpty());
-}
-
-// In a dialog the text takes as many lines as it needs: a path may break behind each of its folders.
-void PonerEnDialogo(QWidget &nota, const QString &texto, const QString &carpeta) {
-    nota.findChild<QLabel *>()->setText(QString(texto).replace(u'/', QStringLiteral("/") + Rotura));
-    PonerCarpeta(*nota.findChild<QPushButton *>(), carpeta);
-    nota.setVisible(!texto.isEmpty());
-}
-
-// In the main window it stands in the status line, and whole in its tip. Whoever clears the line takes all of it away.
-void PonerEnPrincipal(QStatusBar &linea, const QString &texto, const QString &carpeta) {
-    if (texto.isEmpty()) return linea.clearMessage();
-    auto *boton = linea.findChild<QPushButton *>(QLatin1String(NombreDeBoton));
-    if (boton == nullptr) {
-        boton = BotonDeCarpeta(&linea);
-        linea.addPermanentWidget(boton);
-        QObject::connect(&linea, &QStatusBar::messageChanged, boton, [&linea, boton](const QString &mensaje) {
-            linea.setToolTip(mensaje);
-            if (mensaje.isEmpty()) boton->hide();
-        });
-    }
-    linea.show();
-    linea.showMessage(texto);
-    PonerCarpeta(*boton, carpeta);
-}
-
-// The main window and the dialog that may stand before it.
+// In every window that has room for it. `texto` empty: there is nothing to tell; `carpeta` empty: no document to go to.
 void PonerNotas(const QString &texto, const QString &carpeta) {
-    for (QWidget *w : QApplication::topLevelWidgets()) {
-        if (auto *principal = qobject_cast<QMainWindow *>(w)) {
-            PonerEnPrincipal(*principal->statusBar(), texto, carpeta);
-        } else if (auto *nota = w->findChild<QWidget *>(QLatin1String(NombreDeNota))) {
-            PonerEnDialogo(*nota, texto, carpeta);
-        }
+    for (QWidget *nota : QApplication::allWidgets()) {
+        if (nota->objectName() != QLatin1String(NombreDeNota)) continue;
+        nota->findChild<QLabel *>()->setText(ConRoturas(texto));
+        auto *boton = nota->findChild<QPushButton *>();
+        boton->setProperty("carpeta", carpeta);
+        boton->setVisible(!carpeta.isEmpty());
+        nota->setVisible(!texto.isEmpty());
     }
 }
 
@@ -147,8 +132,8 @@ void TerminarTrabajoQt() {
 
 } // namespace
 
-void PonerNotaDeImpresion(QDialog &dialogo) {
-    auto *nota = new QWidget(&dialogo);
+void PonerNotaDeImpresion(QWidget &ventana) {
+    auto *nota = new QWidget(&ventana);
     nota->setObjectName(QLatin1String(NombreDeNota));
     auto *disposicion = new QHBoxLayout(nota);
     auto *texto = new QLabel(nota);
@@ -157,12 +142,23 @@ void PonerNotaDeImpresion(QDialog &dialogo) {
     texto->setWordWrap(true);
     disposicion->addWidget(texto, 1);
     // Where no other button answers Enter, this one must not.
-    const bool conBotones = !dialogo.findChildren<QPushButton *>().isEmpty();
+    const bool conBotones = !ventana.findChildren<QPushButton *>().isEmpty();
     auto *boton = BotonDeCarpeta(nota);
     boton->setAutoDefault(conBotones);
     disposicion->addWidget(boton);
     nota->hide();
-    dialogo.layout()->addWidget(nota);
+    ventana.layout()->addWidget(nota);
+}
+
+void PrepararVentanaQueImprime(QDialog &dialogo, QWidget &area, const char *nombre, std::string_view titulo) {
+    dialogo.setObjectName(QLatin1String(nombre));
+    dialogo.setWindowTitle(QDe1252(titulo));
+    dialogo.setWindowFlag(Qt::WindowMaximizeButtonHint);
+    auto *disposicion = new QVBoxLayout(&dialogo);
+    disposicion->setContentsMargins(0, 0, 0, 0);
+    disposicion->addWidget(&area, 1);
+    PonerNotaDeImpresion(dialogo);
+    area.setFocus();
 }
 
 void BorrarNotasDeImpresion() {

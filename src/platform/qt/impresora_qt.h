@@ -4,14 +4,20 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 class QDialog;
 class QPrinter;
+class QWidget;
 struct TrabajoImpreso;
 
-// Gives a window that prints a note at its foot, which tells where a document went, with a button that opens its folder;
-// until then it takes no room. The main window tells the same in its status line.
-void PonerNotaDeImpresion(QDialog &dialogo);
+// Gives a window that prints, or a part of it, a note at the foot of its layout: where a document went, whole, with a
+// button that opens its folder. Until then it takes no room.
+void PonerNotaDeImpresion(QWidget &ventana);
+
+// Makes a dialog of what is shown and printed, a result or a chart: `area` fills it down to its note, and has the keyboard.
+// `nombre` is what the window is known by, `titulo` its title in Windows-1252.
+void PrepararVentanaQueImprime(QDialog &dialogo, QWidget &area, const char *nombre, std::string_view titulo);
 
 // The next command begins: where the last document went is told no longer.
 void BorrarNotasDeImpresion();

@@ -7,8 +7,7 @@
 
 #include "shell/barra_estado.h"
 
-// At its left the message of the last batch, at its right the work file, the sample and the place of the caret. What
-// the printer tells with showMessage stands before the message until the next command.
+// At its left the message of the last batch, at its right the work file, the sample and the place of the caret.
 class BarraDeEstado : public QStatusBar {
 public:
     BarraDeEstado(QWidget *padre, const QPlainTextEdit &pantalla);

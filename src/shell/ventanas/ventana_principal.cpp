@@ -78,6 +78,7 @@ VentanaPrincipal::VentanaPrincipal()
     disposicion->setSpacing(0);
     disposicion->addWidget(PantallaEdicion);
     disposicion->addWidget(buscar);
+    PonerNotaDeImpresion(*centro);
     setCentralWidget(centro);
     setStatusBar(barra);
     resize(640, 400);
@@ -183,11 +184,9 @@ void VentanaPrincipal::closeEvent(QCloseEvent *suceso) {
     }
 }
 
-// No entry of the menu has a tip for the status line, and the toolkit would wipe out with it what stands there: where
-// the last document was printed to.
 bool VentanaPrincipal::event(QEvent *suceso) {
     if (suceso->type() == QEvent::WindowActivate) Refrescar(); // the editor may have changed the data
-    return suceso->type() == QEvent::StatusTip || QMainWindow::event(suceso);
+    return QMainWindow::event(suceso);
 }
 
 // Every painting, first or not, shows the window maximised again: after a change of its size it grows back.

@@ -24,7 +24,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPixmap>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -172,17 +171,10 @@ void PonerMenu(QDialog &dialogo, AreaGrafico &area, Grafico &g) {
 
 void MostrarGraficoQt(Ventana *ventana, Grafico &grafico) {
     QDialog dialogo(DeVentana(ventana));
-    dialogo.setObjectName(QStringLiteral("ventanaGrafico"));
-    dialogo.setWindowTitle(QDe1252(grafico.tituloVentana));
-    dialogo.setWindowFlag(Qt::WindowMaximizeButtonHint);
-    auto *disposicion = new QVBoxLayout(&dialogo);
-    disposicion->setContentsMargins(0, 0, 0, 0);
     auto *area = new AreaGrafico(&dialogo, grafico);
-    disposicion->addWidget(area, 1);
+    PrepararVentanaQueImprime(dialogo, *area, "ventanaGrafico", grafico.tituloVentana);
     PonerMenu(dialogo, *area, grafico);
-    PonerNotaDeImpresion(dialogo);
     dialogo.resize(DentroDeLaPantalla(dialogo, dialogo.sizeHint()));
-    area->setFocus();
     PonerCursor(CursorFlecha); // a statement runs under the wait cursor, which would hide those of the chart
     Modal(dialogo);
 }

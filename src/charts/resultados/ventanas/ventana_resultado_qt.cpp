@@ -20,12 +20,12 @@
 #include <QImage>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
 #include <QScrollBar>
 #include <QSignalBlocker>
-#include <QVBoxLayout>
 #include <QWheelEvent>
 
 namespace {
@@ -194,12 +194,8 @@ private:
 
 void MostrarResultadoQt(Ventana *ventana, const SalidaResultado &salida) {
     QDialog dialogo(DeVentana(ventana));
-    dialogo.setObjectName(QStringLiteral("ventanaResultado"));
-    dialogo.setWindowTitle(QDe1252(salida.titulo));
-    dialogo.setWindowFlag(Qt::WindowMaximizeButtonHint);
-    auto *disposicion = new QVBoxLayout(&dialogo);
-    disposicion->setContentsMargins(0, 0, 0, 0);
     auto *area = new AreaResultado(&dialogo, salida);
+    PrepararVentanaQueImprime(dialogo, *area, "ventanaResultado", salida.titulo);
     auto *barra = new QMenuBar(&dialogo);
     barra->setObjectName(QStringLiteral("menuResultado"));
     QAction *imprimir = barra->addAction(QStringLiteral("&Imprimir"));
@@ -217,12 +213,9 @@ void MostrarResultadoQt(Ventana *ventana, const SalidaResultado &salida) {
         salir->setObjectName(QStringLiteral("comando2021"));
         QObject::connect(salir, &QAction::triggered, &dialogo, &QDialog::accept);
     }
-    disposicion->setMenuBar(barra);
-    disposicion->addWidget(area);
+    dialogo.layout()->setMenuBar(barra);
     area->setMinimumWidth(area->AnchoMinimo());
-    PonerNotaDeImpresion(dialogo);
     dialogo.resize(DentroDeLaPantalla(dialogo, area->TamanoInicial() + QSize(0, barra->sizeHint().height())));
-    area->setFocus();
     // A statement runs under the wait cursor; its result is looked at under the arrow.
     QApplication::setOverrideCursor(Qt::ArrowCursor);
     Modal(dialogo);
