@@ -3,6 +3,7 @@
 
 #include "charts/resultados/partes_informe.h"
 #include "language/lote_sentencias.h"
+#include "language/traza.h"
 #include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
@@ -115,7 +116,39 @@ double CorrelacionDeSeries(int serie1, double media1, int serie2, double media2,
     return denominador > 0.0 ? productos / denominador : 0.0;
 }
 
-int AceptarDescriptivos(Ventana *ventana, const std::vector<std::string> &elegidas) {
+namespace {
+
+// The steps of MedirSerie; x(t) are the values that aren't missing.
+void TrazarMedidas(const SerieElegida &s, const FilasTraza &filas) {
+    const char *x = s.codigo.c_str();
+    const auto medida = [&](const char *nombre, const std::string &formula, double valor,
+                            const char *explicacion) {
+        TrazarEscalar(Formatear("%s(%s)", nombre, x), ConPeriodos(formula, filas), valor, explicacion, filas);
+    };
+    medida("media", Formatear("suma de %s(t) / observaciones", x), s.medidas.media,
+           "Media de las observaciones que hay");
+    medida("desviacion", Formatear("RCUAD(suma de (%s(t) - media(%s))^2 / observaciones)", x, x),
+           s.medidas.desviacion, "Desviación típica, con el número de observaciones"_w);
+    medida("minimo", Formatear("el menor %s(t)", x), s.medidas.minimo, "Mínimo"_w);
+    medida("maximo", Formatear("el mayor %s(t)", x), s.medidas.maximo, "Máximo"_w);
+}
+
+void TrazarDescriptivos(const std::vector<SerieElegida> &series,
+                        const std::vector<Correlacion> &correlaciones, const FilasTraza &filas) {
+    if (!Trazando()) return;
+    for (const SerieElegida &s : series) TrazarMedidas(s, filas);
+    for (const Correlacion &c : correlaciones) {
+        const char *x = series[c.primera].codigo.c_str(), *z = series[c.segunda].codigo.c_str();
+        TrazarEscalar(Formatear("r(%s,%s)", x, z),
+                      ConPeriodos(Formatear("suma de (%s(t) - media) (%s(t) - media) / "
+                                            "RCUAD(suma de (%s(t) - media)^2 * suma de (%s(t) - media)^2)",
+                                            x, z, x, z),
+                                  filas),
+                      c.r, "Coeficiente de correlación"_w, filas);
+    }
+}
+
+int Describir(Ventana *ventana, const std::vector<std::string> &elegidas) {
     if (elegidas.size() > MaxDescriptivos) return MensajeAviso(ventana, "Demasiadas series escogidas");
     if (elegidas.empty()) return MensajeAviso(ventana, "Escoja una serie");
     const FilasDeMuestra filas = FilasDelArchivo(Muestra.InicioMuestra, Muestra.FinMuestra);
@@ -126,6 +159,7 @@ int AceptarDescriptivos(Ventana *ventana, const std::vector<std::string> &elegid
         series.push_back({std::string(Recortado(codigo)), s, MedirSerie(s, filas)});
     }
     const std::vector<Correlacion> correlaciones = Correlaciones(series, filas);
+    TrazarDescriptivos(series, correlaciones, {filas.inicio, filas.fin});
     const TextoSalida lineas = Lineas(series, correlaciones);
     const std::string tabla = Tabla(series, correlaciones);
     SalidaResultado salida = {};
@@ -135,4 +169,13 @@ int AceptarDescriptivos(Ventana *ventana, const std::vector<std::string> &elegid
     salida.tabla = tabla;
     MostrarVentanaResultado(ventana, salida);
     return 1;
+}
+
+} // namespace
+
+int AceptarDescriptivos(Ventana *ventana, const std::vector<std::string> &elegidas) {
+    std::string codigos;
+    for (const std::string &codigo : elegidas) codigos.append(Recortado(codigo)).append(" ");
+    const int grupo = EmpezarComando(codigos, "Medidas descriptivas y correlaciones");
+    return TerminarComando(grupo, Describir(ventana, elegidas));
 }

@@ -4,6 +4,7 @@
 #include "analysis/informe_prediccion.h"
 #include "analysis/serie_destino.h"
 #include "estimation/regresion.h"
+#include "language/traza.h"
 #include "platform/campos_texto.h"
 #include "platform/numeros.h"
 #include "platform/primitivas_matriz.h"
@@ -136,6 +137,60 @@ void CalcularDesviaciones(const Trabajo &t, const double *covarianza, double res
     }
 }
 
+// ----- The trace. x(t) are the regressors of a row as a column, a term that is no series with the value 1; p(t) and a(t)
+// what was predicted and what was observed, as the mode compares them.
+
+FilasTraza FilasDePrediccion() {
+    return {Prediccion.inicioPred, Prediccion.finPred};
+}
+
+void TrazarPredicha(const char *codigo, const char *formula, const char *explicacion) {
+    if (Trazando())
+        TrazarSerie(Recortado(codigo), ConPeriodos(formula, FilasDePrediccion()), explicacion,
+                    FilasDePrediccion());
+}
+
+void TrazarMedidas(const MedidasPrediccion &m) {
+    if (!Trazando()) return;
+    const FilasTraza filas = FilasDePrediccion();
+    const int n = filas.ultima - filas.primera + 1;
+    const auto medida = [&](const char *nombre, const std::string &formula, double valor,
+                            const char *explicacion) {
+        TrazarEscalar(nombre, formula, valor, explicacion, filas);
+    };
+    // The means and deviations that the measures are made of.
+    const double *p = Prediccion.prediccionEval + filas.primera,
+                 *a = Prediccion.observacionEval + filas.primera;
+    const auto suma = [&](const double *x, double centro, int orden) {
+        double s = 0.0;
+        for (int i = 0; i < n; ++i) s += orden == 1 ? x[i] : (x[i] - centro) * (x[i] - centro);
+        return s;
+    };
+    const double mp = suma(p, 0.0, 1) / n, ma = suma(a, 0.0, 1) / n;
+    medida("mp", ConPeriodos(Formatear("suma de p(t) / %d", n), filas), mp, "Media de lo predicho");
+    medida("ma", ConPeriodos(Formatear("suma de a(t) / %d", n), filas), ma, "Media de lo observado");
+    medida("sp", ConPeriodos(Formatear("RCUAD(suma de (p(t) - mp)^2 / %d)", n), filas),
+           std::sqrt(suma(p, mp, 2) / n), "Desviación típica de lo predicho"_w);
+    medida("sa", ConPeriodos(Formatear("RCUAD(suma de (a(t) - ma)^2 / %d)", n), filas),
+           std::sqrt(suma(a, ma, 2) / n), "Desviación típica de lo observado"_w);
+    medida("eam", ConPeriodos(Formatear("suma de |p(t) - a(t)| / %d", n), filas), m.EAM,
+           "Error absoluto medio: p(t), lo predicho; a(t), lo observado");
+    medida("ecm", ConPeriodos(Formatear("suma de (p(t) - a(t))^2 / %d", n), filas), m.ECM,
+           "Error cuadrático medio"_w);
+    medida(
+        "correlacion",
+        ConPeriodos("suma de (a(t) - ma) (p(t) - mp) / RCUAD(suma de (p(t) - mp)^2 * suma de (a(t) - ma)^2)",
+                    filas),
+        m.COP, "Coeficiente de correlación entre predicción y observación"_w);
+    medida("theil", ConPeriodos(Formatear("RCUAD(ecm) / RCUAD(suma de a(t)^2 / %d)", n), filas), m.Theil,
+           "Índice de Theil"_w);
+    medida("sesgo", "(mp - ma)^2 / ecm", m.sesgo, "Componente de sesgo del error");
+    medida("varianza", "(sp - sa)^2 / ecm", m.varianza, "Componente de varianza del error");
+    medida("aleatorio", "1 - sesgo - varianza", m.aleatorio, "Componente aleatorio del error");
+}
+
+// ----- The prediction
+
 int PredecirTodo(Trabajo &t) {
     const int K = static_cast<int>(UltimaRegresion.CodigosRegresores.size());
     const double *beta = Matriz("_BETA", K);
@@ -145,11 +200,21 @@ int PredecirTodo(Trabajo &t) {
     for (const int serie : {t.pred, t.dtm, t.dti})
         VaciarSerieDestino(serie, Prediccion.inicioPred, Prediccion.finPred);
     Predecir(t, beta);
+    TrazarPredicha(Prediccion.codigoPred, "x(t)' _BETA", "Predicción: regresores por coeficientes"_w);
     const double *covarianza = Matriz("_COV", K * K);
     if (covarianza == nullptr) return MensajePunto(t.ventana, "No existe la matriz de covarianza", 1);
     double residual = 0.0;
     if (VarianzaResidual(t, residual) == 0) return 0;
     CalcularDesviaciones(t, covarianza, residual);
+    if (Trazando())
+        TrazarEscalar("residual",
+                      Formatear("_SCR / (%d - %d)",
+                                UltimaRegresion.UltimaObsRegresion - UltimaRegresion.PrimeraObsRegresion + 1,
+                                K),
+                      residual, "Varianza de los residuos");
+    TrazarPredicha(Prediccion.codigoDtm, "RCUAD(x(t)' _COV x(t))", "Desviación típica del valor medio"_w);
+    TrazarPredicha(Prediccion.codigoDti, "RCUAD(residual + x(t)' _COV x(t))",
+                   "Desviación típica del valor individual"_w);
     return 1;
 }
 
@@ -201,6 +266,7 @@ int Evaluar(Trabajo &t) {
     const std::size_t m = static_cast<std::size_t>(p.finPred - p.inicioPred) + 1;
     p.medidas = MedirPrediccion({p.prediccionEval + p.inicioPred, m}, {p.observacionEval + p.inicioPred, m});
     p.evaluada = true;
+    TrazarMedidas(p.medidas);
     return 1;
 }
 
@@ -246,9 +312,10 @@ int AceptarPrediccion(Ventana *ventana, const ValoresPrediccion &valores) {
     PonerRango(valores);
     PonerNombres(valores);
     Trabajo t = {ventana, -1, -1, -1, {}, -1};
+    const int grupo = EmpezarComando(Recortado(UltimaRegresion.CodigoDependiente),
+                                     "Predicción y evaluación de la capacidad predictiva"_w);
     const bool bien = PredecirTodo(t) != 0 && Evaluar(t) != 0;
     RefrescarEditor();
-    if (!bien) return 0;
-    MostrarPrediccion(ventana);
-    return 1;
+    if (bien) MostrarPrediccion(ventana);
+    return TerminarComando(grupo, bien ? 1 : 0);
 }

@@ -2,6 +2,7 @@
 #include "analysis/transformaciones.h"
 
 #include "analysis/serie_destino.h"
+#include "language/traza.h"
 #include "platform/campos_texto.h"
 #include "platform/diferencias_autocorrelacion.h"
 #include "platform/numeros.h"
@@ -90,7 +91,21 @@ void Guardar(int serie, int primera, const std::vector<double> &x) {
 
 } // namespace
 
-int AceptarTransformacion(Ventana *ventana, const ValoresTransformacion &valores) {
+namespace {
+
+// What was done to the series, in its order, as one step.
+void TrazarTransformacion(const Transformacion &t, std::string_view serie, int destino) {
+    std::string x(Recortado(serie));
+    x += "(t)";
+    if (t.ordenEstacional > 0) x = Formatear("(1 - B^%d)^%d ", t.periodo, t.ordenEstacional) + x;
+    if (t.ordenNoEstacional > 0) x = Formatear("(1 - B)^%d ", t.ordenNoEstacional) + x;
+    if (t.boxCox && t.lambda == 0) x = "LN(" + x + ")";
+    if (t.boxCox && t.lambda != 0) x = "(" + x + Formatear(")^(%d-1) / %d", t.lambda, t.lambda);
+    TrazarSerie(Recortado(ArchivoTrabajo.Codigos[destino]), x,
+                "Serie transformada; B es el retardo de un período"_w);
+}
+
+int Transformar(Ventana *ventana, const ValoresTransformacion &valores) {
     Transformacion t = {};
     if (LeerTransformacion(ventana, valores, t) == 0) return 0;
     const FilasDeMuestra filas = FilasDelArchivo(Muestra.InicioMuestra, Muestra.FinMuestra);
@@ -114,6 +129,14 @@ int AceptarTransformacion(Ventana *ventana, const ValoresTransformacion &valores
     if (t.ordenNoEstacional > 0) Diferenciar(x, t.ordenNoEstacional, 0, 0);
     if (t.boxCox) AplicarBoxCox(x, t.lambda, desdeElPrincipio);
     Guardar(destino, filas.inicio + static_cast<int>(perdidas), x);
+    if (Trazando()) TrazarTransformacion(t, valores.serie, destino);
     RefrescarEditor();
     return 1;
+}
+
+} // namespace
+
+int AceptarTransformacion(Ventana *ventana, const ValoresTransformacion &valores) {
+    const int grupo = EmpezarComando(Recortado(valores.serie), "Transformación de una serie"_w);
+    return TerminarComando(grupo, Transformar(ventana, valores));
 }

@@ -4,6 +4,7 @@
 #include "charts/resultados/partes_informe.h"
 #include "estimation/regresion.h"
 #include "language/lote_sentencias.h"
+#include "language/traza.h"
 #include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
@@ -159,6 +160,27 @@ void AnadirFuente(ListadoProducido &l, const FilaDeVarianza &f, bool conF) {
     l.tabla += "\n";
 }
 
+// The steps of the table; y(t) is the dependent.
+void TrazarVarianza(double total, double residual, double k, int n, const FilasTraza &filas) {
+    if (!Trazando()) return;
+    const int grupo =
+        AbrirGrupo(UltimaRegresion.SentenciaRegresion, "Análisis de la varianza de la regresión"_w);
+    const auto fila = [&](const char *nombre, const std::string &formula, double valor,
+                          const char *explicacion) {
+        TrazarEscalar(nombre, formula, valor, explicacion, filas);
+    };
+    const auto media = [](double suma, double grados) { return grados > 0.0 ? suma / grados : 0.0; };
+    fila("sct", ConPeriodos("suma de (y(t) - media)^2", filas), total,
+         "Suma total de cuadrados de la variable dependiente respecto a su media");
+    fila("sce", "sct - _SCR", total - residual, "Suma de cuadrados explicada por la regresión"_w);
+    fila("mce", Formatear("sce / %.0f", k - 1.0), media(total - residual, k - 1.0),
+         "Media cuadrática de la regresión"_w);
+    fila("mcr", Formatear("_SCR / %.0f", n - k), media(residual, n - k),
+         "Media cuadrática de los residuos"_w);
+    fila("mct", Formatear("sct / %d", n - 1), media(total, n - 1.0), "Media cuadrática total"_w);
+    CerrarGrupo(grupo);
+}
+
 // Its sums are those of the last MC or MCP, whatever a test left beside them.
 void ProducirVarianza(ListadoProducido &l, const PeticionListado &p, Ventana *ventana) {
     l.tituloImpreso = "Análisis de la varianza de la regresión"_w;
@@ -170,6 +192,7 @@ void ProducirVarianza(ListadoProducido &l, const PeticionListado &p, Ventana *ve
     const Rango rango = FilasDe(p);
     const double total = VariacionTotal(y, rango), residual = ValorDe("_SCR"), k = ValorDe("_NREG");
     const int n = rango.ultima - rango.primera + 1;
+    TrazarVarianza(total, residual, k, n, {rango.primera, rango.ultima});
     AnadirLinea(l.lineas, GrupoTitulo,
                 "Fuente de       Suma de    Grados de     Media        F     Prob>F   ");
     AnadirLinea(l.lineas, GrupoTitulo, "variación      cuadrados   libertad    cuadrática"_w);

@@ -8,6 +8,7 @@
 
 #include "language/traza.h"
 #include "platform/primitivas_matriz.h"
+#include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 
@@ -33,9 +34,10 @@ void TrazarSuma(const char *destino, const char *formula, const char *explicacio
         TrazarMatriz(destino, ConPeriodos(formula, FilasDeRegresion()), explicacion, FilasDeRegresion());
 }
 
-void TrazarNumero(const char *formula, double valor, const char *explicacion) {
+void TrazarNumero(const char *nombre, const std::string &formula, double valor, const char *explicacion) {
     if (Trazando())
-        TrazarEscalar({}, ConPeriodos(formula, FilasDeRegresion()), valor, explicacion, FilasDeRegresion());
+        TrazarEscalar(nombre, ConPeriodos(formula, FilasDeRegresion()), valor, explicacion,
+                      FilasDeRegresion());
 }
 
 // Runs the formula "_TMF4" into the matrix where a sum begins.
@@ -128,11 +130,11 @@ int SumarDirecto(Estimacion &e) {
     e.media = e.suma / n;
     for (int i = 0; i < n; ++i) e.variacion += (y[i] - e.media) * (y[i] - e.media);
     for (int i = 1; i < n; ++i) e.saltos += (residuos[i] - residuos[i - 1]) * (residuos[i] - residuos[i - 1]);
-    TrazarNumero("suma de y(t)", e.suma, "Suma de la variable dependiente");
-    TrazarNumero("media de y(t)", e.media, "Media de la variable dependiente");
-    TrazarNumero("suma de (y(t) - media)^2", e.variacion,
+    TrazarNumero("total", "suma de y(t)", e.suma, "Suma de la variable dependiente");
+    TrazarNumero("media", Formatear("total / %d", n), e.media, "Media de la variable dependiente");
+    TrazarNumero("variacion", "suma de (y(t) - media)^2", e.variacion,
                  "Suma de cuadrados de la variable dependiente respecto a su media");
-    TrazarNumero("suma de (e(t) - e(t-1))^2", e.saltos,
+    TrazarNumero("saltos", "suma de (e(t) - e(t-1))^2", e.saltos,
                  "Suma de cuadrados de las diferencias de residuos sucesivos");
     return 1;
 }

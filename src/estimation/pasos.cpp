@@ -38,7 +38,7 @@ std::string EstadisticoF(const Estimacion &e) {
     const double f = (r2 / (k - 1)) / ((1.0 - r2) / gl);
     if (Trazando()) {
         const char *rc = NombreFamilia(FamRC, e.codigo);
-        TrazarEscalar({}, Formatear("(%s/%d) / ((1 - %s)/%d)", rc, k - 1, rc, gl), f,
+        TrazarEscalar("estadisticoF", Formatear("(%s/%d) / ((1 - %s)/%d)", rc, k - 1, rc, gl), f,
                       "Estadístico F: R2 por regresor entre lo que falta a 1 por grado de libertad"_w);
     }
     return Formatear("%f", f);
@@ -48,7 +48,7 @@ std::string EstadisticoF(const Estimacion &e) {
 std::string RCuadradoCorregido(const Estimacion &e) {
     const double corregido = 1.0 - (1.0 - RCuadrado(e)) * (e.observaciones - 1) / GradosDeLibertad(e);
     if (Trazando())
-        TrazarEscalar({},
+        TrazarEscalar("corregido",
                       Formatear("1 - (1 - %s) * %d / %d", NombreFamilia(FamRC, e.codigo), e.observaciones - 1,
                                 GradosDeLibertad(e)),
                       corregido, "R2 corregido por los grados de libertad");
@@ -100,7 +100,7 @@ int EjecutarRestringido(const Estimacion &e) {
 
 int EjecutarWhite(const Estimacion &e) {
     if (Trazando())
-        TrazarEscalar({}, Formatear("%d * %s", e.observaciones, NombreFamilia(FamRC, e.codigo)),
+        TrazarEscalar("chi", Formatear("%d * %s", e.observaciones, NombreFamilia(FamRC, e.codigo)),
                       e.observaciones * RCuadrado(e), "Estadístico de White: observaciones por R2"_w);
     const DatoCadena datos[] = {
         DatoNumero("chi", e.observaciones * RCuadrado(e)),
@@ -124,7 +124,7 @@ int EjecutarGoldfeld(const Estimacion &e) {
     if (Trazando()) {
         const char *arriba = NombreFamilia(FamSCR, OrdenMGN), *abajo = NombreFamilia(FamSCR, OrdenMGD);
         TrazarEscalar(
-            {}, Formatear("(%s/%.0f) / (%s/%.0f)", arriba, glNumerador, abajo, glDenominador),
+            "cociente", Formatear("(%s/%.0f) / (%s/%.0f)", arriba, glNumerador, abajo, glDenominador),
             Cociente(numerador, denominador),
             "Estadístico de Goldfeld y Quandt: cociente de las varianzas de los residuos de las dos partes"_w);
     }

@@ -4,6 +4,7 @@
 #include "charts/graficos/grafico.h"
 #include "charts/resultados/partes_informe.h"
 #include "language/lote_sentencias.h"
+#include "language/traza.h"
 #include "platform/campos_texto.h"
 #include "platform/diferencias_autocorrelacion.h"
 #include "platform/numeros.h"
@@ -121,6 +122,40 @@ void CalcularParcial(Ventana *ventana, const std::vector<double> &x) {
     std::copy_n(P, copiados - 1, a.coeficientes + 1);
 }
 
+// ----- The trace
+
+// The steps of both computations; x(t) is the series.
+void TrazarEstimada() {
+    const EstadoAutocorrelacion &a = Autocorrelacion;
+    const FilasDeMuestra f = FilasDelArchivo(Muestra.InicioMuestra, Muestra.FinMuestra);
+    const FilasTraza filas = {f.inicio, f.fin};
+    const int n = a.observaciones;
+    const std::string codigo(Recortado(a.serie));
+    const char *x = codigo.c_str();
+    for (int k = 1; k <= RetardosMostrados(); ++k)
+        TrazarEscalar(
+            Formatear("r%d", k),
+            ConPeriodos(Formatear("suma de (%s(t-%d) - media) (%s(t) - media) / suma de (%s(t) - media)^2", x,
+                                  k, x, x),
+                        filas),
+            a.coeficientes[k], Formatear("Coeficiente de autocorrelación, retardo %d"_w, k), filas);
+    for (int k = 1; k <= RetardosMostrados() && a.tipoBanda == BandaArma; ++k)
+        TrazarEscalar(Formatear("banda%d", k),
+                      Formatear("1.96 * RCUAD((1 + 2 * suma de r(j)^2, j de 1 a %d) / %d)", k, n),
+                      a.desviaciones[k], "Banda de confianza del 95 %: la suma llega al propio retardo");
+}
+
+void TrazarParcial() {
+    for (int k = 1; k <= RetardosMostrados(); ++k)
+        TrazarEscalar(
+            Formatear("p%d", k),
+            Formatear("(r(%d) - suma de a(j) r(%d-j)) / (1 - suma de a(j) r(j)), j de 1 a %d", k, k, k - 1),
+            Autocorrelacion.coeficientes[k],
+            Formatear("Coeficiente de autocorrelación parcial, retardo %d; a(j), los de la "
+                      "autorregresión de orden anterior"_w,
+                      k));
+}
+
 // ----- Listing
 
 // The part of a record that one lag takes, behind its number.
@@ -168,16 +203,27 @@ int RetardosMostrados() {
     return std::max(std::min({Autocorrelacion.retardos, Autocorrelacion.observaciones, MaxRetardo}), 0);
 }
 
-int AceptarAutocorrelacion(Ventana *ventana, int funcion, const ValoresAutocorrelacion &valores) {
-    GuardarOpciones(funcion, valores);
+namespace {
+
+int Calcular(Ventana *ventana, int funcion) {
     const int serie = BuscarSerieEnTabla(Autocorrelacion.serie);
     if (serie < 0) return MensajeAviso(ventana, "Serie no válida."_w);
     const std::vector<double> x = ValoresDeMuestra(serie);
     Autocorrelacion.observaciones = static_cast<int>(x.size());
     if (!CalcularEstimada(ventana, x)) return 0;
+    if (Trazando()) TrazarEstimada();
     if (funcion != FuncionEstimada) CalcularParcial(ventana, x);
+    if (Trazando() && funcion != FuncionEstimada) TrazarParcial();
     Mostrar(ventana);
     return 1;
+}
+
+} // namespace
+
+int AceptarAutocorrelacion(Ventana *ventana, int funcion, const ValoresAutocorrelacion &valores) {
+    GuardarOpciones(funcion, valores);
+    const int grupo = EmpezarComando(Recortado(Autocorrelacion.serie), TextosDe(funcion).dialogo);
+    return TerminarComando(grupo, Calcular(ventana, funcion));
 }
 
 TextoSalida LineasAutocorrelacion() {

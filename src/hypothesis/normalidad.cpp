@@ -2,6 +2,7 @@
 #include "hypothesis/normalidad.h"
 
 #include "charts/resultados/partes_informe.h"
+#include "language/traza.h"
 #include "matrix/probabilidad.h"
 #include "platform/campos_texto.h"
 #include "platform/texto.h"
@@ -73,12 +74,53 @@ ContrasteNormalidad ContrastarNormalidad(std::span<const double> x) {
     return c;
 }
 
-int AceptarNormalidad(Ventana *ventana, std::string_view serie) {
+namespace {
+
+// The steps of ContrastarNormalidad; x(t) is the series.
+void TrazarContraste(std::string_view serie, std::span<const double> x, const ContrasteNormalidad &c,
+                     const FilasTraza &filas) {
+    if (!Trazando()) return;
+    const int n = static_cast<int>(x.size());
+    double S2 = 0.0, S3 = 0.0, S4 = 0.0;
+    for (const double v : x) {
+        S2 += v * v;
+        S3 += v * v * v;
+        S4 += v * v * v * v;
+    }
+    const std::string codigo(Recortado(serie));
+    const auto momento = [&](const char *nombre, int orden, double valor) {
+        TrazarEscalar(nombre, ConPeriodos(Formatear("suma de %s(t)^%d", codigo.c_str(), orden), filas), valor,
+                      Formatear("Suma de potencias %d de la serie, sin restar la media", orden), filas);
+    };
+    momento("s2", 2, S2);
+    momento("s3", 3, S3);
+    momento("s4", 4, S4);
+    TrazarEscalar("asimetria", Formatear("(s3/%d) / RCUAD(s2/%d * s2/%d * s2/%d)", n, n, n, n), c.asimetria,
+                  "Coeficiente de asimetría; 0 si no hay variación"_w);
+    TrazarEscalar("curtosis", Formatear("s4 / (s2 * s2 / %d)", n), c.curtosis,
+                  "Coeficiente de curtosis; 0 si no hay variación"_w);
+    TrazarEscalar("estadistico",
+                  Formatear("%d/6 * asimetria * asimetria + %d/24 * (curtosis - 3) * (curtosis - 3)", n, n),
+                  c.estadistico, "Estadístico de Bera y Jarque"_w);
+    TrazarEscalar("probabilidad", "PROBC(estadistico,2)", c.probabilidad,
+                  "Probabilidad del estadístico, ji cuadrado con 2 grados de libertad"_w);
+}
+
+int Contrastar(Ventana *ventana, std::string_view serie) {
     const int s = BuscarSerie(serie);
     if (s < 0) return MensajePunto(ventana, "No existe la serie escogida", 1);
     const FilasDeMuestra filas = FilasDelArchivo(Muestra.InicioMuestra, Muestra.FinMuestra);
     std::vector<double> x;
     for (int i = filas.inicio; i <= filas.fin; ++i) x.push_back(ArchivoTrabajo.ValoresObs[i][s]);
-    Mostrar(ventana, serie, filas, ContrastarNormalidad(x));
+    const ContrasteNormalidad contraste = ContrastarNormalidad(x);
+    TrazarContraste(serie, x, contraste, {filas.inicio, filas.fin});
+    Mostrar(ventana, serie, filas, contraste);
     return 1;
+}
+
+} // namespace
+
+int AceptarNormalidad(Ventana *ventana, std::string_view serie) {
+    const int grupo = EmpezarComando(serie, "Contraste de normalidad de Bera y Jarque");
+    return TerminarComando(grupo, Contrastar(ventana, serie));
 }

@@ -190,12 +190,17 @@ void AnadirOperando(std::vector<OperandoTraza> &operandos, std::string_view nomb
     if (nombre.empty() || nombre.size() >= AnchoCodigo || (nombre[0] >= '0' && nombre[0] <= '9') ||
         std::any_of(operandos.begin(), operandos.end(), igual) || Estado.elementos > MaxElementosOperandos)
         return;
-    const int serie = BuscarSerie(nombre);
-    const bool escalar = serie < 0 && BuscarEscalar(nombre) >= 0;
-    if (serie < 0 && !escalar && BuscarMatriz(nombre) < 0) return;
-    const ClasesTraza clase = serie >= 0 ? TrazaSerie : escalar ? TrazaEscalar : TrazaMatriz;
-    OperandoTraza o{std::string(nombre), clase, PasoQueDio(nombre), {}};
-    if (o.paso < 0) o.valor = serie >= 0 ? ValorDeOperandoSerie(serie, filas) : ValorGuardado(clase, nombre);
+    OperandoTraza o{std::string(nombre), TrazaEscalar, PasoQueDio(nombre), {}};
+    if (o.paso >= 0) {
+        o.clase = Traza.pasos[static_cast<std::size_t>(o.paso)].clase;
+    } else if (const int serie = BuscarSerie(nombre); serie >= 0) {
+        o.clase = TrazaSerie;
+        o.valor = ValorDeOperandoSerie(serie, filas);
+    } else {
+        o.clase = BuscarMatriz(nombre) >= 0 ? TrazaMatriz : TrazaEscalar;
+        o.valor = ValorGuardado(o.clase, nombre);
+        if (o.valor.filas == 0) return; // a word, a sign
+    }
     Estado.elementos += PesoDeOperando + o.valor.valores.size();
     operandos.push_back(std::move(o));
 }
@@ -262,6 +267,17 @@ int PasoQueDio(std::string_view nombre, int hasta) {
     for (int i = hasta; i-- > 0;)
         if (Traza.pasos[static_cast<std::size_t>(i)].destino == nombre) return i;
     return -1;
+}
+
+int EmpezarComando(std::string_view formula, std::string_view explicacion) {
+    EmpezarTraza();
+    return AbrirGrupo(formula, explicacion);
+}
+
+int TerminarComando(int grupo, int bien) {
+    CerrarGrupo(grupo, bien == 1);
+    TerminarTraza();
+    return bien;
 }
 
 // ----- Statements and groups

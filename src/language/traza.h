@@ -59,7 +59,8 @@ struct OperandoTraza {
     ValorTraza valor;
 };
 
-// The texts are in Windows-1252. `formula` of a statement is its text; a reduction, the part of a typed formula that was
+// The texts are in Windows-1252. A `destino` in capitals is stored under that code; in small letters it is the name by which
+// later formulas of the computation call a number that isn't stored. `formula` of a statement is its text; a reduction, the part of a typed formula that was
 // worked out so far, is a step below that of its formula, without a destination.
 struct PasoTraza {
     ClasesTraza clase;
@@ -101,6 +102,16 @@ void TerminarTraza();
 // The last step of the record that gave a value to this name, from 0; -1 for none. `hasta`: only steps before it.
 int PasoQueDio(std::string_view nombre, int hasta = MaxPasosTraza);
 
+// ----- Commands
+
+// A command that computes is a run of its own with one group:
+//
+//     const int grupo = EmpezarComando("CONSUMO", "Contraste de normalidad");
+//     return TerminarComando(grupo, Calcular(ventana, serie));
+int EmpezarComando(std::string_view formula, std::string_view explicacion);
+// Returns `bien`, 1 when it went well.
+int TerminarComando(int grupo, int bien);
+
 // ----- Who records
 
 // What AbrirPaso and AbrirGrupo return, for CerrarPaso and CerrarGrupo: the place of the step, or one of these.
@@ -126,7 +137,7 @@ void TrazarMatriz(std::string_view destino, std::string_view formula, std::strin
                   const FilasTraza &filas = {});
 void TrazarSerie(std::string_view destino, std::string_view formula, std::string_view explicacion,
                  const FilasTraza &filas = {});
-// A number, stored or not.
+// A number, stored or not. Its name, when it isn't stored, is no word of the formulas that are told, such as "suma" and "de".
 void TrazarEscalar(std::string_view destino, std::string_view formula, double valor,
                    std::string_view explicacion, const FilasTraza &filas = {});
 

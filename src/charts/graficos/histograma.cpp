@@ -3,6 +3,7 @@
 
 #include "charts/graficos/series_grafico.h"
 #include "language/lote_sentencias.h"
+#include "language/traza.h"
 #include "platform/campos_texto.h"
 #include "platform/frecuencias.h"
 #include "platform/numeros.h"
@@ -68,6 +69,19 @@ void ComponerTabla(const DatosHistograma &h, std::string_view codigo, Histograma
     histograma.tabla = TablaDeHistograma(h);
 }
 
+// A step a class; x(t) is the series.
+void TrazarFrecuencias(const DatosHistograma &h, std::string_view codigo, const FilasTraza &filas) {
+    const std::string x(Recortado(codigo));
+    for (std::size_t i = 0; i < h.frecuencias.size(); ++i) {
+        const char *hasta = i + 1 < h.frecuencias.size() ? "<" : "<=";
+        TrazarEscalar(Formatear("clase%d", static_cast<int>(i) + 1),
+                      ConPeriodos(Formatear("cuántos %.10g <= %s(t) %s %.10g"_w, h.limites[i], x.c_str(),
+                                            hasta, h.limites[i + 1]),
+                                  filas),
+                      h.frecuencias[i], "Frecuencia de la clase", filas);
+    }
+}
+
 // The rows of the work file between the bounds: these may lie far behind the last one.
 void AcotarFilas(int &primera, int &ultima) {
     const int tope = std::clamp(static_cast<int>(ArchivoTrabajo.NumObs), 1, MaxObservaciones) - 1;
@@ -114,6 +128,7 @@ bool ContarHistograma(const OpcionesHistograma &opciones, std::string_view codig
     h.frecuencias.resize(h.limites.size() - 1);
     ContarFrecuencias(valores.data(), h.limites.data(), h.frecuencias.data(), g.muestra,
                       static_cast<int>(h.limites.size()), 0, 0);
+    if (Trazando()) TrazarFrecuencias(h, codigo, {primera, ultima});
     h.conTitulo = opciones.conTitulo;
     h.tituloArriba = opciones.tituloArriba;
     h.titulo = opciones.titulo.substr(0, AnchoTituloHistograma);
@@ -201,8 +216,9 @@ OpcionesHistograma OpcionesDeValores(const ValoresHistograma &valores) {
 
 int AceptarHistograma(Ventana *ventana, const OpcionesHistograma &opciones, std::string_view serie,
                       int primera, int ultima) {
-    if (!serie.empty() && MostrarHistograma(ventana, opciones, serie, primera, ultima)) return 1;
-    return MensajeAviso(ventana, "Serie no válida."_w);
+    const int grupo = EmpezarComando(Recortado(serie), "Histograma");
+    const bool bien = !serie.empty() && MostrarHistograma(ventana, opciones, serie, primera, ultima);
+    return TerminarComando(grupo, bien ? 1 : MensajeAviso(ventana, "Serie no válida."_w));
 }
 
 int AceptarHistograma(Ventana *ventana, const ValoresHistograma &valores, int primera, int ultima) {
