@@ -14,10 +14,10 @@ namespace {
 
 // The weight is typed: the trace shows how it is reduced.
 FinesDeFormula FormulaEscrita(const Estimacion &e, const std::string &formula) {
-    Traza.reducciones = true;
+    ReducirDesde(Evaluador.NivelLinea + 1);
     const FinesDeFormula fin =
         SerieDeFormula(CadenaDe(e), "_VORD", formula, "Ponderación de cada observación"_w);
-    Traza.reducciones = false;
+    DejarDeReducir();
     return fin;
 }
 

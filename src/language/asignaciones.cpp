@@ -127,10 +127,10 @@ int Asignar(LineasSentencia &lineas, int &posicion, const std::string &periodo, 
 int AbrirPasoEscrito(const std::string &linea, int posicion, const std::string &periodo, int primera,
                      int ultima, int codigo) {
     if (!Trazando()) return SinTrazar;
-    const std::string_view formula =
-        std::string_view(linea).substr(std::min(static_cast<std::size_t>(posicion), linea.size()));
+    const std::string formula = FormulaComoSeEscribe(
+        std::string_view(linea).substr(std::min(static_cast<std::size_t>(posicion), linea.size())));
     const FilasTraza filas = {primera, ultima};
-    Traza.reducciones = true;
+    ReducirDesde(0);
     switch (codigo) {
     case OrdenMAT: {
         const bool llaves = formula.starts_with('{');
@@ -148,7 +148,7 @@ int AbrirPasoEscrito(const std::string &linea, int posicion, const std::string &
     case OrdenSER: {
         const std::string_view destino = Recortado(Evaluador.CodigoSerieDestino);
         const bool recursiva =
-            formula.starts_with(destino) && formula.substr(destino.size()).starts_with('(');
+            formula.starts_with(destino) && CaracterEn(formula, static_cast<int>(destino.size())) == '(';
         const char *explicacion =
             recursiva ? "Serie recursiva: cada fila desde una anterior ya calculada; aquí, la primera"_w
             : formula.starts_with('{') ? "Serie: los elementos de la matriz, en la muestra de la regresión"_w
@@ -166,7 +166,7 @@ void CerrarPasoEscrito(int paso, bool bien, int codigo) {
         CerrarPasoConValor(paso, ValorSuperior());
     else
         CerrarPaso(paso, bien);
-    Traza.reducciones = false;
+    DejarDeReducir();
 }
 
 int EjecutarFormula(LineasSentencia &lineas, int &posicion, const std::string &periodo, Ventana *ventana,

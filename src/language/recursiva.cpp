@@ -99,7 +99,7 @@ int SerieRecursiva(int posicion, Ventana *ventana, LineasSentencia &lineas, int 
             Evaluador.pasos = leido ? nullptr : &pasos;
             const int r = EvaluarFila(lineas, fila, retardo, resto, primera, ultima);
             Evaluador.pasos = nullptr;
-            Traza.reducciones = false; // the first row shows how the others are worked out
+            DejarDeReducir(); // the first row shows how the others are worked out
             if (r != 1) {
                 MostrarMensaje(ventana, "Error en el cálculo"_w);
                 return 1;

@@ -35,7 +35,8 @@ struct EstadoTraza {
     std::vector<Abierto> abiertos;
     int pasosAbiertos = 0;
     int sentencia = -1;
-    int avisados = 0; // steps that AlTrazar was called with
+    int nivelEscrito = 0; // of the text buffers, at which the typed formula at hand begins
+    int avisados = 0;     // steps that AlTrazar was called with
     std::int64_t fallos = 0;
     std::size_t elementos = 0;                    // of the operands kept
     std::unordered_map<std::string, int> dadores; // the last step that gave a value to a name
@@ -371,36 +372,63 @@ void TrazarEscalar(std::string_view destino, std::string_view formula, double va
 
 // ----- Reductions
 
+void ReducirDesde(int nivelLinea) {
+    Traza.reducciones = Traza.activa;
+    Estado.nivelEscrito = nivelLinea;
+}
+
+void DejarDeReducir() {
+    Traza.reducciones = false;
+}
+
 namespace {
 
-void AnadirReduccion(ClasesTraza clase, std::string_view texto, int parentesis, ValorTraza valor) {
-    const std::string explicacion = parentesis == 0
+void AnadirReduccion(ClasesTraza clase, std::string_view texto, int nivelLinea, ValorTraza valor) {
+    const int parentesis = nivelLinea - Estado.nivelEscrito;
+    const std::string explicacion = parentesis <= 0
                                         ? std::string("De izquierda a derecha")
                                         : Formatear("Dentro del paréntesis, nivel %d"_w, parentesis);
-    const int paso = AnadirPaso(clase, texto, explicacion);
+    const int paso = AnadirPaso(clase, FormulaComoSeEscribe(texto), explicacion);
     if (paso != PasoContado) Traza.pasos[static_cast<std::size_t>(paso)].resultado = std::move(valor);
 }
 
 } // namespace
 
-void TrazarReduccion(std::string_view texto, int parentesis, double valor) {
-    if (TrazandoReducciones()) AnadirReduccion(TrazaEscalar, texto, parentesis, ValorDeNumero(valor));
+void TrazarReduccion(std::string_view texto, int nivelLinea, double valor) {
+    if (TrazandoReducciones()) AnadirReduccion(TrazaEscalar, texto, nivelLinea, ValorDeNumero(valor));
 }
 
-void TrazarReduccion(std::string_view texto, int parentesis, const double *datos, int filas, int columnas) {
+void TrazarReduccion(std::string_view texto, int nivelLinea, const double *datos, int filas, int columnas) {
     if (TrazandoReducciones())
-        AnadirReduccion(TrazaMatriz, texto, parentesis, ValorDeMatriz(datos, filas, columnas));
+        AnadirReduccion(TrazaMatriz, texto, nivelLinea, ValorDeMatriz(datos, filas, columnas));
 }
 
-void TrazarReduccionDeColumna(std::string_view texto, int parentesis) {
+void TrazarReduccionDeColumna(std::string_view texto, int nivelLinea) {
     if (!TrazandoReducciones() || Evaluador.profundidad < 1) return;
     const FilasEvaluacion f = FilasDeEvaluacion();
-    if (f.desde == f.hasta) return TrazarReduccion(texto, parentesis, ColumnaSuperior().valor[f.desde]);
+    if (f.desde == f.hasta) return TrazarReduccion(texto, nivelLinea, ColumnaSuperior().valor[f.desde]);
     const ColumnaPila &columna = ColumnaSuperior();
     Extremos e;
     for (int i = f.desde; i <= f.hasta; ++i)
         if (columna.presente[i] != 0) AnadirFila(e, i, columna.valor[i]);
-    AnadirReduccion(TrazaSerie, texto, parentesis, Cerrar(e));
+    AnadirReduccion(TrazaSerie, texto, nivelLinea, Cerrar(e));
+}
+
+std::string FormulaComoSeEscribe(std::string_view formula) {
+    constexpr std::pair<char, std::string_view> Operadores[] = {
+        {':', "**"}, {'?', ">="}, {'@', "<="}, {'|', "<>"}};
+    std::string texto;
+    for (std::size_t i = 0; i < formula.size(); ++i) {
+        const auto o = std::find_if(std::begin(Operadores), std::end(Operadores),
+                                    [&](const auto &par) { return par.first == formula[i]; });
+        if (o == std::end(Operadores)) {
+            texto += formula[i];
+            continue;
+        }
+        texto += o->second;
+        if (i + 1 < formula.size() && formula[i + 1] == ' ') ++i;
+    }
+    return texto;
 }
 
 std::string ConPeriodos(std::string_view formula, const FilasTraza &filas) {

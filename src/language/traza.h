@@ -141,17 +141,25 @@ void TrazarSerie(std::string_view destino, std::string_view formula, std::string
 void TrazarEscalar(std::string_view destino, std::string_view formula, double valor,
                    std::string_view explicacion, const FilasTraza &filas = {});
 
-// A reduction of the typed formula at hand: `texto` was worked out at this level of parentheses, from 0.
-void TrazarReduccion(std::string_view texto, int parentesis, double valor);
-void TrazarReduccion(std::string_view texto, int parentesis, const double *datos, int filas, int columnas);
+// From here on reductions are steps, if the trace is on: the formula that is evaluated next, at this level of the text buffers,
+// was typed. Until DejarDeReducir.
+void ReducirDesde(int nivelLinea);
+void DejarDeReducir();
+
+// A reduction of the typed formula at hand: `texto` was worked out in the buffer of this level.
+void TrazarReduccion(std::string_view texto, int nivelLinea, double valor);
+void TrazarReduccion(std::string_view texto, int nivelLinea, const double *datos, int filas, int columnas);
 // The top column of the evaluation, over its rows.
-void TrazarReduccionDeColumna(std::string_view texto, int parentesis);
+void TrazarReduccionDeColumna(std::string_view texto, int nivelLinea);
 
 inline bool TrazandoReducciones() {
     return Traza.activa && Traza.reducciones;
 }
 
 // ----- Texts
+
+// A formula as it is typed: the operators of two characters, which the evaluators read as one and a blank.
+std::string FormulaComoSeEscribe(std::string_view formula);
 
 // "suma de e(t)^2, 1921 a 1941": a formula and its periods.
 std::string ConPeriodos(std::string_view formula, const FilasTraza &filas);

@@ -298,8 +298,12 @@ void EscribirPasoTexto(const PasoTraza &p) {
     linea += p.formula;
     const ValorTraza &v = p.resultado;
     if (v.filas * v.columnas > 1) linea += Formatear(" [%d x %d]", v.filas, v.columnas);
-    for (std::size_t i = 0; i < v.valores.size(); ++i)
+    // What is left out stands behind the first rows; the columns of a wide matrix have no sign.
+    const std::size_t corte = v.filas > LadoDeMatriz ? v.valores.size() / 2 : v.valores.size();
+    for (std::size_t i = 0; i < v.valores.size(); ++i) {
+        if (i == corte) linea += " ...";
         linea += Formatear(i == 0 ? " = %.10g" : " %.10g", v.valores[i]);
+    }
     if (p.clase != TrazaSentencia) linea += ": " + ExplicacionDePaso(p);
     if (!p.fallo.empty()) linea += " [" + EnUnaLinea(p.fallo) + "]";
     EscribirLinea(Utf8De1252(linea));
