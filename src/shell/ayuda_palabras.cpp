@@ -219,11 +219,15 @@ std::string TituloConLugar(const PaginaManual &pagina) {
     return todas == 1 ? titulo : titulo + " (" + std::to_string(lugar) + " de " + std::to_string(todas) + ")";
 }
 
-std::vector<int> LugaresEnPagina(const PaginaManual &pagina, std::string_view buscado) {
+std::vector<int> LugaresEnTexto(std::string_view texto, std::string_view buscado) {
     std::vector<int> lugares;
-    const std::string texto = Llano(TextoDePagina(pagina)), llano = Llano(buscado);
-    if (llano.empty()) return lugares;
-    for (std::size_t i = texto.find(llano); i != std::string::npos; i = texto.find(llano, i + llano.size()))
+    const std::string donde = Llano(texto), que = Llano(buscado);
+    if (que.empty()) return lugares;
+    for (std::size_t i = donde.find(que); i != std::string::npos; i = donde.find(que, i + que.size()))
         lugares.push_back(static_cast<int>(i));
     return lugares;
+}
+
+std::vector<int> LugaresEnPagina(const PaginaManual &pagina, std::string_view buscado) {
+    return LugaresEnTexto(TextoDePagina(pagina), buscado);
 }

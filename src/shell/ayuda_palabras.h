@@ -21,5 +21,7 @@ std::vector<const PaginaManual *> PaginasDelLector();
 // The title of a page with its place in its chain: "Generación de series (2 de 7)". A page alone has its title.
 std::string TituloConLugar(const PaginaManual &pagina);
 
-// Offsets in TextoDePagina of a text, whatever its case and accents. None for an empty one.
+// Offsets in a text (Windows-1252), or in TextoDePagina, of what is searched for, whatever its case and accents. None for an
+// empty one.
+std::vector<int> LugaresEnTexto(std::string_view texto, std::string_view buscado);
 std::vector<int> LugaresEnPagina(const PaginaManual &pagina, std::string_view buscado);
