@@ -2,8 +2,10 @@
 // run of tabira-lote, and what the chapter quotes is what the program says.
 #include "lote/corrida.h"
 
+#include "lote/tipo.h"
 #include "platform/texto.h"
 #include "shell/comandos.h"
+#include "shell/ejemplos.h"
 
 #include <gtest/gtest.h>
 
@@ -297,10 +299,29 @@ std::set<std::string> EntradasDeMenu() {
     return r;
 }
 
+// "(o bien, con el botón derecho: Ejemplos > Klein)": that example brings what the block does.
+void ComprobarEjemplo(const Bloque &b, const std::string &linea) {
+    static const std::regex atajo(R"(Ejemplos > (\w+)\))");
+    std::smatch partes;
+    if (!std::regex_search(linea, partes, atajo)) return;
+    SCOPED_TRACE("línea " + std::to_string(b.linea) + ": " + linea);
+    const auto e = std::find_if(TablaEjemplos, TablaEjemplos + NumEjemplos, [&](const Ejemplo &fila) {
+        return SinMnemonicos(fila.entrada).starts_with(partes.str(1));
+    });
+    ASSERT_NE(e, TablaEjemplos + NumEjemplos);
+    EXPECT_EQ(b.Atributo("datos"), e->fichero);
+    PropuestaTipoDatos tipo;
+    ASSERT_TRUE(LeerTipo(b.Atributo("tipo"), tipo));
+    EXPECT_EQ(tipo.tipo, e->tipo);
+    EXPECT_EQ(tipo.inicio, e->inicio);
+    EXPECT_EQ(tipo.fin, e->fin);
+}
+
 // Every line of a block "menu" begins with an entry of the menus; what to write there stands behind a colon.
 void ComprobarMenu(const Bloque &b) {
     static const std::set<std::string> entradas = EntradasDeMenu();
     for (const std::string &l : b.lineas) {
+        ComprobarEjemplo(b, l);
         if (l.starts_with(" ")) continue; // goes on with the line before
         EXPECT_TRUE(entradas.contains(l.substr(0, l.find(':')))) << "línea " << b.linea << ": " << l;
     }
