@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
 # Makes the Debian package and tries it in a Debian of its own, with nothing else in it: it installs, the example's numbers
-# come, a report becomes a PDF, and the desktop program opens its window and stays. Wants to be root, for that system.
+# come, a report becomes a PDF, the tutorial is there, and the desktop program opens its window and stays. Wants to be root, for that system.
 #   guiones/probar_paquete.sh [SUITE]      default: bookworm
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source guiones/preparar.sh
 [ "$(id -u)" -eq 0 ] || rendirse "hay que ejecutarlo como administrador"
 preparar_compilacion
-instalar debootstrap
+instalar debootstrap pandoc
 compilar entrega
 raiz=$(mktemp -d)
 chmod 755 "$raiz"
@@ -29,6 +29,9 @@ cd /usr/share/tabira/ejemplos
 tabira-lote --tipo anual:1920:1941 --importar klein.csv --imprimir /tmp/klein.pdf --imprimir-salidas --procesar klein.txt |
     grep -q "16.236600"
 head -c 5 /tmp/klein.pdf | grep -q "%PDF"
+cd ../tutorial
+grep -q "Los datos" tutorial.html
+grep -oh "[.][.]/capturas/[a-z_]*.png" [0-9]*.md | xargs ls >/dev/null
 apt-get install -y -qq --no-install-recommends xvfb xdotool >/dev/null 2>&1
 Xvfb :95 -screen 0 1024x768x24 >/dev/null 2>&1 &
 sleep 1

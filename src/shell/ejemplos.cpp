@@ -9,6 +9,7 @@
 #include "platform/archivos.h"
 #include "platform/datos_programa.h"
 #include "platform/texto.h"
+#include "shell/barra_estado.h"
 #include "store/tipos_datos.h"
 
 #include <iterator>
@@ -75,6 +76,7 @@ bool AbrirEjemplo(Ventana *ventana, ControlTexto *pantalla, int cual) {
     Trabajo = {}; // no file is the work's: the next save asks for one
     AnotarTrabajoGuardado();
     PonerTituloTrabajo(ventana);
+    OlvidarMensajeDeBarra(); // what the import noted is known of these files
     PonerNota("Ejemplo " + std::string(e.nombre) + ": " + std::to_string(ArchivoTrabajo.NumSeries) +
                   (ArchivoTrabajo.NumSeries == 1 ? " serie, " : " series, ") +
                   std::to_string(Muestra.FinMuestra - Muestra.InicioMuestra + 1) + " observaciones",

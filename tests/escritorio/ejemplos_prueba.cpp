@@ -68,6 +68,8 @@ TEST_F(MenuEjemplos, PorTeclas) {
     EXPECT_EQ(ventana->windowTitle(), QStringLiteral("Tabira: KLEIN"));
     ConGuion({Pulsando("Aviso", "No")}, [&] { Teclear({Qt::Key_E, Qt::Key_N}); });
     EXPECT_EQ(CodigosDeSeries(), std::vector<std::string>{"CAUDAL"});
+    EXPECT_EQ(Hijo<QLabel>(*ventana->barra, "mensaje")->text(),
+              QStringLiteral("Ejemplo NILO: 1 serie, 100 observaciones"));
 }
 
 // A save asks for a name; the example's file stays as it is.
