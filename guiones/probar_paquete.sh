@@ -1,19 +1,21 @@
 #!/usr/bin/env bash
-# Makes the Debian package and tries it in a Debian of its own, with nothing else in it: it installs, the example's numbers
-# come, a report becomes a PDF, the tutorial is there, and the desktop program opens its window and stays. Wants to be root, for that system.
+# Makes the Debian package, has lintian look at it, and tries it in a Debian of its own, with nothing else in it: it installs,
+# the example's numbers come, a report becomes a PDF, the tutorial is there, and the desktop program opens its window and
+# stays. Wants to be root, for that system.
 #   guiones/probar_paquete.sh [SUITE]      default: bookworm
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source guiones/preparar.sh
 [ "$(id -u)" -eq 0 ] || rendirse "hay que ejecutarlo como administrador"
 preparar_compilacion
-instalar debootstrap pandoc
+instalar debootstrap lintian pandoc
 compilar entrega
 raiz=$(mktemp -d)
 chmod 755 "$raiz"
 trap 'umount "$raiz/proc" 2>/dev/null || true; rm -rf "$raiz"' EXIT
 decir "Haciendo el paquete"
 cpack --config build/entrega/CPackConfig.cmake -B "$raiz.deb" >/dev/null 2>&1 || rendirse "cpack no pudo hacerlo"
+lintian --allow-root --fail-on error,warning "$raiz.deb"/tabira_*.deb || rendirse "lintian tiene reparos"
 decir "Preparando un Debian limpio (${1:-bookworm})"
 debootstrap --variant=minbase "${1:-bookworm}" "$raiz" >/dev/null 2>&1 || rendirse "debootstrap no pudo prepararlo"
 mount -t proc proc "$raiz/proc"

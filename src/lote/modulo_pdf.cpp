@@ -14,7 +14,7 @@ using RutinaEscribirPng = bool (*)(const std::string &, const std::vector<OrdenD
 void *CargarModulo() {
     std::error_code error;
     const auto carpeta = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
-    for (const char *lugar : {"tabira_pdf.so", "../" TABIRA_LIBDIR "/tabira/tabira_pdf.so"}) {
+    for (const char *lugar : {"tabira_pdf.so", "../" TABIRA_MODULOS "/tabira_pdf.so"}) {
         void *modulo = dlopen((carpeta / lugar).c_str(), RTLD_NOW | RTLD_LOCAL);
         if (modulo != nullptr) return modulo;
     }
