@@ -8,6 +8,7 @@
 #include "hypothesis/dialogo_goldfeld.h"
 #include "language/asignaciones.h"
 #include "language/lote_sentencias.h"
+#include "shell/registro.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 
@@ -16,6 +17,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <ctime>
 #include <filesystem>
 #include <map>
 #include <random>
@@ -339,6 +341,44 @@ void Ordenar(benchmark::State &estado) {
         AceptarOrdenacion(nullptr, "S" + std::to_string(serie++ % ArchivoTrabajo.NumSeries), false);
 }
 
+// ----- The log of the desktop
+
+constexpr int LineasDelLote = 20000;
+
+// The same batch with the log and without it, one behind the other: the ratios of their times of the processor.
+std::vector<double> CostesDelRegistro;
+
+double Mediana(std::vector<double> &valores) {
+    if (valores.empty()) return 0.0; // this one wasn't asked for
+    const auto medio = valores.begin() + static_cast<long>(valores.size() / 2);
+    std::nth_element(valores.begin(), medio, valores.end());
+    return *medio;
+}
+
+void LoteConRegistro(benchmark::State &estado) {
+    PrepararSeries(ObservacionesBucle);
+    Prueba.textoControl.clear();
+    for (int i = 0; i < LineasDelLote; ++i) Prueba.textoControl += "ESC A = 1\n";
+    Prueba.desde = 0;
+    Prueba.hasta = static_cast<int>(Prueba.textoControl.size());
+    const OperacionesPlataforma &sin = Plataforma();
+    RegistrarPlataforma();
+    const OperacionesPlataforma &con = Plataforma();
+    const auto correr = [](const OperacionesPlataforma &operaciones) {
+        InstalarPlataforma(operaciones);
+        const std::clock_t empieza = std::clock();
+        ProcesarLote(nullptr, nullptr, 0, {}, Muestra.InicioMuestra, Muestra.FinMuestra);
+        const std::clock_t tarda = std::clock() - empieza;
+        ExigirFin("ESC A = 1");
+        return static_cast<double>(tarda);
+    };
+    for (auto _ : estado) {
+        const double solo = correr(sin);
+        CostesDelRegistro.push_back(correr(con) / solo);
+    }
+    VaciarRegistro();
+}
+
 // ----- The batch runner as a process
 
 long MemoriaDelProceso = 0; // kB, the largest run
@@ -414,6 +454,7 @@ int main(int numArgumentos, char **argumentos) {
     registrar("AlmacenDeVuelta", AlmacenDeVuelta, benchmark::kMicrosecond);
     registrar("Rangos", Rangos, benchmark::kMillisecond);
     registrar("Goldfeld", Goldfeld, benchmark::kMillisecond);
+    registrar("LoteConRegistro", LoteConRegistro, benchmark::kMillisecond);
     registrar("GuardarLleno", GuardarLleno, benchmark::kMillisecond);
     registrar("AbrirLleno", AbrirLleno, benchmark::kMillisecond);
     registrar("Ordenar", Ordenar, benchmark::kMillisecond);
@@ -453,6 +494,8 @@ int main(int numArgumentos, char **argumentos) {
           "times", "at most 40");
     Razon("500 replications of a regression, 100 rows / 500 regressions alone",
           t("Replicas") / t("RegresionesSueltas"), "times", "at most 1.5");
+    Razon("A batch of 20,000 lines with the log / without it", Mediana(CostesDelRegistro), "times",
+          "below 1.05");
     Razon("A full work file saved", t("GuardarLleno") / 1e6, "ms", "below 200");
     Razon("  opened", t("AbrirLleno") / 1e6, "ms", "below 100");
     Razon("4,000 rows of 99 series sorted", t("Ordenar") / 1e6, "ms", "below 100");

@@ -78,9 +78,13 @@ std::string LineasDe(std::string_view texto) {
     const std::size_t primera = texto.find_first_not_of(Fines);
     if (primera == std::string_view::npos) return {};
     texto = texto.substr(primera, texto.find_last_not_of(Fines) + 1 - primera);
-    if (texto.find('\r') == std::string_view::npos) return std::string(texto) + '\n';
     std::string r;
-    r.reserve(texto.size() + 1);
+    r.reserve(texto.size() + 1); // once, since a text may be long
+    if (texto.find('\r') == std::string_view::npos) {
+        r += texto;
+        r += '\n';
+        return r;
+    }
     for (std::size_t i = 0; i < texto.size(); ++i) {
         const bool deDos = texto[i] == '\r' && i + 1 < texto.size() && texto[i + 1] == '\n';
         if (!deDos) r += texto[i] == '\r' ? '\n' : texto[i];
