@@ -42,7 +42,7 @@ const Recuadro *RecuadroDe(const QTextBlock &bloque) {
 }
 
 // A frame is a run of paragraphs, one a line.
-void VestirBloque(QTextBlock bloque, bool oscura) {
+void VestirBloque(const QTextBlock &bloque, bool oscura) {
     QTextBlockFormat formato = bloque.blockFormat();
     if (formato.headingLevel() > 0) {
         formato.setTopMargin(formato.headingLevel() == 1 ? 0 : 3 * Aire);
