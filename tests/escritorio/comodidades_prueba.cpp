@@ -580,15 +580,77 @@ TEST_F(Comodidades, SitioDeUnDialogo) {
 
 TEST(Ajustes, Recientes) {
     const QTemporaryDir una, otra;
-    const QString a = Escrito(una, "a.txt", ""), b = Escrito(otra, "b.txt", ""),
-                  c = Escrito(una, "c.txt", "");
-    for (const QString &ruta : {a, b, c}) AnotarReciente(ruta);
+    const QString a = Escrito(una, "a.txt", ""), b = Escrito(otra, "b.TXT", ""),
+                  c = Escrito(una, "c.txt", ""), d = Escrito(una, "d.tr2", "");
+    for (const QString &ruta : {d, a, b, c, a}) AnotarReciente(ruta);
+    EXPECT_EQ(FicherosRecientes().mid(0, 4), (QStringList{a, c, b, d}));
+    EXPECT_EQ(FicherosRecientes({QStringLiteral("txt")}).mid(0, 3), (QStringList{a, c, b}));
+    EXPECT_EQ(FicherosRecientes({QStringLiteral("tr2")}).value(0), d);
     EXPECT_EQ(CarpetasRecientes().mid(0, 2), (QStringList{una.path(), otra.path()}));
     QFile::remove(a);
     QFile::remove(c);
+    EXPECT_EQ(FicherosRecientes().mid(0, 2), (QStringList{b, d}));
     EXPECT_EQ(CarpetasRecientes().value(0), otra.path());
-    for (int i = 0; i < 20; ++i) AnotarReciente(QStringLiteral("/no hay/%1").arg(i));
-    EXPECT_TRUE(CarpetasRecientes().isEmpty()); // ten are kept, and none of these is there
+    // Ten of an ending are kept, and none of these is there; those of another one stay.
+    for (int i = 0; i < 20; ++i) AnotarReciente(QStringLiteral("/no hay/%1.txt").arg(i));
+    EXPECT_TRUE(FicherosRecientes({QStringLiteral("txt")}).isEmpty());
+    EXPECT_EQ(FicherosRecientes().value(0), d);
+}
+
+// The chooser of files offers the files of its kind, by the keyboard alone.
+TEST_F(Comodidades, RecientesAlElegir) {
+    static constexpr FormatoArchivo Formatos[] = {{"txt", "Texto (*.txt)"}};
+    const QTemporaryDir una, otra;
+    for (int i = 0; i < 10; ++i)
+        AnotarReciente(QStringLiteral("/no hay/%1.txt").arg(i)); // of other tests, no more
+    const QString a = Escrito(una, "a.txt", ""), b = Escrito(otra, "b.txt", ""),
+                  c = Escrito(una, "c.tr2", "");
+    const auto elegir = [&](bool libre, const std::function<void(QDialog &)> &hacer) {
+        std::string ruta;
+        ConGuion({{"Abrir",
+                   [&](QDialog &d) {
+                       Activar(d);
+                       hacer(d);
+                   }}},
+                 [&] {
+                     ElegirArchivo(AVentana(ventana.get()), {false, "Abrir", Formatos, "", libre}, ruta);
+                 });
+        return QString::fromStdString(ruta);
+    };
+    EXPECT_EQ(elegir(false,
+                     [](QDialog &d) {
+                         EXPECT_EQ(d.findChild<QComboBox *>(QStringLiteral("recientes")), nullptr);
+                         d.reject();
+                     }),
+              QString());
+    for (const QString &ruta : {a, c, b}) AnotarReciente(ruta);
+    const auto linea = [](const QString &ruta) {
+        return QStringLiteral("%1 (%2)").arg(QFileInfo(ruta).fileName(), QFileInfo(ruta).absolutePath());
+    };
+    EXPECT_EQ(elegir(false,
+                     [&](QDialog &d) {
+                         auto *recientes = Hijo<QComboBox>(d, "recientes");
+                         ASSERT_EQ(recientes->count(), 2);
+                         EXPECT_EQ(recientes->itemText(0), linea(b));
+                         EXPECT_EQ(recientes->itemText(1), linea(a));
+                         QTest::keyClick(&d, Qt::Key_R, Qt::AltModifier);
+                         EXPECT_EQ(QApplication::focusWidget(), recientes);
+                         QTest::keyClick(recientes, Qt::Key_Down);
+                         EXPECT_EQ(Hijo<QLineEdit>(d, "fileNameEdit")->text(), QStringLiteral("b.txt"));
+                         QTest::keyClick(recientes, Qt::Key_Down);
+                         EXPECT_EQ(Hijo<QLineEdit>(d, "fileNameEdit")->text(), QStringLiteral("a.txt"));
+                         QTest::keyClick(recientes, Qt::Key_Return);
+                     }),
+              a);
+    // Where the name is free all of them are; the one just opened comes first.
+    EXPECT_EQ(elegir(true,
+                     [&](QDialog &d) {
+                         auto *recientes = Hijo<QComboBox>(d, "recientes");
+                         EXPECT_EQ(recientes->itemText(0), linea(a));
+                         EXPECT_EQ(recientes->itemText(2), linea(c));
+                         d.reject();
+                     }),
+              QString());
 }
 
 // ----- The cost

@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <QEvent>
 #include <QFileInfo>
+#include <QHash>
 #include <QMessageBox>
 #include <QScreen>
 
@@ -12,6 +13,10 @@ namespace {
 
 constexpr qsizetype MaximoRecientes = 10;
 constexpr const char *Recientes = "recientes";
+
+QString TerminacionDe(const QString &ruta) {
+    return QFileInfo(ruta).suffix().toLower();
+}
 
 // The name under which the place of this window is kept; empty for one that has none.
 QString NombreDeSitio(const QObject *objeto) {
@@ -86,13 +91,23 @@ void AnotarReciente(const QString &ruta) {
     QStringList rutas = ajustes.value(QLatin1String(Recientes)).toStringList();
     rutas.removeAll(ruta);
     rutas.prepend(ruta);
-    ajustes.setValue(QLatin1String(Recientes), rutas.mid(0, MaximoRecientes));
+    QHash<QString, qsizetype> vistos; // by ending
+    rutas.removeIf([&](const QString &r) { return ++vistos[TerminacionDe(r)] > MaximoRecientes; });
+    ajustes.setValue(QLatin1String(Recientes), rutas);
+}
+
+QStringList FicherosRecientes(const QStringList &terminaciones) {
+    QStringList rutas = Ajustes().value(QLatin1String(Recientes)).toStringList();
+    rutas.removeIf([&](const QString &r) {
+        return !QFileInfo(r).isFile() ||
+               (!terminaciones.isEmpty() && !terminaciones.contains(TerminacionDe(r)));
+    });
+    return rutas.mid(0, MaximoRecientes);
 }
 
 QStringList CarpetasRecientes() {
     QStringList carpetas;
-    for (const QString &ruta : Ajustes().value(QLatin1String(Recientes)).toStringList())
-        if (const QFileInfo fichero(ruta); fichero.isFile()) carpetas << fichero.absolutePath();
+    for (const QString &ruta : FicherosRecientes()) carpetas << QFileInfo(ruta).absolutePath();
     carpetas.removeDuplicates();
     return carpetas;
 }

@@ -14,8 +14,12 @@ QSettings Ajustes();
 // made it, but never smaller than what it shows asks for. Boxes and the main window have places of their own.
 void RecordarSitios(QApplication &aplicacion);
 
-// The file was opened, or is going to be saved. The last 10 are remembered.
+// The file was opened, or is going to be saved. The last 10 of each ending are remembered.
 void AnotarReciente(const QString &ruta);
 
-// The folders of those that are still there, each once, that of the last one first.
+// Paths of those that are still there, that of the last one first, 10 at most; only those of these endings, in small
+// letters, where there are any.
+QStringList FicherosRecientes(const QStringList &terminaciones = {});
+
+// The folders of the last 10, each once, that of the last one first.
 QStringList CarpetasRecientes();

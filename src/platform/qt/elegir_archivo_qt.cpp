@@ -5,10 +5,13 @@
 #include "platform/qt/texto_qt.h"
 #include "platform/qt/ventana_qt.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QSplitter>
 #include <QStandardPaths>
 #include <QTreeView>
@@ -39,12 +42,42 @@ QString CarpetaInicial(std::string_view pedida) {
 }
 
 // The folders of the files of late are at hand: at the side, under those of the toolkit, and in the list of the present folder.
-void OfrecerRecientes(QFileDialog &dialogo, const QStringList &carpetas) {
+void OfrecerCarpetas(QFileDialog &dialogo, const QStringList &carpetas) {
     QList<QUrl> lado = dialogo.sidebarUrls();
     for (const QString &carpeta : carpetas)
         if (const QUrl url = QUrl::fromLocalFile(carpeta); !lado.contains(url)) lado << url;
     dialogo.setSidebarUrls(lado);
     dialogo.setHistory(carpetas);
+}
+
+// The files themselves, in a line of their own at the foot: the one that is chosen goes to the line of the name.
+void OfrecerFicheros(QFileDialog &dialogo, const QStringList &rutas) {
+    auto *rejilla = qobject_cast<QGridLayout *>(dialogo.layout());
+    if (rutas.isEmpty() || rejilla == nullptr) return;
+    auto *recientes = new QComboBox(&dialogo);
+    recientes->setObjectName(QStringLiteral("recientes"));
+    recientes->setSizeAdjustPolicy(
+        QComboBox::AdjustToMinimumContentsLengthWithIcon); // long paths don't widen it
+    for (const QString &ruta : rutas) {
+        const QFileInfo fichero(ruta);
+        recientes->addItem(fichero.fileName() + QStringLiteral(" (%1)").arg(fichero.absolutePath()), ruta);
+    }
+    recientes->setCurrentIndex(-1); // none of them before one is chosen
+    QObject::connect(recientes, &QComboBox::activated, &dialogo,
+                     [&dialogo, recientes] { dialogo.selectFile(recientes->currentData().toString()); });
+    auto *rotulo = new QLabel(QStringLiteral("&Recientes:"), &dialogo);
+    rotulo->setBuddy(recientes);
+    const int fila = rejilla->rowCount();
+    rejilla->addWidget(rotulo, fila, 0);
+    rejilla->addWidget(recientes, fila, 1);
+}
+
+// Of the endings that are offered, or of any where the name is free.
+QStringList RecientesPara(const PeticionArchivo &peticion) {
+    QStringList terminaciones;
+    if (!peticion.nombreLibre)
+        for (const FormatoArchivo &f : peticion.formatos) terminaciones << QLatin1String(f.terminacion);
+    return FicherosRecientes(terminaciones);
 }
 
 } // namespace
@@ -57,10 +90,13 @@ bool ElegirArchivoQt(Ventana *ventana, const PeticionArchivo &peticion, std::str
     dialogo.setAcceptMode(peticion.guardar ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     if (!peticion.guardar) dialogo.setFileMode(QFileDialog::ExistingFile);
     dialogo.setOption(QFileDialog::DontConfirmOverwrite); // the name isn't whole yet when it would look
-    OfrecerRecientes(dialogo, CarpetasRecientes());
+    dialogo.setOption(
+        QFileDialog::DontUseNativeDialog); // the desktop's own has no room for the files of late
+    OfrecerCarpetas(dialogo, CarpetasRecientes());
+    OfrecerFicheros(dialogo, RecientesPara(peticion));
     dialogo.selectFile(QDe1252(peticion.nombre));
     dialogo.resize(DentroDeLaPantalla(dialogo, dialogo.sizeHint() * 4 / 3));
-    // The toolkit's own chooser, which not every desktop shows, cuts its columns and the user's places.
+    // As it comes, it cuts its columns and the user's places.
     if (auto *archivos = dialogo.findChild<QTreeView *>(QStringLiteral("treeView")); archivos != nullptr)
         archivos->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     if (auto *partes = dialogo.findChild<QSplitter *>(QStringLiteral("splitter")); partes != nullptr)
