@@ -3,6 +3,7 @@
 
 #include "charts/graficos/grafico.h"
 #include "language/palabras.h"
+#include "language/traza.h"
 #include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 
 PlataformaDePrueba Prueba;
@@ -161,6 +163,7 @@ void EmpezarPrueba() {
     InstalarImpresora(Impresora);
     IniciarArchivoTrabajo();
     IniciarProcedimientos();
+    PonerTraza(std::getenv("TABIRA_PRUEBAS_TRAZA") != nullptr);
 }
 
 void EmpezarConDatos(int tipo, std::string_view intervalo) {

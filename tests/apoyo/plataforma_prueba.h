@@ -102,7 +102,8 @@ struct PlataformaDePrueba {
 
 extern PlataformaDePrueba Prueba;
 
-// Installs the platform anew, with nothing recorded, and an empty work file without a data type.
+// Installs the platform anew, with nothing recorded, and an empty work file without a data type. The trace is off, unless
+// the environment has TABIRA_PRUEBAS_TRAZA: what a test expects it must find with it, too.
 void EmpezarPrueba();
 
 // EmpezarPrueba, then a work file of the given kind (TiposDeDatos), the periods as its dialog's fields take them joined
