@@ -90,15 +90,19 @@ void TrazarCentro(int retardo, const char *destino) {
     filas.primera += retardo;
     const int n = UltimaRegresion.RetardosCovarianza + 1;
     if (retardo == 0)
-        TrazarMatriz(destino, ConPeriodos("suma de e(t)^2 x(t) x(t)'", filas),
-                     "Productos de los regresores, ponderados por los cuadrados de los residuos", filas);
+        TrazarMatriz(
+            destino, ConPeriodos("suma de e(t)^2 x(t) x(t)'", filas),
+            "Productos de los regresores, ponderados por los cuadrados de los residuos, con diez decimales",
+            filas, "_XIND _RES");
     else
-        TrazarMatriz(destino,
-                     ConPeriodos(Formatear("suma de (1 - %d/%d) e(t) e(t-%d) (x(t) x(t-%d)' + x(t-%d) x(t)')",
-                                           retardo, n, retardo, retardo, retardo),
-                                 filas),
-                     Formatear("Productos cruzados a distancia %d, ponderados por los residuos", retardo),
-                     filas);
+        TrazarMatriz(
+            destino,
+            ConPeriodos(Formatear("suma de (1 - %d/%d) e(t) e(t-%d) (x(t) x(t-%d)' + x(t-%d) x(t)')", retardo,
+                                  n, retardo, retardo, retardo),
+                        filas),
+            Formatear("Productos cruzados a distancia %d, ponderados por los residuos, con diez decimales",
+                      retardo),
+            filas, "_XIND _RES");
 }
 
 // The matrix `destino` := the sum over t from `retardo` on of w(t) = e(t) e(t - retardo) factor times the products of the
@@ -143,7 +147,7 @@ int SumarSinRetardo(Estimacion &e, const Datos &d) {
         return 0;
     if (Trazando())
         TrazarMatriz("_S9", ConPeriodos("suma de x(t) x(t)'", FilasDeRegresion()),
-                     "Productos cruzados de los regresores: X'X", FilasDeRegresion());
+                     "Productos cruzados de los regresores: X'X", FilasDeRegresion(), "_XIND");
     return 1;
 }
 
@@ -215,17 +219,21 @@ void QuitarPosicion(const char *nombre, int p, bool cuadrada) {
 int EstadisticoWald(Estimacion &e) {
     if (EjecutarSinPuntos(e, PasosCopiasWald) == 0) return 0;
     // The places are those of the whole list while the matrices shrink: a second constant takes out the one behind it.
+    std::string quitadas;
     for (int p = 0; p < static_cast<int>(e.textos.size()); ++p) {
         if (LeerDecimal(e.textos[static_cast<std::size_t>(p)]) <= 0.0) continue;
+        quitadas += Formatear(quitadas.empty() ? ": %d" : ", luego %d", p + 1);
         QuitarPosicion("_S0", p, false);
         QuitarPosicion("_S8", p, true);
     }
     SoltarMatriz(BuscarMatriz("_S0"));
     SoltarMatriz(BuscarMatriz("_S8"));
     if (Trazando()) {
-        TrazarMatriz("_S0", "_S0 sin las constantes", "Coeficientes que se contrastan");
-        TrazarMatriz("_S8", "_S8 sin las constantes",
-                     "Matriz de covarianzas de los coeficientes que se contrastan");
+        TrazarMatriz("_S0", "_S0 sin las constantes" + quitadas,
+                     "Coeficientes que se contrastan: sin la fila de cada constante");
+        TrazarMatriz("_S8", "_S8 sin las constantes" + quitadas,
+                     "Matriz de covarianzas de los coeficientes que se contrastan: sin la fila y la columna "
+                     "de cada constante");
     }
     // With nothing but constants there is nothing to test, and no inverse.
     const double nada = 0.0;

@@ -20,24 +20,30 @@ bool Guardar(std::string_view matriz, const double *datos, int filas, int column
     return GuardarMatriz(matriz, datos, filas, columnas) == MatrizGuardada;
 }
 
-// ----- The trace: x(t) are the regressors of an observation as a column, y(t) and e(t) its dependent and its residual.
+// ----- The trace: x(t) are the regressors of an observation as a column, y(t) and e(t) its dependent and its residual,
+// from the matrices `operandos`.
 
 // The product of the first observation, which is in _TMF4.
-void TrazarProducto(const char *formula, const char *explicacion) {
+void TrazarProducto(const char *formula, const char *operandos, const char *explicacion) {
     if (!Trazando()) return;
     const int primera = FilasDeRegresion().primera;
-    TrazarMatriz("_TMF4", ConPeriodos(formula, {primera, primera}), explicacion, {primera, primera});
+    TrazarMatriz("_TMF4", ConPeriodos(formula, {primera, primera}), explicacion, {primera, primera},
+                 operandos);
 }
 
-void TrazarSuma(const char *destino, const char *formula, const char *explicacion) {
+void TrazarSuma(const char *destino, const char *formula, const char *operandos, const char *explicacion) {
     if (Trazando())
-        TrazarMatriz(destino, ConPeriodos(formula, FilasDeRegresion()), explicacion, FilasDeRegresion());
+        TrazarMatriz(destino, ConPeriodos(formula, FilasDeRegresion()), explicacion, FilasDeRegresion(),
+                     operandos);
 }
 
-void TrazarNumero(const char *nombre, const std::string &formula, double valor, const char *explicacion) {
-    if (Trazando())
-        TrazarEscalar(nombre, ConPeriodos(formula, FilasDeRegresion()), valor, explicacion,
-                      FilasDeRegresion());
+// `nombre` is that of the number, which isn't stored; `retardo` that of the first observation that counts.
+void TrazarNumero(const char *nombre, const std::string &formula, const char *operandos, double valor,
+                  const char *explicacion, int retardo = 0) {
+    if (!Trazando()) return;
+    FilasTraza filas = FilasDeRegresion();
+    filas.primera += retardo;
+    TrazarEscalar(nombre, ConPeriodos(formula, filas), valor, explicacion, filas, operandos);
 }
 
 // Runs the formula "_TMF4" into the matrix where a sum begins.
@@ -85,19 +91,20 @@ int AcumularMomentos(Estimacion &e) {
     MultiplicarMatrices(X, X, k, 1, k, producto.data());
     if (!Guardar("_TMF2", X, k, 1) || !Guardar("_TMF3", X, 1, k) || !Guardar("_TMF4", producto.data(), k, k))
         return MensajePunto(e.ventana, SecuenciaNoValida, 6532);
-    TrazarProducto("x(t) x(t)'", "Producto de los regresores de la primera observación: x x'"_w);
+    TrazarProducto("x(t) x(t)'", "_XIND", "Producto de los regresores de la primera observación: x x'"_w);
     if (EmpezarSuma(e, "_TMF5", 6532) == 0) return 0;
     EscalarPorMatriz(X, y[0], k, 1, producto.data());
     if (!Guardar("_TMF4", producto.data(), k, 1)) return MensajePunto(e.ventana, SecuenciaNoValida, 6534);
-    TrazarProducto("x(t) y(t)",
+    TrazarProducto("x(t) y(t)", "_XIND _YDEP",
                    "Producto de los regresores y la dependiente en la primera observación: x y"_w);
     if (EmpezarSuma(e, "_TMF6", 6534) == 0) return 0;
 
     SumarFilas(X, y, n, k, ElementosDe("_TMF5"), ElementosDe("_TMF6"));
     SoltarMatriz(BuscarMatriz("_TMF5"));
     SoltarMatriz(BuscarMatriz("_TMF6"));
-    TrazarSuma("_TMF5", "suma de x(t) x(t)'", "Productos cruzados de los regresores: X'X");
-    TrazarSuma("_TMF6", "suma de x(t) y(t)", "Productos cruzados de los regresores y la dependiente: X'y");
+    TrazarSuma("_TMF5", "suma de x(t) x(t)'", "_XIND", "Productos cruzados de los regresores: X'X");
+    TrazarSuma("_TMF6", "suma de x(t) y(t)", "_XIND _YDEP",
+               "Productos cruzados de los regresores y la dependiente: X'y");
     const double *ultima = X + (n - 1) * k;
     EscalarPorMatriz(ultima, y[n - 1], k, 1, producto.data());
     const bool bien = Guardar("_TMF2", ultima, k, 1) && Guardar("_TMF3", ultima, 1, k) &&
@@ -110,12 +117,12 @@ int AcumularResiduos(Estimacion &e) {
     const auto cuadrado = [&](int i) { return residuos[i] * residuos[i]; };
     double termino = cuadrado(0);
     if (!Guardar("_TMF4", &termino, 1, 1)) return MensajePunto(e.ventana, SecuenciaNoValida, 6532);
-    TrazarProducto("e(t) e(t)", "Cuadrado del primer residuo");
+    TrazarProducto("e(t) e(t)", "_RESM", "Cuadrado del primer residuo");
     if (EmpezarSuma(e, "_SCR1", 6532) == 0) return 0;
     double *suma = ElementosDe("_SCR1");
     for (int i = 1; i < e.observaciones; ++i) *suma += cuadrado(i);
     SoltarMatriz(BuscarMatriz("_SCR1"));
-    TrazarSuma("_SCR1", "suma de e(t) e(t)", "Suma de cuadrados de los residuos");
+    TrazarSuma("_SCR1", "suma de e(t) e(t)", "_RESM", "Suma de cuadrados de los residuos");
     termino = cuadrado(e.observaciones - 1);
     return Guardar("_TMF4", &termino, 1, 1) ? 1 : MensajePunto(e.ventana, SecuenciaNoValida, 6532);
 }
@@ -130,11 +137,11 @@ int SumarDirecto(Estimacion &e) {
     e.media = e.suma / n;
     for (int i = 0; i < n; ++i) e.variacion += (y[i] - e.media) * (y[i] - e.media);
     for (int i = 1; i < n; ++i) e.saltos += (residuos[i] - residuos[i - 1]) * (residuos[i] - residuos[i - 1]);
-    TrazarNumero("total", "suma de y(t)", e.suma, "Suma de la variable dependiente");
-    TrazarNumero("media", Formatear("total / %d", n), e.media, "Media de la variable dependiente");
-    TrazarNumero("variacion", "suma de (y(t) - media)^2", e.variacion,
+    TrazarNumero("total", "suma de y(t)", "_YDEP", e.suma, "Suma de la variable dependiente");
+    TrazarNumero("media", Formatear("total / %d", n), "", e.media, "Media de la variable dependiente");
+    TrazarNumero("variacion", "suma de (y(t) - media)^2", "_YDEP", e.variacion,
                  "Suma de cuadrados de la variable dependiente respecto a su media");
-    TrazarNumero("saltos", "suma de (e(t) - e(t-1))^2", e.saltos,
-                 "Suma de cuadrados de las diferencias de residuos sucesivos");
+    TrazarNumero("saltos", "suma de (e(t) - e(t-1))^2", "_RESM", e.saltos,
+                 "Suma de cuadrados de las diferencias de residuos sucesivos", 1);
     return 1;
 }

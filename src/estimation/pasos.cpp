@@ -49,8 +49,8 @@ std::string RCuadradoCorregido(const Estimacion &e) {
     const double corregido = 1.0 - (1.0 - RCuadrado(e)) * (e.observaciones - 1) / GradosDeLibertad(e);
     if (Trazando())
         TrazarEscalar("corregido",
-                      Formatear("1 - (1 - %s) * %d / %d", NombreFamilia(FamRC, e.codigo), e.observaciones - 1,
-                                GradosDeLibertad(e)),
+                      Formatear("1 - ((1 - %s) * %d / %d)", NombreFamilia(FamRC, e.codigo),
+                                e.observaciones - 1, GradosDeLibertad(e)),
                       corregido, "R2 corregido por los grados de libertad");
     return GradosDeLibertad(e) == 0 || !std::isfinite(corregido) ? "0.00" : Formatear("%f", corregido);
 }

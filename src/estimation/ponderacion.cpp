@@ -2,6 +2,7 @@
 #include "estimation/ponderacion.h"
 
 #include "estimation/tabla_pasos.h"
+#include "platform/campos_texto.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
@@ -61,9 +62,9 @@ int PonderarDatos(Estimacion &e) {
     if (Trazando()) {
         const FilasTraza filas = FilasDeRegresion();
         TrazarMatriz("_S2", ConPeriodos("x(t) _VORD(t)", filas),
-                     "Regresores por la ponderación de su observación"_w, filas);
+                     "Regresores por la ponderación de su observación"_w, filas, "_XIND");
         TrazarMatriz("_YDEP", ConPeriodos("y(t) _VORD(t)", filas),
-                     "Variable dependiente por la ponderación de su observación"_w, filas);
+                     "Variable dependiente por la ponderación de su observación"_w, filas, "_YDEP");
     }
     return EjecutarCadena(CadenaDe(e), PasosPonderada);
 }
@@ -83,6 +84,18 @@ std::vector<Regresor> RegresoresOriginales() {
         r.push_back({BuscarSerie(nombre), LeerDecimal(nombre)});
     }
     return r;
+}
+
+// What GuardarResiduosOriginales computes, for the trace.
+std::string FormulaDeResiduos(std::size_t regresores) {
+    std::string texto = std::string(Recortado(UltimaRegresion.CodigoDependiente)) + " - (";
+    for (std::size_t j = 0; j < regresores; ++j) {
+        const std::string nombre = UltimaRegresion.CodigosRegresores[j].substr(0, AnchoCodigo - 1);
+        texto += Formatear(j == 0 ? "(_BETA[%d,1] * " : " + (_BETA[%d,1] * ", static_cast<int>(j) + 1);
+        texto += BuscarSerie(nombre) >= 0 ? nombre : Formatear("%g", LeerDecimal(nombre));
+        texto += ')';
+    }
+    return texto + ")";
 }
 
 // The values from the row `desde` on; all other rows are missing. Without room nothing is stored.
@@ -123,7 +136,9 @@ int GuardarResiduosOriginales(const Estimacion &e) {
     }
     GuardarEnSerie("_RESN", residuos, desde);
     if (Trazando())
-        TrazarSerie("_RESN", ConPeriodos("y(t) - x(t)' _BETA, sin ponderar", FilasDeRegresion()),
-                    "Residuos de los datos originales con los coeficientes ponderados", FilasDeRegresion());
+        TrazarSerie("_RESN", ConPeriodos(FormulaDeResiduos(numero), FilasDeRegresion()),
+                    "Residuos de los datos originales con los coeficientes ponderados; un regresor retardado "
+                    "cuenta 0",
+                    FilasDeRegresion());
     return 1;
 }

@@ -3,6 +3,7 @@
 
 #include "estimation/lector.h"
 #include "language/lote_sentencias.h"
+#include "platform/campos_texto.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
@@ -48,7 +49,8 @@ int GenerarCuadrados(Estimacion &e) {
     ArchivoTrabajo.PrimeraObs[s] = 0;
     ArchivoTrabajo.UltimaObs[s] = MaxObservaciones - 1;
     if (Trazando())
-        TrazarSerie("_RESCUAD", ArchivoTrabajo.Codigos[residuos] + std::string("^2, en todas las filas"),
+        TrazarSerie("_RESCUAD",
+                    std::string(Recortado(ArchivoTrabajo.Codigos[residuos])) + "^2, en todas las filas",
                     "Cuadrados de los residuos: variable dependiente de la regresión auxiliar"_w);
     return 1;
 }

@@ -72,15 +72,15 @@ int CalcularDurbin(LineasSentencia &lineas, Ventana *ventana) {
     const DatoCadena datos[] = {DatoNumero("rho", rho), DatoNumero("raiz", raiz),
                                 DatoNumero("producto", std::fabs(rho) * raiz)};
     if (Trazando()) {
-        TrazarEscalar("rho", Formatear("1 - %s/2", NombreFamilia(FamDW, OrdenMC)), rho,
+        TrazarEscalar("rho", Formatear("1 - (%s/2)", NombreFamilia(FamDW, OrdenMC)), rho,
                       "Coeficiente de autocorrelación de primer orden"_w);
         const int lugar = UltimaRegresion.RegresorRetardado + 1;
         TrazarEscalar("varianza", Formatear("%s[%d,%d]", NombreFamilia(FamCOV, OrdenMC), lugar, lugar),
                       varianza, "Varianza del coeficiente de la variable retardada");
         const int n = Muestra.FinRegresion - Muestra.InicioRegresion + 1;
-        TrazarEscalar("raiz", Formatear("RCUAD(%d/(1 - %d * varianza))", n, n), raiz,
+        TrazarEscalar("raiz", Formatear("RCUAD(%d/(1 - (%d * varianza)))", n, n), raiz,
                       "Raíz de n entre 1 menos n por la varianza; 0 si no existe"_w);
-        TrazarEscalar("h", "|rho| * raiz", std::fabs(rho) * raiz,
+        TrazarEscalar("h", "ABS(rho) * raiz", std::fabs(rho) * raiz,
                       "Estadístico h con todas sus cifras, sin signo, para su probabilidad"_w);
     }
     Cadena c = CadenaDeContraste(lineas, ventana, MensajesAvisoSecuencia);
@@ -121,7 +121,7 @@ int ContrasteWallis(LineasSentencia &lineas, Ventana *ventana) {
         TrazarEscalar(
             "wallis", ConPeriodos("suma de (e(t) - e(t-4))^2 / suma de e(t)^2", filas), d,
             "Estadístico de Wallis: diferencias a cuatro períodos entre residuos, desde el quinto residuo"_w,
-            filas);
+            filas, NombreFamilia(FamRES, OrdenMC));
     }
     const DatoCadena datos[] = {DatoNumero("d", d)};
     Cadena c = CadenaDeContraste(lineas, ventana, MensajesAvisoCalculos);

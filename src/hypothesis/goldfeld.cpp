@@ -222,13 +222,12 @@ void Ordenar(const Goldfeld &g) {
     const int ultima = std::min(Muestra.FinRegresion, MaxObservaciones - 1);
     std::vector<double> claves = ValoresDeFilas(g.series.front(), primera, ultima);
     const std::vector<int> orden = OrdenarPorIntercambio(claves);
-    for (const int serie : g.series) {
-        ReordenarSerie(serie, primera, orden);
-        if (Trazando()) {
-            const std::string codigo(Recortado(ArchivoTrabajo.Codigos[serie]));
-            TrazarSerie(codigo, ConPeriodos(codigo + " por orden de _TMP1", {primera, ultima}),
-                        "Serie en el orden de la variable de ordenación"_w, {primera, ultima});
-        }
+    for (const int serie : g.series) ReordenarSerie(serie, primera, orden);
+    // The ordering variable comes last: the others are ordered by what it was.
+    for (std::size_t i = 1; Trazando() && i <= g.series.size(); ++i) {
+        const std::string codigo(Recortado(ArchivoTrabajo.Codigos[g.series[i % g.series.size()]]));
+        TrazarSerie(codigo, ConPeriodos(codigo + " por orden de _TMP1", {primera, ultima}),
+                    "Serie en el orden de la variable de ordenación"_w, {primera, ultima});
     }
 }
 

@@ -88,8 +88,9 @@ int Clasificar(Ventana *ventana, const char *original, int puntoOriginal, bool a
             ConPeriodos(std::string(original) + (absolutos ? " por orden de |valor|" : " por orden de valor"),
                         filas),
             "Valores ordenados de menor a mayor", filas);
-        TrazarSerie("_TMP3", ConPeriodos(std::string("primer lugar de ") + original + " en _TMP2", filas),
-                    "Rangos: a valores iguales, el menor"_w, filas);
+        TrazarSerie("_TMP3",
+                    ConPeriodos(std::string("primera fila de _TMP2 igual a ") + original + "(t)", filas),
+                    "Rangos: filas desde el principio de las series; a valores iguales, la menor"_w, filas);
     }
     return 1;
 }

@@ -34,6 +34,7 @@ struct EstadoTraza {
     int corridas = 0; // begun and not ended
     std::vector<Abierto> abiertos;
     int pasosAbiertos = 0;
+    FilasTraza filas; // of the formula at hand
     int sentencia = -1;
     int nivelEscrito = 0; // of the text buffers, at which the typed formula at hand begins
     int avisados = 0;     // steps that AlTrazar was called with
@@ -80,6 +81,7 @@ ValorTraza Cerrar(Extremos &e) {
     e.v.columnas = e.v.filas > 0 ? 1 : 0;
     e.v.primerPeriodo = TextoPeriodo(e.primera);
     e.v.ultimoPeriodo = TextoPeriodo(e.ultima);
+    if (e.v.primerPeriodo.empty() || e.v.ultimoPeriodo.empty()) e.v.primerPeriodo = e.v.ultimoPeriodo = {};
     return std::move(e.v);
 }
 
@@ -215,13 +217,15 @@ void LeerOperandos(std::vector<OperandoTraza> &operandos, std::string_view formu
 }
 
 void TrazarDirecto(ClasesTraza clase, std::string_view destino, std::string_view formula,
-                   std::string_view explicacion, const FilasTraza &filas, ValorTraza valor) {
+                   std::string_view explicacion, const FilasTraza &filas, std::string_view operandos,
+                   ValorTraza valor) {
     const int paso = AnadirPaso(clase, formula, explicacion);
     if (paso == PasoContado) return;
     PasoTraza &p = Traza.pasos[static_cast<std::size_t>(paso)];
     p.destino = destino;
     p.filas = filas;
     LeerOperandos(p.operandos, p.formula, filas);
+    LeerOperandos(p.operandos, operandos, filas);
     p.resultado = std::move(valor);
     if (!destino.empty()) Estado.dadores[p.destino] = paso;
     Avisar();
@@ -318,6 +322,7 @@ int AbrirPaso(ClasesTraza clase, std::string_view destino, std::string_view form
     if (!Traza.activa) return SinTrazar;
     const int paso = AnadirPaso(clase, formula, explicacion);
     Abrir(true);
+    Estado.filas = filas;
     if (paso == PasoContado) return paso;
     PasoTraza &p = Traza.pasos[static_cast<std::size_t>(paso)];
     p.destino = Recortado(destino);
@@ -354,20 +359,23 @@ void CerrarPasoConValor(int paso, double valor) {
 }
 
 void TrazarMatriz(std::string_view destino, std::string_view formula, std::string_view explicacion,
-                  const FilasTraza &filas) {
+                  const FilasTraza &filas, std::string_view operandos) {
     if (Traza.activa)
-        TrazarDirecto(TrazaMatriz, destino, formula, explicacion, filas, ValorGuardado(TrazaMatriz, destino));
+        TrazarDirecto(TrazaMatriz, destino, formula, explicacion, filas, operandos,
+                      ValorGuardado(TrazaMatriz, destino));
 }
 
 void TrazarSerie(std::string_view destino, std::string_view formula, std::string_view explicacion,
-                 const FilasTraza &filas) {
+                 const FilasTraza &filas, std::string_view operandos) {
     if (Traza.activa)
-        TrazarDirecto(TrazaSerie, destino, formula, explicacion, filas, ValorGuardado(TrazaSerie, destino));
+        TrazarDirecto(TrazaSerie, destino, formula, explicacion, filas, operandos,
+                      ValorGuardado(TrazaSerie, destino));
 }
 
 void TrazarEscalar(std::string_view destino, std::string_view formula, double valor,
-                   std::string_view explicacion, const FilasTraza &filas) {
-    if (Traza.activa) TrazarDirecto(TrazaEscalar, destino, formula, explicacion, filas, ValorDeNumero(valor));
+                   std::string_view explicacion, const FilasTraza &filas, std::string_view operandos) {
+    if (Traza.activa)
+        TrazarDirecto(TrazaEscalar, destino, formula, explicacion, filas, operandos, ValorDeNumero(valor));
 }
 
 // ----- Reductions
@@ -389,7 +397,10 @@ void AnadirReduccion(ClasesTraza clase, std::string_view texto, int nivelLinea, 
                                         ? std::string("De izquierda a derecha")
                                         : Formatear("Dentro del paréntesis, nivel %d"_w, parentesis);
     const int paso = AnadirPaso(clase, FormulaComoSeEscribe(texto), explicacion);
-    if (paso != PasoContado) Traza.pasos[static_cast<std::size_t>(paso)].resultado = std::move(valor);
+    if (paso == PasoContado) return;
+    PasoTraza &p = Traza.pasos[static_cast<std::size_t>(paso)];
+    p.filas = Estado.filas;
+    p.resultado = std::move(valor);
 }
 
 } // namespace

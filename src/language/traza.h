@@ -33,7 +33,8 @@ enum ClasesTraza { TrazaSentencia, TrazaGrupo, TrazaEscalar, TrazaMatriz, TrazaS
 
 // A scalar, a matrix by rows, or a series. Of a matrix with more than LadoDeMatriz rows, the first and the last five; its
 // columns in the same way. Of a series, the first and the last five of its values, all of them if they are ten or fewer:
-// `filas` is their number, missing ones not counted, and the two periods are those of the first and of the last one.
+// `filas` is their number, missing ones not counted, and the two periods are those of the first and of the last one; both
+// are empty where one of the rows has no period.
 struct ValorTraza {
     int filas = 0, columnas = 0;
     std::vector<double> valores;
@@ -132,14 +133,16 @@ void CerrarPaso(int paso, bool bien);
 // The same for a value that isn't stored.
 void CerrarPasoConValor(int paso, double valor);
 
-// A result that was computed without a formula and is stored.
+// A result that was computed without a formula and is stored. `operandos`: the names, parted by blanks, that the formula
+// takes values from without writing them, such as those of x(t) and e(t).
 void TrazarMatriz(std::string_view destino, std::string_view formula, std::string_view explicacion,
-                  const FilasTraza &filas = {});
+                  const FilasTraza &filas = {}, std::string_view operandos = {});
 void TrazarSerie(std::string_view destino, std::string_view formula, std::string_view explicacion,
-                 const FilasTraza &filas = {});
+                 const FilasTraza &filas = {}, std::string_view operandos = {});
 // A number, stored or not. Its name, when it isn't stored, is no word of the formulas that are told, such as "suma" and "de".
 void TrazarEscalar(std::string_view destino, std::string_view formula, double valor,
-                   std::string_view explicacion, const FilasTraza &filas = {});
+                   std::string_view explicacion, const FilasTraza &filas = {},
+                   std::string_view operandos = {});
 
 // From here on reductions are steps, if the trace is on: the formula that is evaluated next, at this level of the text buffers,
 // was typed. Until DejarDeReducir.
