@@ -5,6 +5,7 @@
 #include "language/palabras.h"
 #include "language/traza.h"
 #include "platform/campos_texto.h"
+#include "platform/datos_programa.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
@@ -157,8 +158,13 @@ constexpr double Nada = std::numeric_limits<double>::quiet_NaN();
 
 } // namespace
 
+void BuscarEnLasFuentes() {
+    PonerCarpetaDelPrograma(TABIRA_DATOS "/../build/pruebas/src/shell");
+}
+
 void EmpezarPrueba() {
     Prueba = {};
+    BuscarEnLasFuentes();
     InstalarPlataforma(Operaciones);
     InstalarImpresora(Impresora);
     IniciarArchivoTrabajo();

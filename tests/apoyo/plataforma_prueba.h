@@ -106,6 +106,9 @@ extern PlataformaDePrueba Prueba;
 // the environment has TABIRA_PRUEBAS_TRAZA: what a test expects it must find with it, too.
 void EmpezarPrueba();
 
+// What comes with the program is that of the sources, wherever the tests are built; part of EmpezarPrueba.
+void BuscarEnLasFuentes();
+
 // EmpezarPrueba, then a work file of the given kind (TiposDeDatos), the periods as its dialog's fields take them joined
 // in TextoIntervalo's columns, such as "1990#2005"; empty for type 0.
 void EmpezarConDatos(int tipo, std::string_view intervalo);

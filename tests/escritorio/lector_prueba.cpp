@@ -341,5 +341,4 @@ TEST_F(Lector, TutorialInstaladoONo) {
               QUrl::fromLocalFile(QDir(tutorial).filePath(QStringLiteral("tutorial.html"))));
     Pulsar(*d, "irAlTutorial");
     EXPECT_EQ(Hijo<QTextBrowser>(*d, "tutorial")->toPlainText(), QStringLiteral("Uno\nTexto."));
-    PonerCarpetaDelPrograma("");
 }

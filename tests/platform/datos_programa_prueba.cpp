@@ -1,6 +1,8 @@
 // Where the program finds what comes with it.
 #include "platform/datos_programa.h"
 
+#include "apoyo/plataforma_prueba.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -37,8 +39,9 @@ TEST(DatosPrograma, InstaladoYCompilado) {
     PonerCarpetaDelPrograma("");
 }
 
-// The tests are built as the programs are.
-TEST(DatosPrograma, DeQuienSeCompila) {
+// Where the sources have what a program that was built finds.
+TEST(DatosPrograma, LasFuentes) {
+    BuscarEnLasFuentes();
     EXPECT_TRUE(fs::exists(fs::path(CarpetaDeDatos(DatosDelPrograma::Ejemplos)) / "klein.csv"));
     EXPECT_TRUE(fs::exists(fs::path(CarpetaDeDatos(DatosDelPrograma::Tutorial)) / "01_datos.md"));
 }

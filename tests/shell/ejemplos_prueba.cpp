@@ -34,7 +34,6 @@ protected:
         Trabajo = {};
     }
     void TearDown() override {
-        PonerCarpetaDelPrograma("");
         fs::remove_all(carpeta);
     }
     std::string Ruta(const char *nombre) const { return (carpeta / nombre).string(); }

@@ -1,6 +1,7 @@
 // The chapters of the tutorial as the reader of the manual finds them.
 #include "shell/tutorial.h"
 
+#include "apoyo/plataforma_prueba.h"
 #include "platform/datos_programa.h"
 
 #include <gtest/gtest.h>
@@ -53,6 +54,7 @@ TEST(TutorialDelLector, LosCapitulosDeUnaCarpeta) {
 
 // All that the folder holds, and each link goes to a chapter.
 TEST(TutorialDelLector, ElDelPrograma) {
+    BuscarEnLasFuentes();
     const auto capitulos = LeerTutorial(CarpetaDeDatos(DatosDelPrograma::Tutorial));
     ASSERT_EQ(capitulos.size(), 11u);
     EXPECT_EQ(capitulos.front().titulo, "Los datos");
