@@ -129,17 +129,28 @@ TEST(Formas, LoQueQueda) {
     EXPECT_EQ(ArchivoTrabajo.NumSeries, 4 + 6);
 }
 
-// Values that pass through a text keep six decimals, for every formula behind it too; the variation is about the exact
-// mean, and only its sum is rounded.
-TEST(Formas, SeisDecimales) {
+namespace {
+
+// The steps of the regression of T, made by `sentencia`, on a constant and X; what they leave in the store stays. The variation
+// of T that they found.
+double VariacionTrasLosPasos(const char *sentencia) {
     EmpezarRegresion();
-    ASSERT_TRUE(Procesar("SER T = Y / 7"));
+    EXPECT_TRUE(Procesar(sentencia));
     LineasSentencia lineas;
     Estimacion e;
     LeerEcuacionMC(e, lineas, "T 1 X");
-    ASSERT_EQ(EjecutarPasos(e), 1);
+    EXPECT_EQ(EjecutarPasos(e), 1);
     SoltarTodasMatrices();
     CerrarPilaColumnas();
+    return e.variacion;
+}
+
+} // namespace
+
+// Values that pass through a text keep six decimals, for every formula behind it too; the variation is about the exact
+// mean, and only its sum is rounded.
+TEST(Formas, SeisDecimales) {
+    VariacionTrasLosPasos("SER T = Y / 7");
     // The sum of Y is 307 and that of its squares 5,927: variation 5927 - 307 * 307 / 20 = 1214.55, over 49.
     EXPECT_DOUBLE_EQ(EscalarDe("_STVD"), 43.857143);
     EXPECT_DOUBLE_EQ(EscalarDe("_MVD"), 2.192857);
@@ -150,15 +161,8 @@ TEST(Formas, SeisDecimales) {
 
 // Values that have nothing but what six decimals lose.
 TEST(Formas, LaVariacionEsSobreLaMediaExacta) {
-    EmpezarRegresion();
-    ASSERT_TRUE(Procesar("SER T = Y / 7000000"));
-    LineasSentencia lineas;
-    Estimacion e;
-    LeerEcuacionMC(e, lineas, "T 1 X");
-    ASSERT_EQ(EjecutarPasos(e), 1);
-    SoltarTodasMatrices();
-    CerrarPilaColumnas();
+    const double variacion = VariacionTrasLosPasos("SER T = Y / 7000000");
     EXPECT_DOUBLE_EQ(EscalarDe("_MVD"), 0.000002); // of 0.00000219
-    EXPECT_NEAR(e.variacion, 1214.55 / 49e12, 1e-12 * e.variacion);
+    EXPECT_NEAR(variacion, 1214.55 / 49e12, 1e-12 * variacion);
     EXPECT_EQ(EscalarDe("_SCVD"), 0.0);
 }

@@ -88,6 +88,27 @@ inline void MirarAlMostrar(std::function<void()> mirar) {
     InstalarPlataforma(operaciones);
 }
 
+// ----- Tables that are nearly full: so many codes of a kind, whatever was there before
+
+inline void LlenarSeries(int hasta) {
+    while (ArchivoTrabajo.NumSeries < hasta) PonerSerie("S" + std::to_string(ArchivoTrabajo.NumSeries), {1});
+}
+
+inline void LlenarMatrices(int hasta) {
+    while (TablaMatrices.numero < hasta) PonerMatriz("M" + std::to_string(TablaMatrices.numero), {1}, 1, 1);
+}
+
+inline void LlenarEscalares(int hasta) {
+    while (TablaEscalares.numero < hasta)
+        PonerEscalar(nullptr, "E" + std::to_string(TablaEscalares.numero), 1);
+}
+
+// The box of a step that fails where the store is as `preparar` leaves it, by its number; 0: none does.
+struct CasoDePaso {
+    std::function<void()> preparar;
+    int punto;
+};
+
 // ----- Results
 
 // Names in the tables that begin with "_", of the kinds that a test may leave behind.

@@ -269,10 +269,6 @@ Textos CajasTras(const std::function<void()> &preparar, const char *texto = "CGQ
     return TextosDeCajas();
 }
 
-void LlenarSeries(int hasta) {
-    while (ArchivoTrabajo.NumSeries < hasta) PonerSerie("S" + std::to_string(ArchivoTrabajo.NumSeries), {1});
-}
-
 } // namespace
 
 TEST(GoldfeldQuandt, LasCopiasQueFaltan) {

@@ -231,14 +231,6 @@ void Quitar(const char *matriz) {
     BorrarMatriz(nullptr, BuscarMatriz(matriz));
 }
 
-void LlenarMatrices(int hasta) {
-    for (int i = TablaMatrices.numero; i < hasta; ++i) PonerMatriz("M" + std::to_string(i), {1}, 1, 1);
-}
-
-void LlenarEscalares(int hasta) {
-    for (int i = TablaEscalares.numero; i < hasta; ++i) PonerEscalar(nullptr, "E" + std::to_string(i), 1);
-}
-
 } // namespace
 
 TEST_P(LineasCHN, SusMensajes) {
@@ -259,22 +251,19 @@ TEST(HipotesisNula, SinLaUltimaRegresion) {
 
 // Each step of the chain fails once, when its formula is evaluated or when its result is stored.
 TEST(HipotesisNula, CadaPasoConSuPunto) {
-    const auto ultima = [](const std::function<void()> &preparar) {
-        const Textos cajas = CajasDe(preparar);
-        return cajas.empty() ? std::string() : cajas.back();
+    const CasoDePaso casos[] = {
+        {[] { LlenarMatrices(29); }, 10},  {[] { LlenarMatrices(28); }, 11},
+        {[] { LlenarMatrices(27); }, 12},  {[] { LlenarMatrices(26); }, 13},
+        {[] { LlenarMatrices(25); }, 14},  {[] { LlenarMatrices(24); }, 15},
+        {[] { LlenarMatrices(23); }, 0},   {[] { PonerSerie("_FORLARH", {1}); }, 17},
+        {[] { LlenarEscalares(59); }, 17}, {[] { BorrarEscalar(BuscarEscalar("_NORE")); }, 18},
+        {[] { LlenarEscalares(58); }, 19}, {[] { LlenarEscalares(57); }, 0},
     };
-    EXPECT_EQ(ultima([] { LlenarMatrices(29); }), "Error en cálculos. P10");
-    EXPECT_EQ(ultima([] { LlenarMatrices(28); }), "Error en cálculos. P11");
-    EXPECT_EQ(ultima([] { LlenarMatrices(27); }), "Error en cálculos. P12");
-    EXPECT_EQ(ultima([] { LlenarMatrices(26); }), "Error en cálculos. P13");
-    EXPECT_EQ(ultima([] { LlenarMatrices(25); }), "Error en cálculos. P14");
-    EXPECT_EQ(ultima([] { LlenarMatrices(24); }), "Error en cálculos. P15");
-    EXPECT_EQ(ultima([] { LlenarMatrices(23); }), "");
-    EXPECT_EQ(ultima([] { PonerSerie("_FORLARH", {1}); }), "Error en cálculos. P17");
-    EXPECT_EQ(ultima([] { LlenarEscalares(59); }), "Error en cálculos. P17");
-    EXPECT_EQ(ultima([] { BorrarEscalar(BuscarEscalar("_NORE")); }), "Error en cálculos. P18");
-    EXPECT_EQ(ultima([] { LlenarEscalares(58); }), "Error en cálculos. P19");
-    EXPECT_EQ(ultima([] { LlenarEscalares(57); }), "");
+    for (const CasoDePaso &c : casos) {
+        const Textos cajas = CajasDe(c.preparar);
+        EXPECT_EQ(cajas.empty() ? "" : cajas.back(),
+                  c.punto == 0 ? "" : "Error en cálculos. P" + std::to_string(c.punto));
+    }
 }
 
 // ----- The state between lines

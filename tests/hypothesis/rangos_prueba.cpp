@@ -224,15 +224,6 @@ struct Caso {
     const char *titulo, *caja; // the last box
 };
 
-void LlenarSeries(int hasta) {
-    while (ArchivoTrabajo.NumSeries < hasta) PonerSerie("S" + std::to_string(ArchivoTrabajo.NumSeries), {1});
-}
-
-void LlenarEscalares(int hasta) {
-    while (TablaEscalares.numero < hasta)
-        PonerEscalar(nullptr, "E" + std::to_string(TablaEscalares.numero), 1);
-}
-
 constexpr const char *Variables = "No se pueden generar las variables temporales. P";
 
 Textos Correr(const Caso &c) {
@@ -262,10 +253,7 @@ TEST(Rangos, Rechazos) {
 
 // Each step that makes a series or a scalar is refused once where its result finds no room, or its name is taken.
 TEST(Rangos, CadaPasoConSuPunto) {
-    const struct {
-        std::function<void()> preparar;
-        int punto;
-    } casos[] = {
+    const CasoDePaso casos[] = {
         {[] { LlenarSeries(98); }, 12},
         {[] { LlenarSeries(97); }, 14},
         {[] { LlenarSeries(96); }, 25},
@@ -282,7 +270,7 @@ TEST(Rangos, CadaPasoConSuPunto) {
         {[] { PonerSerie("_TMP8", {1}); }, 33},
         {[] { PonerSerie("_TMP11", {1}); }, 39},
     };
-    for (const auto &c : casos) {
+    for (const CasoDePaso &c : casos) {
         const Caso caso = {"CRA O", c.preparar, "", ""};
         EXPECT_EQ(Correr(caso), (Textos{"Proceso cancelado", Variables + std::to_string(c.punto)}))
             << c.punto;
