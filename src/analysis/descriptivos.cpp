@@ -64,6 +64,24 @@ TextoSalida Lineas(const std::vector<SerieElegida> &series, const std::vector<Co
     return t;
 }
 
+// The title stands above the series, another one above the correlations.
+FuentesDeSalida Fuentes(const std::vector<SerieElegida> &series,
+                        const std::vector<Correlacion> &correlaciones) {
+    FuentesDeSalida fuentes;
+    int linea = 1;
+    for (const SerieElegida &s : series) {
+        FuentesDeLinea &f = fuentes.emplace_back(FuentesDeLinea{linea++, {}});
+        for (const char *medida : {"media", "desviacion", "minimo", "maximo"})
+            f.numeros.push_back({Formatear("%s(%s)", medida, s.codigo.c_str())});
+    }
+    ++linea;
+    for (const Correlacion &c : correlaciones)
+        fuentes.push_back(
+            {linea++,
+             {{Formatear("r(%s,%s)", series[c.primera].codigo.c_str(), series[c.segunda].codigo.c_str())}}});
+    return fuentes;
+}
+
 std::string Tabla(const std::vector<SerieElegida> &series, const std::vector<Correlacion> &correlaciones) {
     std::string t = "Serie\tMedia\tDesviación\tMínimo\tMáximo\n"_w;
     for (const SerieElegida &s : series)
@@ -167,6 +185,8 @@ int Describir(Ventana *ventana, const std::vector<std::string> &elegidas) {
     salida.titulo = "Medidas descriptivas";
     salida.lineas = &lineas;
     salida.tabla = tabla;
+    const FuentesDeSalida fuentes = Fuentes(series, correlaciones);
+    salida.fuentes = &fuentes;
     MostrarVentanaResultado(ventana, salida);
     return 1;
 }

@@ -11,6 +11,7 @@
 #include "store/periodos.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -25,19 +26,25 @@ constexpr std::size_t TopeRegresores =
 struct LineaDeMedida {
     const char *formato, *rotulo; // the second for a spreadsheet; null: a line without a number
     double MedidasPrediccion::*valor;
+    const char *paso; // of the trace
 };
 
 constexpr LineaDeMedida Medidas[] = {
-    {"         Error absoluto medio (EAM)...: %10s", "Error absoluto medio (EAM)", &MedidasPrediccion::EAM},
+    {"         Error absoluto medio (EAM)...: %10s", "Error absoluto medio (EAM)", &MedidasPrediccion::EAM,
+     "eam"},
     {"         Error cuadrático medio (ECM).: %10s"_w, "Error cuadrático medio (ECM)"_w,
-     &MedidasPrediccion::ECM},
-    {"         Corre. valores obs.-pre.(COP): %10s", "Corre. valores obs.-pre.(COP)",
-     &MedidasPrediccion::COP},
-    {"  ", nullptr, nullptr},
-    {"         Ind. desig. de Theil.........: %10s", "Ind. desig. de Theil", &MedidasPrediccion::Theil},
-    {"                Componente de sesgo...: %10s", "Componente de sesgo", &MedidasPrediccion::sesgo},
-    {"                Componente varianza...: %10s", "Componente varianza", &MedidasPrediccion::varianza},
-    {"                Componente aleatorio..: %10s", "Componente aleatorio", &MedidasPrediccion::aleatorio},
+     &MedidasPrediccion::ECM, "ecm"},
+    {"         Corre. valores obs.-pre.(COP): %10s", "Corre. valores obs.-pre.(COP)", &MedidasPrediccion::COP,
+     "correlacion"},
+    {"  ", nullptr, nullptr, nullptr},
+    {"         Ind. desig. de Theil.........: %10s", "Ind. desig. de Theil", &MedidasPrediccion::Theil,
+     "theil"},
+    {"                Componente de sesgo...: %10s", "Componente de sesgo", &MedidasPrediccion::sesgo,
+     "sesgo"},
+    {"                Componente varianza...: %10s", "Componente varianza", &MedidasPrediccion::varianza,
+     "varianza"},
+    {"                Componente aleatorio..: %10s", "Componente aleatorio", &MedidasPrediccion::aleatorio,
+     "aleatorio"},
 };
 
 const char *Modelo() {
@@ -56,6 +63,17 @@ std::string LineaDeRegresores() {
         linea += std::string(Recortado(codigo)) + ",";
     }
     return linea;
+}
+
+// The measures are the last lines.
+FuentesDeSalida FuentesDeMedidas(const TextoSalida &lineas) {
+    FuentesDeSalida fuentes;
+    int linea = static_cast<int>(lineas.size() - std::size(Medidas));
+    for (const LineaDeMedida &l : Medidas) {
+        if (l.paso != nullptr) fuentes.push_back({linea, {{l.paso}}});
+        ++linea;
+    }
+    return fuentes;
 }
 
 } // namespace
@@ -100,6 +118,8 @@ void MostrarPrediccion(Ventana *ventana) {
     salida.titulo = "Predicción y evaluación de la capacidad predictiva"_w;
     salida.lineas = &lineas;
     salida.tabla = tabla;
+    const FuentesDeSalida fuentes = FuentesDeMedidas(lineas);
+    salida.fuentes = &fuentes;
     // The diagram compares rates or increments.
     if (Prediccion.modoEvaluacion != EvaluarOriginales) salida.graficos = AbrirDiagramaPrediccion;
     MostrarVentanaResultado(ventana, salida);

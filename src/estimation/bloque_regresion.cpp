@@ -137,6 +137,16 @@ void AnadirCoeficientes(TextoSalida &texto, std::vector<TablaCoeficientes> &tabl
     tablas.push_back(tabla);
 }
 
+void AnadirFuentesDeCoeficientes(FuentesDeSalida &fuentes, const TablaCoeficientes &tabla, int codigo) {
+    static constexpr Familias DeLaFila[] = {FamBETA, FamDTE, FamDIV, FamPROBT};
+    for (int linea = tabla.primera; linea <= tabla.ultima; ++linea) {
+        FuentesDeLinea &f = fuentes.emplace_back();
+        f.linea = linea;
+        for (const Familias familia : DeLaFila)
+            f.numeros.push_back({NombreFamilia(familia, codigo), linea - tabla.primera});
+    }
+}
+
 // ----- Statistics
 
 constexpr LineaDeInforme Estadisticos[] = {
@@ -183,7 +193,7 @@ std::string DeSerie(Familias familia, int codigo, int fila) {
 } // namespace
 
 int BloqueRegresion(TextoSalida &texto, std::vector<TablaCoeficientes> &tablas, Ventana *ventana, int codigo,
-                    const ParteMuestra *parte) {
+                    const ParteMuestra *parte, FuentesDeSalida *fuentes) {
     DatosBloque d = {};
     d.codigo = codigo;
     d.parte = parte;
@@ -191,8 +201,12 @@ int BloqueRegresion(TextoSalida &texto, std::vector<TablaCoeficientes> &tablas, 
     const FormatoBloque &f = codigo == OrdenCWH ? FormatoWhite : FormatoComun;
     AnadirCabeceraDeBloque(texto, d, f);
     AnadirCoeficientes(texto, tablas, d, f);
-    return AnadirLineas(texto, Estadisticos, codigo) ? 1
-                                                     : MensajePunto(ventana, "Secuencia no válida"_w, 871);
+    if (!AnadirLineas(texto, Estadisticos, codigo))
+        return MensajePunto(ventana, "Secuencia no válida"_w, 871);
+    if (fuentes == nullptr) return 1;
+    AnadirFuentesDeCoeficientes(*fuentes, tablas.back(), codigo);
+    AnadirFuentes(*fuentes, texto, Estadisticos, codigo);
+    return 1;
 }
 
 RegresionMostrada RegresionDe(int codigo, const ParteMuestra *parte) {

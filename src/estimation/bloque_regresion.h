@@ -16,9 +16,9 @@ struct ParteMuestra {
 
 // Appends the block of a regression to `texto` and its rows to `tablas`. The code selects the results: 8 and 13; 10
 // and 11, with the part of the ordered sample that they ran on; 12, with names at the left. 1, or 0 after a message when
-// a result is gone.
+// a result is gone. `fuentes`, when given, receives those of its numbers.
 int BloqueRegresion(TextoSalida &texto, std::vector<TablaCoeficientes> &tablas, Ventana *ventana, int codigo,
-                    const ParteMuestra *parte);
+                    const ParteMuestra *parte, FuentesDeSalida *fuentes = nullptr);
 
 // The numbers of the block, once BloqueRegresion has found all of its results.
 RegresionMostrada RegresionDe(int codigo, const ParteMuestra *parte);

@@ -103,7 +103,8 @@ void MostrarSalida(Ventana *ventana, int clase, ProductorDeInforme producir) {
                               .fijas = nullptr,
                               .tablas = &informe.tablas,
                               .tabla = informe.tabla,
-                              .regresiones = &informe.regresiones};
+                              .regresiones = &informe.regresiones,
+                              .fuentes = &informe.fuentes};
     PonerClase(salida, clase);
     MostrarVentanaResultado(ventana, salida);
 }
@@ -111,7 +112,8 @@ void MostrarSalida(Ventana *ventana, int clase, ProductorDeInforme producir) {
 namespace {
 
 int InformeDeRegresion(InformeProducido &informe, Ventana *ventana, int codigo) {
-    if (BloqueRegresion(informe.lineas, informe.tablas, ventana, codigo, nullptr) == 0) return 0;
+    if (BloqueRegresion(informe.lineas, informe.tablas, ventana, codigo, nullptr, &informe.fuentes) == 0)
+        return 0;
     informe.regresiones.push_back(RegresionDe(codigo, nullptr));
     informe.tabla = TablaRegresion(codigo);
     return 1;

@@ -16,6 +16,7 @@ struct InformeProducido {
     std::vector<TablaCoeficientes> tablas;
     std::vector<RegresionMostrada> regresiones;
     std::string tabla; // may stay empty
+    FuentesDeSalida fuentes = {};
 };
 
 // Puts the code and what its kind of report asks of window and paper into a result.

@@ -30,7 +30,8 @@ double Cociente(double dividendo, double divisor) {
 
 // The block of a regression behind the lines of a test, in the report and in its table.
 int AnadirRegresion(InformeProducido &informe, Ventana *ventana, int codigo, const ParteMuestra *parte) {
-    if (BloqueRegresion(informe.lineas, informe.tablas, ventana, codigo, parte) == 0) return 0;
+    if (BloqueRegresion(informe.lineas, informe.tablas, ventana, codigo, parte, &informe.fuentes) == 0)
+        return 0;
     informe.regresiones.push_back(RegresionDe(codigo, parte));
     informe.tabla += "\n" + TablaRegresion(codigo, parte);
     return 1;
@@ -71,8 +72,9 @@ constexpr LineaDeInforme LineasSumasNumerador[] = {
 constexpr LineaDeInforme LineasGoldfeld[] = {
     {2,
      "Estadístico F(%2$3s,%3$3s):%1$10s  Prob > F             :%4$10s "_w,
-     {NumeroDado("Estadístico F"_w), NumeroDado("Grados de libertad 1", 0, 3),
-      NumeroDado("Grados de libertad 2", 0, 3), DeEscalar("_ESTFG", "Prob > F")}},
+     {NumeroDado("Estadístico F"_w, 4, 10, "Estadístico de Goldfeld y Quandt"_w),
+      NumeroDado("Grados de libertad 1", 0, 3), NumeroDado("Grados de libertad 2", 0, 3),
+      DeEscalar("_ESTFG", "Prob > F")}},
 };
 
 // A part of the ordered sample by its positions, from its rows.
@@ -92,13 +94,15 @@ int AnadirGoldfeld(InformeProducido &informe, const ParteMuestra &denominador,
     // The degrees of freedom of the denominator stand first.
     const double dados[] = {Cociente(medioNum, medioDen), nDen - k, nNum - k};
     const std::span uno(&nDen, 1), otro(&nNum, 1);
-    if (!AnadirLineas(informe.lineas, LineasSumas, OrdenMGD, uno) ||
-        !AnadirLineas(informe.lineas, LineasSumasNumerador, OrdenMGN, otro))
-        return 0;
+    if (!AnadirLineas(informe.lineas, LineasSumas, OrdenMGD, uno)) return 0;
+    AnadirFuentes(informe.fuentes, informe.lineas, LineasSumas, OrdenMGD);
+    if (!AnadirLineas(informe.lineas, LineasSumasNumerador, OrdenMGN, otro)) return 0;
+    AnadirFuentes(informe.fuentes, informe.lineas, LineasSumasNumerador, OrdenMGN);
     AnadirLinea(
         informe.lineas, 1,
         Formatear("Variable de ordenación : %-24s               "_w, UltimoContraste.ordenacion.c_str()));
     if (!AnadirLineas(informe.lineas, LineasGoldfeld, OrdenMGD, dados)) return 0;
+    AnadirFuentes(informe.fuentes, informe.lineas, LineasGoldfeld, OrdenMGD);
     informe.tabla = TablaDeLineas(LineasSumas, OrdenMGD, uno) +
                     TablaDeLineas(LineasSumasNumerador, OrdenMGN, otro) + "Variable de ordenación\t"_w +
                     std::string(Recortado(UltimoContraste.ordenacion)) + "\n" +
@@ -128,6 +132,7 @@ int InformeModeloRestringido(InformeProducido &informe, Ventana *ventana, int co
                     .muestra = TextoDeFilas(Muestra.InicioRegresion, Muestra.FinRegresion),
                     .observaciones = TablaMatrices.registro[y].Filas});
     if (!AnadirLineas(informe.lineas, LineasRestringido, codigo)) return SinResultado(ventana);
+    AnadirFuentes(informe.fuentes, informe.lineas, LineasRestringido, codigo);
     informe.tabla = ecuacion + "\n" + TablaDeLineas(LineasRestringido, codigo);
     return 1;
 }
@@ -146,6 +151,7 @@ int InformeGoldfeldQuandt(InformeProducido &informe, Ventana *ventana, int) {
 
 int InformeWhite(InformeProducido &informe, Ventana *ventana, int codigo) {
     if (!AnadirLineas(informe.lineas, LineasWhite, codigo)) return SinResultado(ventana);
+    AnadirFuentes(informe.fuentes, informe.lineas, LineasWhite, codigo);
     informe.tabla = TablaDeLineas(LineasWhite, codigo);
     return UltimoContraste.verRegresion != 0 ? AnadirRegresion(informe, ventana, codigo, nullptr) : 1;
 }

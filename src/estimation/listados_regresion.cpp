@@ -21,6 +21,7 @@ struct ListadoProducido {
     TextoSalida lineas, fijas, fijasImpresas, alAbrir;
     std::vector<TablaCoeficientes> tablas;
     std::string tituloImpreso, tabla;
+    FuentesDeSalida fuentes;
     const char *pagina = nullptr; // how the number of the page is written
 };
 
@@ -71,6 +72,8 @@ void ProducirCovarianza(ListadoProducido &l, const PeticionListado &p, Ventana *
             const double valor = r.Datos[i * static_cast<std::size_t>(r.Columnas) + j];
             const std::string elemento = NombreDeFila(p.nombres[j]) + NumeroListado(p, valor);
             AnadirLinea(l.lineas, GrupoFila, (j == 0 ? deFila : std::string(25, ' ')) + elemento);
+            l.fuentes.push_back({static_cast<int>(l.lineas.size()) - 1,
+                                 {{"_COV", static_cast<int>(i) * r.Columnas + static_cast<int>(j)}}});
             AnadirLinea(l.alAbrir, GrupoFila, deFila + elemento);
             l.tabla += "\t" + NumeroExacto(valor);
         }
@@ -104,7 +107,8 @@ void ProducirValores(ListadoProducido &l, const PeticionListado &p, Ventana *ven
         MensajePunto(ventana, "No existe la variable dependiente", 1);
         return;
     }
-    const int e = BuscarSerie(p.codigo == OrdenMCP ? "_RESN" : "_RES");
+    const char *residuos = p.codigo == OrdenMCP ? "_RESN" : "_RES";
+    const int e = BuscarSerie(residuos);
     if (e < 0) {
         MensajePunto(ventana, "No existe la serie de residuos", 1);
         return;
@@ -121,6 +125,7 @@ void ProducirValores(ListadoProducido &l, const PeticionListado &p, Ventana *ven
         AnadirLinea(l.lineas, GrupoFila,
                     linea + NumeroListado(p, observado) + f.separador + NumeroListado(p, estimado) +
                         f.separador + NumeroListado(p, residuo) + f.separador);
+        l.fuentes.push_back({static_cast<int>(l.lineas.size()) - 1, {{residuos, t - rango.primera}}});
         l.tabla += std::string(TextoPeriodo(t)) + "\t";
         if (p.conEtiquetas) l.tabla += std::string(Recortado(ArchivoTrabajo.EtiquetasObs[t])) + "\t";
         l.tabla +=
@@ -145,6 +150,7 @@ double VariacionTotal(int serie, const Rango &rango) {
 struct FilaDeVarianza {
     const char *formato, *rotulo;
     double suma, grados;
+    const char *pasoSuma, *pasoMedia; // of the trace
 };
 
 void AnadirFuente(ListadoProducido &l, const FilaDeVarianza &f, bool conF) {
@@ -154,6 +160,9 @@ void AnadirFuente(ListadoProducido &l, const FilaDeVarianza &f, bool conF) {
                 Formatear(f.formato, NumeroCampo(4, f.suma, 10).c_str(), NumeroCampo(0, f.grados, 8).c_str(),
                           NumeroCampo(4, media, 10).c_str(), NumeroCampo(4, estadistico, 6).c_str(),
                           NumeroCampo(4, probabilidad, 10).c_str()));
+    FuentesDeLinea fuentes = {static_cast<int>(l.lineas.size()) - 1, {{f.pasoSuma}, {}, {f.pasoMedia}}};
+    if (conF) fuentes.numeros.insert(fuentes.numeros.end(), {{"_FORLA"}, {"_ESTF"}});
+    l.fuentes.push_back(fuentes);
     l.tabla += std::string(f.rotulo) + "\t" + NumeroExacto(f.suma) + "\t" + NumeroExacto(f.grados) + "\t" +
                NumeroExacto(media);
     if (conF) l.tabla += "\t" + NumeroExacto(estadistico) + "\t" + NumeroExacto(probabilidad);
@@ -197,10 +206,12 @@ void ProducirVarianza(ListadoProducido &l, const PeticionListado &p, Ventana *ve
                 "Fuente de       Suma de    Grados de     Media        F     Prob>F   ");
     AnadirLinea(l.lineas, GrupoTitulo, "variación      cuadrados   libertad    cuadrática"_w);
     l.tabla = "Fuente de variación\tSuma de cuadrados\tGrados de libertad\tMedia cuadrática\tF\tProb>F\n"_w;
-    AnadirFuente(l, {"Regresión      %10s%8s      %10s  %6s%10s"_w, "Regresión"_w, total - residual, k - 1.0},
+    AnadirFuente(l,
+                 {"Regresión      %10s%8s      %10s  %6s%10s"_w, "Regresión"_w, total - residual, k - 1.0,
+                  "sce", "mce"},
                  true);
-    AnadirFuente(l, {"Residual       %10s%8s      %10s ", "Residual", residual, n - k}, false);
-    AnadirFuente(l, {"Total          %10s%8s      %10s ", "Total", total, n - 1.0}, false);
+    AnadirFuente(l, {"Residual       %10s%8s      %10s ", "Residual", residual, n - k, "_SCR", "mcr"}, false);
+    AnadirFuente(l, {"Total          %10s%8s      %10s ", "Total", total, n - 1.0, "sct", "mct"}, false);
     l.tablas.push_back({1, 2, 4, &ReglasDeVarianza});
 }
 
@@ -247,6 +258,7 @@ bool MostrarListado(Ventana *ventana, ListadosRegresion cual, const PeticionList
                               .fijas = l.fijas.empty() ? nullptr : &l.fijas,
                               .tablas = &l.tablas,
                               .tabla = l.tabla};
+    salida.fuentes = &l.fuentes;
     salida.papel.titulos = {l.tituloImpreso};
     salida.papel.pagina = l.pagina;
     salida.papel.fijas = l.fijasImpresas.empty() ? nullptr : &l.fijasImpresas;

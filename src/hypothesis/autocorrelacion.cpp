@@ -173,6 +173,24 @@ std::string Celda(int k) {
                      std::string(Recortado(desviacion)).c_str());
 }
 
+// Behind the four lines of the head, three lags to a line: the number of each, its coefficient and, with that band, its
+// deviation.
+FuentesDeSalida FuentesDeCoeficientes() {
+    const EstadoAutocorrelacion &a = Autocorrelacion;
+    constexpr int LineasDeCabecera = 4, RetardosPorLinea = 3;
+    FuentesDeSalida fuentes;
+    for (int k = 1; k <= RetardosMostrados(); ++k) {
+        if (k % RetardosPorLinea == 1) fuentes.push_back({LineasDeCabecera + k / RetardosPorLinea, {}});
+        std::vector<FuenteDeNumero> &numeros = fuentes.back().numeros;
+        numeros.push_back({});
+        numeros.push_back({Formatear(a.funcion == FuncionEstimada ? "r%d" : "p%d", k)});
+        if (a.tipoBanda == BandaArma) numeros.push_back({Formatear("banda%d", k)});
+    }
+    // The last line has the numbers of the lags that it doesn't show, too.
+    for (int k = RetardosMostrados(); k % RetardosPorLinea != 0; ++k) fuentes.back().numeros.push_back({});
+    return fuentes;
+}
+
 void Mostrar(Ventana *ventana) {
     const TextoSalida lineas = LineasAutocorrelacion();
     const std::string tabla = TablaAutocorrelacion();
@@ -182,6 +200,8 @@ void Mostrar(Ventana *ventana) {
     salida.lineas = &lineas;
     salida.tabla = tabla;
     salida.graficos = AbrirGraficoAutocorrelacion;
+    const FuentesDeSalida fuentes = FuentesDeCoeficientes();
+    salida.fuentes = &fuentes;
     MostrarVentanaResultado(ventana, salida);
 }
 

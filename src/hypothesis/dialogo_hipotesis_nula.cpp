@@ -3,6 +3,7 @@
 
 #include "hypothesis/hipotesis_nula.h"
 #include "language/lote_sentencias.h"
+#include "language/traza.h"
 #include "platform/campos_texto.h"
 #include "platform/numeros.h"
 #include "platform/texto.h"
@@ -36,6 +37,8 @@ std::vector<std::string> SentenciasHipotesisNula(const ValoresHipotesisNula &val
 }
 
 void AceptarHipotesisNula(Ventana *ventana, const ValoresHipotesisNula &valores) {
+    EmpezarTraza(); // the statements are the steps of one test
     for (const std::string &sentencia : SentenciasHipotesisNula(valores))
         ProcesarSentencia(ventana, sentencia, Muestra.InicioRegresion, Muestra.FinRegresion);
+    TerminarTraza();
 }

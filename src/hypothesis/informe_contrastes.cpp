@@ -52,6 +52,7 @@ int ProducirContraste(InformeProducido &informe, Ventana *ventana, int codigo) {
     AnadirCabecera(informe.lineas, CabeceraDeContraste, cabecera);
     if (!AnadirLineas(informe.lineas, LineasDe(codigo), codigo))
         return MensajePunto(ventana, SecuenciaNoValida, 871);
+    AnadirFuentes(informe.fuentes, informe.lineas, LineasDe(codigo), codigo);
     informe.tabla = TablaDeLineas(LineasDe(codigo), codigo);
     return 1;
 }
@@ -93,6 +94,8 @@ void VentanaHipotesisNula(Ventana *ventana) {
                           NumeroFijo(ValorDe("_NORE"), 0, 3).c_str(),
                           NumeroFijo(ValorDe("_FORLARH"), 4, 10).c_str(),
                           NumeroFijo(ValorDe("_ESTFH"), 4, 10).c_str()));
+    FuentesDeSalida fuentes;
+    AnadirFuentes(fuentes, lineas, LineaHipotesis, OrdenCHN);
     const double q[] = {static_cast<double>(HipotesisNula.q)};
     const std::string tabla = TablaDeLineas(LineaHipotesis, OrdenCHN, q);
     const std::string titulo = "Contraste de significatividad: Hipótesis nula"_w;
@@ -102,5 +105,6 @@ void VentanaHipotesisNula(Ventana *ventana) {
     salida.Clase = OrdenCHN;
     salida.lineas = &lineas;
     salida.tabla = tabla;
+    salida.fuentes = &fuentes;
     MostrarVentanaResultado(ventana, salida);
 }

@@ -20,14 +20,18 @@ constexpr int GrupoTexto = 1;
 struct LineaDeContraste {
     const char *formato, *rotulo; // the second for a spreadsheet
     double ContrasteNormalidad::*valor;
+    const char *paso; // of the trace
 };
 
 constexpr LineaDeContraste Lineas[] = {
     {"         Coeficiente de asimetria...: %10s", "Coeficiente de asimetria",
-     &ContrasteNormalidad::asimetria},
-    {"         Coeficiente de curtosis....: %10s", "Coeficiente de curtosis", &ContrasteNormalidad::curtosis},
-    {"         Estadístico................: %10s"_w, "Estadístico"_w, &ContrasteNormalidad::estadistico},
-    {"         Prob > Chi-cuadrado...... .: %10s", "Prob > Chi-cuadrado", &ContrasteNormalidad::probabilidad},
+     &ContrasteNormalidad::asimetria, "asimetria"},
+    {"         Coeficiente de curtosis....: %10s", "Coeficiente de curtosis", &ContrasteNormalidad::curtosis,
+     "curtosis"},
+    {"         Estadístico................: %10s"_w, "Estadístico"_w, &ContrasteNormalidad::estadistico,
+     "estadistico"},
+    {"         Prob > Chi-cuadrado...... .: %10s", "Prob > Chi-cuadrado", &ContrasteNormalidad::probabilidad,
+     "probabilidad"},
 };
 
 void Mostrar(Ventana *ventana, std::string_view serie, const FilasDeMuestra &filas,
@@ -41,8 +45,10 @@ void Mostrar(Ventana *ventana, std::string_view serie, const FilasDeMuestra &fil
     AnadirLinea(texto, GrupoTexto, Formatear("         Serie......................: %-10s", codigo.c_str()));
     std::string tabla =
         "Muestra\t" + muestra + "\nNºObs.\t"_w + std::to_string(n) + "\nSerie\t" + codigo + "\n";
+    FuentesDeSalida fuentes;
     for (const LineaDeContraste &l : Lineas) {
         const double valor = contraste.*l.valor;
+        fuentes.push_back({static_cast<int>(texto.size()), {{l.paso}}});
         AnadirLinea(texto, GrupoTexto, Formatear(l.formato, NumeroCopiado(4, 4, valor, 10).c_str()));
         tabla += std::string(l.rotulo) + "\t" + NumeroExacto(valor) + "\n";
     }
@@ -51,6 +57,7 @@ void Mostrar(Ventana *ventana, std::string_view serie, const FilasDeMuestra &fil
     salida.titulo = "Contraste de normalidad  Bera y Jarque";
     salida.lineas = &texto;
     salida.tabla = tabla;
+    salida.fuentes = &fuentes;
     MostrarVentanaResultado(ventana, salida);
 }
 

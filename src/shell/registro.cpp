@@ -169,6 +169,7 @@ std::shared_ptr<const ResultadoGuardado> GuardarResultado(const SalidaResultado 
     r->salida.lineas = CopiaDe(salida.lineas, r->lineas);
     r->salida.fijas = CopiaDe(salida.fijas, r->fijas);
     r->salida.tablas = CopiaDe(salida.tablas, r->tablas);
+    r->salida.fuentes = CopiaDe(salida.fuentes, r->fuentes);
     r->salida.papel.fijas = CopiaDe(salida.papel.fijas, r->papelFijas);
     r->salida.papel.alAbrir = CopiaDe(salida.papel.alAbrir, r->papelAlAbrir);
     r->titulosDePapel.assign(salida.papel.titulos.begin(), salida.papel.titulos.end());

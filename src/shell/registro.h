@@ -17,6 +17,7 @@ struct ResultadoGuardado {
     std::vector<TablaCoeficientes> tablas;
     std::vector<std::string> titulosDePapel;
     std::string titulo, tabla;
+    FuentesDeSalida fuentes;
     SalidaResultado salida; // points into this structure
 };
 

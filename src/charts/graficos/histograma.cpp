@@ -56,6 +56,8 @@ std::string Numero(double v, int decimales) {
     return Formatear("%*.*f", AnchoNumero, std::clamp(decimales, 0, 6), v);
 }
 
+constexpr int LineasDeCabecera = 2;
+
 void ComponerTabla(const DatosHistograma &h, std::string_view codigo, Histograma &histograma) {
     TextoSalida &t = histograma.lineas;
     AnadirLinea(t, GrupoCabecera, " Histograma de la serie: " + std::string(codigo));
@@ -152,6 +154,10 @@ bool MostrarHistograma(Ventana *ventana, const OpcionesHistograma &opciones, std
     salida.lineas = &h.lineas;
     salida.tabla = h.tabla;
     salida.graficos = AbrirGraficoDelHistograma;
+    FuentesDeSalida fuentes;
+    for (int clase = 1; LineasDeCabecera + clase <= static_cast<int>(h.lineas.size()); ++clase)
+        fuentes.push_back({LineasDeCabecera + clase - 1, {{Formatear("clase%d", clase)}}});
+    salida.fuentes = &fuentes;
     MostrarVentanaResultado(ventana, salida);
     return true;
 }

@@ -138,6 +138,39 @@ bool AnadirLineas(TextoSalida &texto, std::span<const LineaDeInforme> lineas, in
     return true;
 }
 
+namespace {
+
+FuenteDeNumero FuenteDelCampo(const CampoDeInforme &campo, int codigo) {
+    if (campo.escalar != nullptr) return {campo.escalar};
+    if (campo.familia != NumFamilias) return {NombreFamilia(campo.familia, codigo)};
+    return {campo.explicacion != nullptr ? std::string("=") + campo.explicacion : std::string()};
+}
+
+// The fields of a line in the order in which its format writes them: "%2$s" is the second one.
+std::vector<std::size_t> OrdenDeCampos(const LineaDeInforme &linea) {
+    std::vector<std::size_t> orden;
+    const std::string_view formato = linea.formato;
+    for (std::size_t i = formato.find('%'); i != std::string_view::npos; i = formato.find('%', i + 1)) {
+        const bool conNumero = i + 2 < formato.size() && formato[i + 2] == '$';
+        orden.push_back(conNumero ? static_cast<std::size_t>(formato[i + 1] - '1') : orden.size());
+    }
+    return orden;
+}
+
+} // namespace
+
+void AnadirFuentes(FuentesDeSalida &fuentes, const TextoSalida &texto, std::span<const LineaDeInforme> lineas,
+                   int codigo) {
+    int linea = static_cast<int>(texto.size() - std::min(texto.size(), lineas.size()));
+    for (const LineaDeInforme &l : lineas) {
+        FuentesDeLinea &f = fuentes.emplace_back();
+        f.linea = linea++;
+        const std::span<const CampoDeInforme> campos = CamposDe(l);
+        for (const std::size_t i : OrdenDeCampos(l))
+            if (i < campos.size()) f.numeros.push_back(FuenteDelCampo(campos[i], codigo));
+    }
+}
+
 std::vector<RegresionMostrada::Estadistico> ValoresDeLineas(std::span<const LineaDeInforme> lineas,
                                                             int codigo, std::span<const double> dados) {
     std::vector<RegresionMostrada::Estadistico> valores;

@@ -77,6 +77,7 @@ struct CampoDeInforme {
     const char *escalar;
     const char *rotulo; // in the table for a spreadsheet
     int decimales, ancho;
+    const char *explicacion = nullptr; // how that of the step begins that gave a number handed in
 };
 
 constexpr CampoDeInforme DeFamilia(Familias familia, const char *rotulo, int decimales = 4, int ancho = 10) {
@@ -86,8 +87,9 @@ constexpr CampoDeInforme DeEscalar(const char *escalar, const char *rotulo, int 
                                    int ancho = 10) {
     return {NumFamilias, escalar, rotulo, decimales, ancho};
 }
-constexpr CampoDeInforme NumeroDado(const char *rotulo, int decimales = 4, int ancho = 10) {
-    return {NumFamilias, nullptr, rotulo, decimales, ancho};
+constexpr CampoDeInforme NumeroDado(const char *rotulo, int decimales = 4, int ancho = 10,
+                                    const char *explicacion = nullptr) {
+    return {NumFamilias, nullptr, rotulo, decimales, ancho, explicacion};
 }
 
 // The format takes a "%s" for each field. Fields without a label end the line.
@@ -101,6 +103,10 @@ struct LineaDeInforme {
 // numbers handed in, in order. False when a scalar is gone.
 bool AnadirLineas(TextoSalida &texto, std::span<const LineaDeInforme> lineas, int codigo,
                   std::span<const double> dados = {});
+
+// Appends the sources of the same fields: these lines are the last ones of `texto`.
+void AnadirFuentes(FuentesDeSalida &fuentes, const TextoSalida &texto, std::span<const LineaDeInforme> lineas,
+                   int codigo);
 
 // The values of the same fields under their labels. A scalar that is gone is left out.
 std::vector<RegresionMostrada::Estadistico> ValoresDeLineas(std::span<const LineaDeInforme> lineas,

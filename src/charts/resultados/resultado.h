@@ -1,6 +1,7 @@
 // What every text result shares: the lines with their kinds, and the result window.
 #pragma once
 
+#include "charts/resultados/fuentes.h"
 #include "platform/plataforma.h"
 #include "store/limites.h"
 
@@ -96,4 +97,6 @@ struct SalidaResultado {
     PapelDeSalida papel = {};
     int (*graficos)(Ventana *ventana) =
         nullptr; // what "&Gráficos" opens; null: nothing. The result is not used
+    const FuentesDeSalida *fuentes = nullptr; // of the numbers in the lines, or null
+    MomentoDeTraza traza = {};                // when the result was made
 };

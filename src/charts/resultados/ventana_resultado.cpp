@@ -166,6 +166,26 @@ void PintarResultado(Superficie &s, EstadoVentanaResultado &estado, const Salida
     estado.LineaDetras = PintarBloque(s, bloque, salida, estado.LineaInicial, estado.Fila);
 }
 
+bool LineaEnPunto(const EstadoVentanaResultado &estado, const SalidaResultado &salida, int ancho, int alto,
+                  PuntoDibujo punto, int &linea, int &columna) {
+    if (estado.anchoCaracter <= 0) return false; // not painted yet
+    std::vector<OrdenDibujo> ordenes;
+    Superficie s = SuperficieGrabadora(ordenes, ancho, alto, estado.anchoCaracter, estado.altoLinea);
+    EstadoVentanaResultado medido = estado;
+    PintarResultado(s, medido, salida);
+    int i = estado.LineaInicial - (salida.fijas != nullptr ? static_cast<int>(salida.fijas->size()) : 0);
+    for (const OrdenDibujo &o : ordenes) {
+        if (o.clase != OrdenTexto) continue;
+        const int esta = i++;
+        if (punto.y < o.y1 || punto.y >= o.y1 + s.altoLinea || punto.x < o.x1) continue;
+        if (esta < estado.LineaInicial) return false; // one of the fixed ones
+        linea = esta;
+        columna = (punto.x - o.x1) / s.anchoCaracter;
+        return true;
+    }
+    return false;
+}
+
 int LineasPorDebajo(const EstadoVentanaResultado &estado, const SalidaResultado &salida) {
     return std::max(NumeroDeLineas(salida) - estado.LineaDetras, 0);
 }

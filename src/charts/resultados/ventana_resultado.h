@@ -45,6 +45,11 @@ void PintarResultado(Superficie &s, EstadoVentanaResultado &estado, const Salida
 // Lines below those of the last paint, 0 when the last one of the text is shown.
 int LineasPorDebajo(const EstadoVentanaResultado &estado, const SalidaResultado &salida);
 
+// The line, from 0, and the column of its text at a point of the window as it was painted last; in an area of this size.
+// False where no line that scrolls stands.
+bool LineaEnPunto(const EstadoVentanaResultado &estado, const SalidaResultado &salida, int ancho, int alto,
+                  PuntoDibujo punto, int &linea, int &columna);
+
 // What the bar asks for. Line up and down is one line, page up and down five, DesplazarA goes to `posicion`.
 enum Desplazamientos { LineaArriba, LineaAbajo, PaginaArriba, PaginaAbajo, DesplazarA };
 
