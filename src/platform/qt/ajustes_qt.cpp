@@ -82,6 +82,14 @@ QSettings Ajustes() {
                      QStringLiteral("tabira"));
 }
 
+bool Eleccion(const char *clave, bool alPrincipio) {
+    return Ajustes().value(QLatin1String(clave), alPrincipio).toBool();
+}
+
+void PonerEleccion(const char *clave, bool elegido) {
+    Ajustes().setValue(QLatin1String(clave), elegido);
+}
+
 void RecordarSitios(QApplication &aplicacion) {
     aplicacion.installEventFilter(new MemoriaDeSitios(&aplicacion));
 }

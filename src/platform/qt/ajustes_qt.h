@@ -10,6 +10,10 @@ class QApplication;
 // The one place of all of it.
 QSettings Ajustes();
 
+// A choice of the user: `clave` is its name, `alPrincipio` what stands until it is made.
+bool Eleccion(const char *clave, bool alPrincipio);
+void PonerEleccion(const char *clave, bool elegido);
+
 // From here on each dialog, result and chart opens where it was closed last, on the screen; and as large as the user
 // made it, but never smaller than what it shows asks for. Boxes and the main window have places of their own.
 void RecordarSitios(QApplication &aplicacion);

@@ -240,6 +240,7 @@ void ControlSentencias::contextMenuEvent(QContextMenuEvent *suceso) {
     menu->setObjectName(QStringLiteral("menuContexto"));
     menu->addSeparator();
     menu->addAction(QStringLiteral("&Buscar y reemplazar..."), this, &ControlSentencias::PideBuscar);
+    menu->addAction(QStringLiteral("Cómo &se calcula..."), this, &ControlSentencias::PideTraza);
     QMenu *ejemplos = menu->addMenu(QStringLiteral("&Ejemplos"));
     ejemplos->setObjectName(QStringLiteral("menuEjemplos"));
     for (int i = 0; i < NumEjemplos; ++i) {

@@ -25,6 +25,7 @@ public:
 
 signals:
     void PideBuscar();
+    void PideTraza();
     void PideEjemplo(int cual); // row of TablaEjemplos
     void FicheroSoltado(const QString &ruta);
 

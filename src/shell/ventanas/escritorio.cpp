@@ -8,6 +8,7 @@
 #include "charts/graficos/ventanas/ventana_grafico_qt.h"
 #include "charts/resultados/ventanas/dialogo_seleccion.h"
 #include "charts/resultados/ventanas/ventana_resultado_qt.h"
+#include "charts/resultados/ventanas/ventana_traza.h"
 #include "data/ventanas/dialogos_datos.h"
 #include "data/ventanas/ventana_editor.h"
 #include "estimation/ventanas/dialogo_estimacion.h"
@@ -81,4 +82,5 @@ void PrepararEscritorio() {
     InstalarVentanas();
     InstalarImpresoraQt();
     InstalarOperacionesEscritorio();
+    IniciarVentanaTraza();
 }

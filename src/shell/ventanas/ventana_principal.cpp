@@ -1,6 +1,7 @@
 // The main window.
 #include "shell/ventanas/ventana_principal.h"
 
+#include "charts/resultados/ventanas/ventana_traza.h"
 #include "data/copia_seguridad.h"
 #include "data/ventanas/ventana_editor.h"
 #include "language/lote_sentencias.h"
@@ -131,7 +132,9 @@ void VentanaPrincipal::CrearTeclas() {
     tecla(Qt::CTRL | Qt::Key_Return, &VentanaPrincipal::ProcesarLinea);
     tecla(Qt::CTRL | Qt::Key_Enter, &VentanaPrincipal::ProcesarLinea);
     tecla(Qt::Key_F5, &VentanaPrincipal::ProcesarTodo);
+    tecla(Qt::Key_F9, &VentanaPrincipal::ComoSeCalcula);
     connect(PantallaEdicion, &ControlSentencias::PideBuscar, buscar, &BarraBuscar::Abrir);
+    connect(PantallaEdicion, &ControlSentencias::PideTraza, this, &VentanaPrincipal::ComoSeCalcula);
     connect(PantallaEdicion, &ControlSentencias::FicheroSoltado, this,
             [this](const QString &ruta) { AbrirFichero(*this, ruta); });
     connect(PantallaEdicion, &ControlSentencias::PideEjemplo, this, [this](int cual) {
@@ -162,6 +165,10 @@ void VentanaPrincipal::ProcesarLinea() {
 
 void VentanaPrincipal::ProcesarTodo() {
     ProcesarTramo(0, PantallaEdicion->document()->characterCount() - 1);
+}
+
+void VentanaPrincipal::ComoSeCalcula() {
+    AbrirTrazaEnSentencia(this, PantallaEdicion->textCursor().block().text());
 }
 
 void VentanaPrincipal::CrearMenus() {

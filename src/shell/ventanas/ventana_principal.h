@@ -31,6 +31,9 @@ public:
     void ProcesarLinea();
     void ProcesarTodo();
 
+    // The window of the steps, at the statement of the caret or, where that one isn't recorded, at the last.
+    void ComoSeCalcula();
+
     // A batch has ended: its mark, the colours, the status line.
     void TrasElLote();
 

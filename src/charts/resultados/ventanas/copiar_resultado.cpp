@@ -28,10 +28,13 @@ void CopiarTexto(const SalidaResultado &salida) {
 }
 
 void CopiarComoTabla(const SalidaResultado &salida) {
-    const std::string tabla = TablaDeResultado(salida);
+    CopiarTabla(salida.titulo, TablaDeResultado(salida));
+}
+
+void CopiarTabla(std::string_view titulo, const std::string &tabla) {
     auto *datos = new QMimeData;
     datos->setText(QDe1252(TablaEnTexto(tabla, Signo())));
-    datos->setHtml(QDe1252(TablaEnHtml(salida.titulo, tabla, Signo())));
+    datos->setHtml(QDe1252(TablaEnHtml(titulo, tabla, Signo())));
     QApplication::clipboard()->setMimeData(datos);
 }
 
@@ -44,9 +47,9 @@ void CopiarComoMarkdown(const SalidaResultado &salida) {
 }
 
 bool ComasAlCopiar() {
-    return Ajustes().value(QLatin1String(ClaveDeComas), false).toBool();
+    return Eleccion(ClaveDeComas, false);
 }
 
 void PonerComasAlCopiar(bool comas) {
-    Ajustes().setValue(QLatin1String(ClaveDeComas), comas);
+    PonerEleccion(ClaveDeComas, comas);
 }

@@ -12,6 +12,9 @@ void CopiarComoTabla(const SalidaResultado &salida);
 void CopiarComoLatex(const SalidaResultado &salida);
 void CopiarComoMarkdown(const SalidaResultado &salida);
 
+// The same as text and as HTML for any table as formatos_tabla.h has it.
+void CopiarTabla(std::string_view titulo, const std::string &tabla);
+
 // Whether what is copied as a table has decimal commas; remembered between two runs.
 bool ComasAlCopiar();
 void PonerComasAlCopiar(bool comas);

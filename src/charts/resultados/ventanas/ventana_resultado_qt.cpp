@@ -3,11 +3,13 @@
 #include "charts/resultados/ventanas/ventana_resultado_qt.h"
 
 #include "charts/resultados/formatos_tabla.h"
+#include "charts/resultados/fuentes.h"
 #include "charts/resultados/impresion.h"
 #include "charts/resultados/ventana_resultado.h"
 #include "charts/resultados/ventanas/copiar_resultado.h"
 #include "charts/resultados/ventanas/guardar_resultado.h"
 #include "charts/resultados/ventanas/lectura_resultado.h"
+#include "charts/resultados/ventanas/ventana_traza.h"
 #include "platform/qt/impresora_qt.h"
 #include "platform/qt/superficie_qt.h"
 #include "platform/qt/texto_qt.h"
@@ -23,9 +25,12 @@
 #include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSignalBlocker>
+#include <QToolTip>
 #include <QWheelEvent>
 
 namespace {
@@ -50,6 +55,7 @@ public:
         siguen.setMargin(2);
         siguen.setAttribute(Qt::WA_TransparentForMouseEvents);
         siguen.hide();
+        viewport()->setMouseTracking(true); // over a number the mouse shows that it leads somewhere
         setFrameShape(QFrame::NoFrame);
         const int tope = FormaDe(salida).topeBarra;
         verticalScrollBar()->setRange(0, tope);
@@ -76,6 +82,8 @@ public:
     }
 
     void Imprimir() { ImprimirResultado(AVentana(window()), salida); }
+
+    void ComoSeCalcula() { AbrirTrazaDeResultado(window(), salida); }
 
     EstadoVentanaResultado estado{};
 
@@ -126,6 +134,35 @@ protected:
         if (muescas != 0) Mover([&] { DesplazarConRueda(estado, salida, -muescas); });
     }
 
+    // A number leads to the step that gave it.
+    void mouseReleaseEvent(QMouseEvent *suceso) override {
+        const FuenteDeNumero *origen = FuenteEn(suceso->position().toPoint());
+        if (suceso->button() == Qt::LeftButton && origen != nullptr)
+            return AbrirTrazaEnFuente(window(), salida, *origen);
+        QAbstractScrollArea::mouseReleaseEvent(suceso);
+    }
+
+    void mouseMoveEvent(QMouseEvent *suceso) override {
+        PonerMano(FuenteEn(suceso->position().toPoint()) != nullptr);
+        QAbstractScrollArea::mouseMoveEvent(suceso);
+    }
+
+    bool viewportEvent(QEvent *suceso) override {
+        if (suceso->type() == QEvent::Leave) PonerMano(false);
+        if (suceso->type() == QEvent::ToolTip) {
+            const auto *ayuda = static_cast<QHelpEvent *>(suceso);
+            const FuenteDeNumero *origen = FuenteEn(ayuda->pos());
+            const int paso = origen != nullptr ? PasoDeFuente(*origen, salida.traza) : -1;
+            if (paso >= 0)
+                QToolTip::showText(ayuda->globalPos(),
+                                   QDe1252(Traza.pasos[static_cast<std::size_t>(paso)].explicacion), this);
+            else
+                QToolTip::hideText();
+            return true;
+        }
+        return QAbstractScrollArea::viewportEvent(suceso);
+    }
+
     void contextMenuEvent(QContextMenuEvent *suceso) override {
         QMenu menu(this);
         menu.setObjectName(QStringLiteral("menuContexto"));
@@ -138,6 +175,7 @@ protected:
         comas->setChecked(ComasAlCopiar());
         connect(comas, &QAction::toggled, this, PonerComasAlCopiar);
         menu.addAction(QStringLiteral("&Guardar como..."), this, [this] { Guardar(); });
+        menu.addAction(QStringLiteral("Cómo &se calcula..."), this, [this] { ComoSeCalcula(); });
         menu.exec(suceso->globalPos());
     }
 
@@ -151,6 +189,25 @@ private:
         SenalarLoQueSigue();
         const int fijas = salida.fijas != nullptr ? static_cast<int>(salida.fijas->size()) : 0;
         LeerDesdeLinea(*this, estado.LineaInicial > 0 ? fijas + estado.LineaInicial : 0);
+    }
+
+    // The source of the number at a place, null where there is none.
+    const FuenteDeNumero *FuenteEn(const QPoint &lugar) const {
+        int linea = 0, columna = 0, primera = 0, detras = 0;
+        if (salida.fuentes == nullptr ||
+            !LineaEnPunto(estado, salida, viewport()->width(), viewport()->height(), {lugar.x(), lugar.y()},
+                          linea, columna))
+            return nullptr;
+        const char *texto = (*salida.lineas)[static_cast<std::size_t>(linea)].texto;
+        for (const FuentesDeLinea &f : *salida.fuentes)
+            if (f.linea == linea) return FuenteEnColumna(texto, f.numeros, columna, primera, detras);
+        return nullptr;
+    }
+
+    // The cursor of the window is that of the program, which a batch may have set.
+    static void PonerMano(bool mano) {
+        if (QApplication::overrideCursor() != nullptr)
+            QApplication::changeOverrideCursor(mano ? Qt::PointingHandCursor : Qt::ArrowCursor);
     }
 
     // Every command of the window takes away what the one before told.
@@ -215,6 +272,8 @@ void MostrarResultadoQt(Ventana *ventana, const SalidaResultado &salida) {
     }
     dialogo.layout()->setMenuBar(barra);
     area->setMinimumWidth(area->AnchoMinimo());
+    QObject::connect(new QShortcut(Qt::Key_F9, &dialogo), &QShortcut::activated, area,
+                     [area] { area->ComoSeCalcula(); });
     dialogo.resize(DentroDeLaPantalla(dialogo, area->TamanoInicial() + QSize(0, barra->sizeHint().height())));
     // A statement runs under the wait cursor; its result is looked at under the arrow.
     QApplication::setOverrideCursor(Qt::ArrowCursor);
