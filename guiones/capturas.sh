@@ -7,7 +7,7 @@ set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source guiones/preparar.sh
 source guiones/pantalla.sh
-TEMAS=(trabajo datos estimacion contrastes analisis graficos ayuda)
+TEMAS=(trabajo datos estimacion contrastes traza analisis graficos ayuda)
 temas=("${@:2}")
 [ ${#temas[@]} -gt 0 ] || temas=("${TEMAS[@]}")
 for tema in "${temas[@]}"; do source "guiones/capturas_$tema.sh"; done
