@@ -78,6 +78,12 @@ void AnadirLineas(const std::string &texto, std::vector<std::string> &lineas) {
 // What an event shows to the user, line by line.
 void AnadirSuceso(const json &s, std::vector<std::string> &lineas) {
     if (s["suceso"] == "caja") AnadirLineas(s["texto"].get<std::string>(), lineas);
+    if (s["suceso"] == "paso") {
+        AnadirLineas(s["explicacion"].get<std::string>(), lineas);
+        std::string valores;
+        for (const json &v : s["valores"]) valores += v.dump() + " ";
+        AnadirLineas(valores, lineas);
+    }
     if (s["suceso"] != "salida" && s["suceso"] != "grafico") return;
     AnadirLineas(s["titulo"].get<std::string>(), lineas);
     for (const char *campo : {"fijas", "lineas"})
@@ -197,7 +203,7 @@ std::string SinMnemonicos(std::string s) {
 }
 
 std::set<std::string> EntradasDeMenu() {
-    std::set<std::string> r;
+    std::set<std::string> r = {"F9"}; // the key of the steps of a computation, which no menu has
     for (int i = 0; i < NumComandos; ++i) {
         const Comando &c = TablaComandos[i];
         if (c.menu == nullptr) continue;
