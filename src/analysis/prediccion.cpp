@@ -137,17 +137,47 @@ void CalcularDesviaciones(const Trabajo &t, const double *covarianza, double res
     }
 }
 
-// ----- The trace. x(t) are the regressors of a row as a column, a term that is no series with the value 1; p(t) and a(t)
-// what was predicted and what was observed, as the mode compares them.
+// ----- The trace. x(t) are the regressors of a row as a column, a term that is no series with the value 1; pred and obs what
+// was predicted and observed, as the mode compares them.
 
 FilasTraza FilasDePrediccion() {
     return {Prediccion.inicioPred, Prediccion.finPred};
 }
 
-void TrazarPredicha(const char *codigo, const char *formula, const char *explicacion) {
-    if (Trazando())
-        TrazarSerie(Recortado(codigo), ConPeriodos(formula, FilasDePrediccion()), explicacion,
-                    FilasDePrediccion());
+void TrazarPredicha(const Trabajo &t, const char *codigo, const std::string &formula,
+                    const char *explicacion) {
+    if (!Trazando()) return;
+    std::string con = " con x(t) = {";
+    for (std::size_t i = 0; i < t.regresores.size(); ++i)
+        con.append(i > 0 ? " " : "")
+            .append(t.regresores[i] >= 0 ? UltimaRegresion.CodigosRegresores[i] : "1");
+    TrazarSerie(Recortado(codigo), ConPeriodos(formula + con + "}", FilasDePrediccion()), explicacion,
+                FilasDePrediccion());
+}
+
+// The columns that are compared.
+void TrazarColumnas() {
+    if (!Trazando()) return;
+    const FilasTraza filas = FilasDePrediccion();
+    const std::string p(Recortado(Prediccion.codigoPred)), a(Recortado(UltimaRegresion.CodigoDependiente));
+    const auto columna = [&](const char *nombre, const std::string &valor, const double *valores,
+                             const char *originales, const char *tasas, const char *incrementos) {
+        const std::string anterior = a + "(t-1)", incremento = valor + "(t) - " + anterior;
+        switch (Prediccion.modoEvaluacion) {
+        case EvaluarTasas:
+            return TrazarColumna(nombre, ConPeriodos("(" + incremento + ") / " + anterior, filas), tasas,
+                                 filas, valores);
+        case EvaluarIncrementos:
+            return TrazarColumna(nombre, ConPeriodos(incremento, filas), incrementos, filas, valores);
+        default: return TrazarColumna(nombre, ConPeriodos(valor + "(t)", filas), originales, filas, valores);
+        }
+    };
+    columna("pred", p, Prediccion.prediccionEval + filas.primera, "Lo predicho: los valores",
+            "Lo predicho: la tasa sobre el valor anterior observado; 0 si este es 0",
+            "Lo predicho: el incremento sobre el valor anterior observado");
+    columna("obs", a, Prediccion.observacionEval + filas.primera, "Lo observado: los valores",
+            "Lo observado: la tasa sobre el valor anterior; 0 si este es 0",
+            "Lo observado: el incremento sobre el valor anterior");
 }
 
 void TrazarMedidas(const MedidasPrediccion &m) {
@@ -167,22 +197,22 @@ void TrazarMedidas(const MedidasPrediccion &m) {
         return s;
     };
     const double mp = suma(p, 0.0, 1) / n, ma = suma(a, 0.0, 1) / n;
-    medida("mp", ConPeriodos(Formatear("suma de p(t) / %d", n), filas), mp, "Media de lo predicho");
-    medida("ma", ConPeriodos(Formatear("suma de a(t) / %d", n), filas), ma, "Media de lo observado");
-    medida("sp", ConPeriodos(Formatear("RCUAD(suma de (p(t) - mp)^2 / %d)", n), filas),
+    medida("mp", ConPeriodos(Formatear("suma de pred(t) / %d", n), filas), mp, "Media de lo predicho");
+    medida("ma", ConPeriodos(Formatear("suma de obs(t) / %d", n), filas), ma, "Media de lo observado");
+    medida("sp", ConPeriodos(Formatear("RCUAD(suma de (pred(t) - mp)^2 / %d)", n), filas),
            std::sqrt(suma(p, mp, 2) / n), "Desviación típica de lo predicho"_w);
-    medida("sa", ConPeriodos(Formatear("RCUAD(suma de (a(t) - ma)^2 / %d)", n), filas),
+    medida("sa", ConPeriodos(Formatear("RCUAD(suma de (obs(t) - ma)^2 / %d)", n), filas),
            std::sqrt(suma(a, ma, 2) / n), "Desviación típica de lo observado"_w);
-    medida("eam", ConPeriodos(Formatear("suma de |p(t) - a(t)| / %d", n), filas), m.EAM,
-           "Error absoluto medio: p(t), lo predicho; a(t), lo observado");
-    medida("ecm", ConPeriodos(Formatear("suma de (p(t) - a(t))^2 / %d", n), filas), m.ECM,
+    medida("eam", ConPeriodos(Formatear("suma de |pred(t) - obs(t)| / %d", n), filas), m.EAM,
+           "Error absoluto medio");
+    medida("ecm", ConPeriodos(Formatear("suma de (pred(t) - obs(t))^2 / %d", n), filas), m.ECM,
            "Error cuadrático medio"_w);
-    medida(
-        "correlacion",
-        ConPeriodos("suma de (a(t) - ma) (p(t) - mp) / RCUAD(suma de (p(t) - mp)^2 * suma de (a(t) - ma)^2)",
-                    filas),
-        m.COP, "Coeficiente de correlación entre predicción y observación"_w);
-    medida("theil", ConPeriodos(Formatear("RCUAD(ecm) / RCUAD(suma de a(t)^2 / %d)", n), filas), m.Theil,
+    medida("correlacion",
+           ConPeriodos("suma de (obs(t) - ma) (pred(t) - mp) / RCUAD(suma de (pred(t) - mp)^2 * suma de "
+                       "(obs(t) - ma)^2)",
+                       filas),
+           m.COP, "Coeficiente de correlación entre predicción y observación"_w);
+    medida("theil", ConPeriodos(Formatear("RCUAD(ecm) / RCUAD(suma de obs(t)^2 / %d)", n), filas), m.Theil,
            "Índice de Theil"_w);
     medida("sesgo", "(mp - ma)^2 / ecm", m.sesgo, "Componente de sesgo del error");
     medida("varianza", "(sp - sa)^2 / ecm", m.varianza, "Componente de varianza del error");
@@ -200,7 +230,7 @@ int PredecirTodo(Trabajo &t) {
     for (const int serie : {t.pred, t.dtm, t.dti})
         VaciarSerieDestino(serie, Prediccion.inicioPred, Prediccion.finPred);
     Predecir(t, beta);
-    TrazarPredicha(Prediccion.codigoPred, "x(t)' _BETA", "Predicción: regresores por coeficientes"_w);
+    TrazarPredicha(t, Prediccion.codigoPred, "x(t)' _BETA", "Predicción: regresores por coeficientes"_w);
     const double *covarianza = Matriz("_COV", K * K);
     if (covarianza == nullptr) return MensajePunto(t.ventana, "No existe la matriz de covarianza", 1);
     double residual = 0.0;
@@ -212,8 +242,8 @@ int PredecirTodo(Trabajo &t) {
                                 UltimaRegresion.UltimaObsRegresion - UltimaRegresion.PrimeraObsRegresion + 1,
                                 K),
                       residual, "Varianza de los residuos");
-    TrazarPredicha(Prediccion.codigoDtm, "RCUAD(x(t)' _COV x(t))", "Desviación típica del valor medio"_w);
-    TrazarPredicha(Prediccion.codigoDti, "RCUAD(residual + x(t)' _COV x(t))",
+    TrazarPredicha(t, Prediccion.codigoDtm, "RCUAD(x(t)' _COV x(t))", "Desviación típica del valor medio"_w);
+    TrazarPredicha(t, Prediccion.codigoDti, "RCUAD(residual + x(t)' _COV x(t))",
                    "Desviación típica del valor individual"_w);
     return 1;
 }
@@ -266,6 +296,7 @@ int Evaluar(Trabajo &t) {
     const std::size_t m = static_cast<std::size_t>(p.finPred - p.inicioPred) + 1;
     p.medidas = MedirPrediccion({p.prediccionEval + p.inicioPred, m}, {p.observacionEval + p.inicioPred, m});
     p.evaluada = true;
+    TrazarColumnas();
     TrazarMedidas(p.medidas);
     return 1;
 }

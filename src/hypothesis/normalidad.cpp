@@ -106,9 +106,10 @@ void TrazarContraste(std::string_view serie, std::span<const double> x, const Co
                   "Coeficiente de asimetría; 0 si no hay variación"_w);
     TrazarEscalar("curtosis", Formatear("s4 / (s2 * s2 / %d)", n), c.curtosis,
                   "Coeficiente de curtosis; 0 si no hay variación"_w);
-    TrazarEscalar("estadistico",
-                  Formatear("%d/6 * asimetria * asimetria + %d/24 * (curtosis - 3) * (curtosis - 3)", n, n),
-                  c.estadistico, "Estadístico de Bera y Jarque"_w);
+    TrazarEscalar(
+        "estadistico",
+        Formatear("(%d/6 * asimetria * asimetria) + (%d/24 * (curtosis - 3) * (curtosis - 3))", n, n),
+        c.estadistico, "Estadístico de Bera y Jarque"_w);
     TrazarEscalar("probabilidad", "PROBC(estadistico,2)", c.probabilidad,
                   "Probabilidad del estadístico, ji cuadrado con 2 grados de libertad"_w);
 }

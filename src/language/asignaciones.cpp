@@ -134,9 +134,9 @@ int AbrirPasoEscrito(const std::string &linea, int posicion, const std::string &
     switch (codigo) {
     case OrdenMAT: {
         const bool llaves = formula.starts_with('{');
-        const char *explicacion = llaves
-                                      ? "Matriz: una columna por serie o número, una fila por observación"_w
-                                      : "Matriz: operaciones de izquierda a derecha, sin prioridades"_w;
+        const char *explicacion =
+            llaves ? "Matriz: una columna por serie o número, una fila por observación"_w
+                   : "Matriz: operaciones de izquierda a derecha, con los paréntesis que se ven"_w;
         return AbrirPaso(TrazaMatriz, Evaluador.CodigoMatrizDestino, formula, explicacion, filas);
     }
     case OrdenESC:

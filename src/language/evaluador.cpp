@@ -136,12 +136,17 @@ int InicioDelNivel() {
     return InicioNivel[static_cast<std::size_t>(Evaluador.NivelLinea)];
 }
 
-// What stands between the two places of the present level was worked out, and its value is on top.
+// What stands between the two places of the present level was worked out, and its value is on top. The ")" that a function
+// leaves behind belongs to it.
 int ReduccionHecha(const std::string &texto, int desde, int hasta) {
-    if (TrazandoReducciones())
+    if (TrazandoReducciones()) {
+        const auto inicio = texto.begin() + desde, fin = texto.begin() + hasta;
+        const bool abierto = std::count(inicio, fin, '(') > std::count(inicio, fin, ')');
+        if (abierto && CaracterEn(texto, hasta) == ')') ++hasta;
         TrazarReduccionDeColumna(std::string_view(texto).substr(static_cast<std::size_t>(desde),
                                                                 static_cast<std::size_t>(hasta - desde)),
                                  Evaluador.NivelLinea);
+    }
     return OperandoHecho();
 }
 
@@ -158,7 +163,7 @@ int ElementoFuncion(std::string_view token, const FuncionSerie &funcion, LineasS
     const int nombre = static_cast<int>(token.data() - texto.data());
     const int fallo = AplicarFuncionSerie(funcion, lineas, posicion);
     if (fallo != 0) return fallo;
-    return ReduccionHecha(texto, nombre, std::min(posicion + 1, static_cast<int>(texto.size())));
+    return ReduccionHecha(texto, nombre, posicion);
 }
 
 // AND and OR. The word is kept in one place for the whole statement, so that a right side with a logical operator of
@@ -200,7 +205,8 @@ int ElementoFuncionMatriz(std::string_view nombre, LineasSentencia &lineas, int 
     double valor = 0.0;
     if (ValorFuncionMatriz(nombre, valor, posicion, lineas, Evaluador.ventana) != 1) return 14;
     if (!ApilarNumero(valor)) return 14;
-    return OperandoHecho();
+    const std::string &texto = LineaDelNivel(lineas);
+    return ReduccionHecha(texto, static_cast<int>(nombre.data() - texto.data()), posicion);
 }
 
 // An operator takes exactly one element as its right operand and is applied at once: all are of equal rank, from left

@@ -372,6 +372,14 @@ void TrazarSerie(std::string_view destino, std::string_view formula, std::string
                       ValorGuardado(TrazaSerie, destino));
 }
 
+void TrazarColumna(std::string_view destino, std::string_view formula, std::string_view explicacion,
+                   const FilasTraza &filas, const double *valores) {
+    if (!Traza.activa) return;
+    Extremos e;
+    for (int i = filas.primera; i <= filas.ultima; ++i) AnadirFila(e, i, valores[i - filas.primera]);
+    TrazarDirecto(TrazaSerie, destino, formula, explicacion, filas, {}, Cerrar(e));
+}
+
 void TrazarEscalar(std::string_view destino, std::string_view formula, double valor,
                    std::string_view explicacion, const FilasTraza &filas, std::string_view operandos) {
     if (Traza.activa)
@@ -419,8 +427,10 @@ void TrazarReduccionDeColumna(std::string_view texto, int nivelLinea) {
     const FilasEvaluacion f = FilasDeEvaluacion();
     if (f.desde == f.hasta) return TrazarReduccion(texto, nivelLinea, ColumnaSuperior().valor[f.desde]);
     const ColumnaPila &columna = ColumnaSuperior();
+    // The rows that a lag reads outside of the work file or of the sample lose their value when the column is stored.
+    const int retardo = Evaluador.MarcaRetardo == 1 ? Evaluador.ValorRetardo : 0;
     Extremos e;
-    for (int i = f.desde; i <= f.hasta; ++i)
+    for (int i = std::max(f.desde, -retardo); i <= f.hasta - std::max(retardo, 0); ++i)
         if (columna.presente[i] != 0) AnadirFila(e, i, columna.valor[i]);
     AnadirReduccion(TrazaSerie, texto, nivelLinea, Cerrar(e));
 }

@@ -139,6 +139,9 @@ void TrazarMatriz(std::string_view destino, std::string_view formula, std::strin
                   const FilasTraza &filas = {}, std::string_view operandos = {});
 void TrazarSerie(std::string_view destino, std::string_view formula, std::string_view explicacion,
                  const FilasTraza &filas = {}, std::string_view operandos = {});
+// A value of each of the rows, from valores[0] on, that isn't stored.
+void TrazarColumna(std::string_view destino, std::string_view formula, std::string_view explicacion,
+                   const FilasTraza &filas, const double *valores);
 // A number, stored or not. Its name, when it isn't stored, is no word of the formulas that are told, such as "suma" and "de".
 void TrazarEscalar(std::string_view destino, std::string_view formula, double valor,
                    std::string_view explicacion, const FilasTraza &filas = {},

@@ -364,14 +364,27 @@ void RecalcularEscalar(Lector &l, const PasoTraza &p, const TextoDePaso &texto, 
     l.e.escalares[p.destino] = p.resultado.valores.at(0);
 }
 
+// "x(t)' _BETA con x(t) = {1 BENEF}": what x(t) stands for in this step alone.
+bool PonerRegresores(Lector &l, const PasoTraza &p, TextoDePaso &texto, Nombres &nombres) {
+    static const std::regex con(R"((.*) con x\(t\) = (\{.*\}))");
+    std::smatch partes;
+    if (!std::regex_match(texto.formula, partes, con)) return false;
+    l.e.matrices["regresores"] = DeLlaves(l, p, partes.str(2), nombres);
+    l.e.primeraFila["regresores"] = p.filas.primera;
+    l.e.llamadas["x"] = "regresores";
+    texto.formula = partes.str(1);
+    return true;
+}
+
 void RecalcularPaso(Lector &l, int lugar) {
     const PasoTraza &p = Traza.pasos[static_cast<std::size_t>(lugar)];
     EXPECT_EQ(p.fallo, "");
     EXPECT_NE(p.explicacion, "");
     if (p.clase == TrazaSentencia || p.clase == TrazaGrupo) return;
     Nombres nombres;
-    const TextoDePaso texto = LeerTexto(l, p);
+    TextoDePaso texto = LeerTexto(l, p);
     l.e.llamadas = {{"x", "_XIND"}, {"y", "_YDEP"}};
+    const bool conRegresores = PonerRegresores(l, p, texto, nombres);
     for (const OperandoTraza &o : p.operandos)
         if (o.nombre.starts_with("_RES")) l.e.llamadas["e"] = o.nombre;
     if (EsCuadradoDeTodo(l, p)) return;
@@ -380,6 +393,7 @@ void RecalcularPaso(Lector &l, int lugar) {
     case TrazaSerie: RecalcularSerie(l, p, texto, nombres); break;
     default: RecalcularEscalar(l, p, texto, nombres); break;
     }
+    if (conRegresores) nombres.erase("regresores");
     // The operands of a reduction are those of the formula that it is a part of.
     const bool reduccion = p.explicacion.starts_with("De izquierda") || p.explicacion.starts_with("Dentro");
     if (!reduccion) CompararOperandos(l, lugar, nombres);

@@ -2,9 +2,11 @@
 // the reports.
 #include "language/traza.h"
 
+#include "analysis/prediccion.h"
 #include "apoyo/datos_csv.h"
 #include "apoyo/lector_traza.h"
 #include "apoyo/plataforma_prueba.h"
+#include "hypothesis/normalidad.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
 
@@ -159,6 +161,49 @@ const CasoTraza Casos[] = {
 
 INSTANTIATE_TEST_SUITE_P(Klein, TrazaDeKlein, testing::ValuesIn(Casos),
                          [](const auto &caso) { return std::string(caso.param.nombre); });
+
+// ----- Prediction and normality, which are commands: each is a run of its own
+
+const std::vector<NumeroDeInforme> InformeDePrediccion = {
+    {"(EAM)...:", 0, "eam"},          {"(ECM).:", 0, "ecm"},        {"(COP):", 0, "correlacion"},
+    {"Theil.........:", 0, "theil"},  {"de sesgo...:", 0, "sesgo"}, {"varianza...:", 0, "varianza"},
+    {"aleatorio..:", 0, "aleatorio"},
+};
+
+TEST(TrazaDeComandos, PrediccionEnLosTresModos) {
+    for (const ModosEvaluacion modo : {EvaluarOriginales, EvaluarTasas, EvaluarIncrementos}) {
+        SCOPED_TRACE(modo);
+        for (const char *regresion : {MC_KLEIN, "MC CONSUMO BENEF 1 SALARIOS\n"}) {
+            EntornoTraza entorno = Trazar(regresion);
+            RecalcularTraza(entorno, PrimerAno);
+            PonerTraza(true);
+            ASSERT_EQ(AceptarPrediccion(nullptr, {"1925", "1938", "P", "M", "I", modo}), 1);
+            PonerTraza(false);
+            ASSERT_EQ(Traza.pasos.at(0).clase, TrazaGrupo);
+            RecalcularTraza(entorno, PrimerAno);
+            CompararInforme(InformeDePrediccion);
+            // The commands went on with the tables, and the reader with its own: what was stored is what it has.
+            EXPECT_EQ(ResultadoTrazado("P").size(), 10u);
+        }
+    }
+}
+
+TEST(TrazaDeComandos, Normalidad) {
+    for (const char *serie : {"BENEF", "_RES"}) {
+        SCOPED_TRACE(serie);
+        EntornoTraza entorno = Trazar(MC_KLEIN);
+        RecalcularTraza(entorno, PrimerAno);
+        Procesar("MUEST 1922 1940");
+        PonerTraza(true);
+        ASSERT_EQ(AceptarNormalidad(nullptr, serie), 1);
+        PonerTraza(false);
+        RecalcularTraza(entorno, PrimerAno);
+        CompararInforme({{"asimetria...:", 0, "asimetria"},
+                         {"curtosis....:", 0, "curtosis"},
+                         {"Estadístico................:", 0, "estadistico"},
+                         {"Prob > Chi-cuadrado...... .:", 0, "probabilidad"}});
+    }
+}
 
 // ----- The reader itself
 
