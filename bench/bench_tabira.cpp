@@ -8,6 +8,7 @@
 #include "hypothesis/dialogo_goldfeld.h"
 #include "language/asignaciones.h"
 #include "language/lote_sentencias.h"
+#include "language/traza.h"
 #include "shell/registro.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
@@ -19,6 +20,7 @@
 #include <cstdio>
 #include <ctime>
 #include <filesystem>
+#include <malloc.h>
 #include <map>
 #include <random>
 #include <spawn.h>
@@ -379,6 +381,58 @@ void LoteConRegistro(benchmark::State &estado) {
     VaciarRegistro();
 }
 
+// ----- The trace
+
+std::vector<double> CostesDeLaTraza;
+
+// An MC with the trace and without it, one behind the other.
+void RegresionTrazada(benchmark::State &estado) {
+    PrepararSeries(MaxObservaciones);
+    const auto correr = [](bool traza) {
+        PonerTraza(traza);
+        const std::clock_t empieza = std::clock();
+        for (int i = 0; i < 10; ++i) Ejecutar("MC Y 1 X1 X2 X3 X4 X5 X6 X7 X8 X9");
+        return static_cast<double>(std::clock() - empieza);
+    };
+    for (auto _ : estado) {
+        const double sola = correr(false);
+        CostesDeLaTraza.push_back(correr(true) / sola);
+    }
+    PonerTraza(false);
+}
+
+std::size_t MemoriaDeLaTraza = 0; // bytes, the largest record
+
+// Full records: of regressions with as many regressors as there can be, and of matrices that are kept whole, each with two
+// operands that are none of its steps.
+void RegistrosLlenos(benchmark::State &estado) {
+    constexpr const char *Bucles[] = {
+        "REPITE J DESDE 1 HASTA 500\nMC Y 1 X1 X2 X3 X4 X5 X6 X7 X8 X9 X10 X1(-1) X2(-1) X3(-1) X4(-1) "
+        "X5(-1) "
+        "X6(-1)\nFINREPITE\n",
+        "REPITE J DESDE 1 HASTA 12000\nMAT R = P + Q + P\nFINREPITE\n",
+    };
+    const auto ocupados = [] {
+        const auto m = mallinfo2();
+        return m.uordblks + m.hblkhd;
+    };
+    for (auto _ : estado)
+        for (const char *bucle : Bucles) {
+            PrepararSeries(ObservacionesBucle);
+            PonerMatriz("P", std::vector<double>(100, 1.0), 10, 10);
+            PonerMatriz("Q", std::vector<double>(100, 2.0), 10, 10);
+            Traza = {};
+            const std::size_t antes = ocupados();
+            PonerTraza(true);
+            Procesar(std::string("VSR NO\nMUEST 1 100\n") + bucle);
+            PonerTraza(false);
+            ExigirFin(bucle);
+            if (Traza.pasos.size() < MaxPasosTraza) std::exit(1);
+            MemoriaDeLaTraza = std::max(MemoriaDeLaTraza, ocupados() - antes);
+        }
+    Traza = {};
+}
+
 // ----- The batch runner as a process
 
 long MemoriaDelProceso = 0; // kB, the largest run
@@ -455,6 +509,8 @@ int main(int numArgumentos, char **argumentos) {
     registrar("Rangos", Rangos, benchmark::kMillisecond);
     registrar("Goldfeld", Goldfeld, benchmark::kMillisecond);
     registrar("LoteConRegistro", LoteConRegistro, benchmark::kMillisecond);
+    registrar("RegresionTrazada", RegresionTrazada, benchmark::kMillisecond);
+    registrar("RegistrosLlenos", RegistrosLlenos, benchmark::kMillisecond);
     registrar("GuardarLleno", GuardarLleno, benchmark::kMillisecond);
     registrar("AbrirLleno", AbrirLleno, benchmark::kMillisecond);
     registrar("Ordenar", Ordenar, benchmark::kMillisecond);
@@ -496,6 +552,10 @@ int main(int numArgumentos, char **argumentos) {
           t("Replicas") / t("RegresionesSueltas"), "times", "at most 1.5");
     Razon("A batch of 20,000 lines with the log / without it", Mediana(CostesDelRegistro), "times",
           "below 1.05");
+    Razon("MC, 4,000 observations, 10 regressors, with the trace / without it", Mediana(CostesDeLaTraza),
+          "times", "at most 1.5");
+    Razon("  the memory of 20,000 steps", static_cast<double>(MemoriaDeLaTraza) / 1048576.0, "MB",
+          "below 50");
     Razon("A full work file saved", t("GuardarLleno") / 1e6, "ms", "below 200");
     Razon("  opened", t("AbrirLleno") / 1e6, "ms", "below 100");
     Razon("4,000 rows of 99 series sorted", t("Ordenar") / 1e6, "ms", "below 100");

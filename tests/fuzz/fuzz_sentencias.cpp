@@ -3,6 +3,7 @@
 #include "charts/resultados/resultado.h"
 #include "estimation/regresion.h"
 #include "language/palabras.h"
+#include "language/traza.h"
 #include "platform/campos_texto.h"
 #include "store/archivo.h"
 #include "store/periodos.h"
@@ -130,6 +131,18 @@ bool PuedeNoAcabar(const std::string &texto) {
     return false;
 }
 
+// Steps point to earlier ones, have an explanation, and a result or a failure.
+void ComprobarRegistro() {
+    for (std::size_t i = 0; i < Traza.pasos.size(); ++i) {
+        const PasoTraza &p = Traza.pasos[i];
+        const int lugar = static_cast<int>(i);
+        if (p.explicacion.empty() || p.sentencia > lugar || p.nivel < 0) std::abort();
+        if (!p.fallo.empty() && !p.resultado.valores.empty()) std::abort();
+        for (const OperandoTraza &o : p.operandos)
+            if (o.paso >= lugar) std::abort();
+    }
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *datos, std::size_t n) {
@@ -139,10 +152,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *datos, std::size_t n) 
     if (PuedeNoAcabar(Pantalla)) return 0;
     EmpezarDeNuevo();
     PonerDatos();
+    PonerTraza(n % 2 == 1);
     ProcesarLote(nullptr, nullptr, 0, {}, Muestra.InicioMuestra, Muestra.FinMuestra);
     if (ArchivoTrabajo.NumSeries > MaxSeries || TablaEscalares.numero > MaxEscalares ||
         TablaMatrices.numero > MaxMatrices || Lote.detenido < 0 || Lote.detenido > 1)
         std::abort();
+    if (Trazando()) ComprobarRegistro();
     for (int m = 0; m < MaxMatrices; ++m)
         if (TablaMatrices.EstadoBloque[m] == BloqueFijado) std::abort();
     return 0;
