@@ -7,8 +7,12 @@
 
 #include <QFont>
 
+bool ModeloTraza::Cambiado() const {
+    return corrida != Traza.corrida || nodos.size() != Traza.pasos.size();
+}
+
 bool ModeloTraza::Refrescar() {
-    if (corrida == Traza.corrida && nodos.size() == Traza.pasos.size()) return false;
+    if (!Cambiado()) return false;
     beginResetModel();
     corrida = Traza.corrida;
     nodos.clear();

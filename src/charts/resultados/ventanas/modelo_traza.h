@@ -13,6 +13,8 @@ class ModeloTraza : public QAbstractItemModel {
 public:
     using QAbstractItemModel::QAbstractItemModel;
 
+    // True when the record has other steps than the tree, or more of them.
+    bool Cambiado() const;
     // Takes over what the record has now. False when it has it already.
     bool Refrescar();
     // The failures, in the colour that the theme asks for.

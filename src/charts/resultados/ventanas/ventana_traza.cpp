@@ -92,6 +92,8 @@ public:
         connect(copiar, &QPushButton::clicked, this, [this] { Copiar(); });
         connect(guardar, &QPushButton::clicked, this, [this] { Guardar(); });
         connect(volver, &QPushButton::clicked, this, [this] { Volver(); });
+        QWidget *const enOrden[] = {buscar, volver, copiar, guardar, arbol, detalle, anotar};
+        for (std::size_t i = 1; i < std::size(enOrden); ++i) setTabOrder(enOrden[i - 1], enOrden[i]);
         CrearTeclas();
         reloj.setSingleShot(true);
         connect(&reloj, &QTimer::timeout, this, [this] { Refrescar(); });
@@ -111,7 +113,7 @@ public:
 
     // To a step, which opens; -1: none is chosen. `aviso` stands in the last line until another one is chosen.
     void IrA(int paso, int elemento = -1, const QString &aviso = {}) {
-        modelo.Refrescar();
+        if (modelo.Refrescar() && corrida != Traza.corrida) visitados.clear();
         const QModelIndex indice = modelo.IndiceDe(paso);
         elementoMarcado = elemento;
         {
@@ -138,8 +140,7 @@ public:
     // What the record has by now. A new one is shown at its last statement.
     void Refrescar() {
         const int antes = PasoElegido();
-        if (!modelo.Refrescar()) return Mostrar(); // the last step may have its result now
-        if (corrida != Traza.corrida) visitados.clear();
+        if (!modelo.Cambiado()) return Mostrar(); // the last step may have its result now
         const bool laMisma = corrida == Traza.corrida && antes >= 0;
         IrA(laMisma ? antes : SentenciaEnTraza({}), laMisma ? elementoMarcado : -1);
     }
@@ -308,7 +309,7 @@ private:
     // ----- From step to step
 
     void Seguir(int paso) {
-        if (!modelo.IndiceDe(paso).isValid()) return;
+        if (corrida != Traza.corrida) return Refrescar(); // the page is of steps that have gone
         if (const int antes = PasoElegido(); antes >= 0) visitados.push_back(antes);
         const bool conTeclado = detalle->hasFocus();
         IrA(paso);
