@@ -123,7 +123,7 @@ struct Lectura {
     std::size_t i = 0;
 
     Valor Todo() {
-        const Valor v = Expresion();
+        Valor v = Expresion();
         // The evaluator of the language stops at a ")" that closes nothing.
         if (Sigue() != '\0' && !(lengua && Sigue() == ')')) throw NoSeEntiende("sobra: " + texto.substr(i));
         return v;
@@ -220,12 +220,12 @@ struct Lectura {
 
     Valor Primario() {
         if (Toma("(")) {
-            const Valor v = Expresion();
+            Valor v = Expresion();
             Exige(")");
             return v;
         }
         if (Toma("|")) {
-            const Valor v = Expresion();
+            Valor v = Expresion();
             Exige("|");
             return DeNumero(std::fabs(Numero(v)));
         }
