@@ -19,6 +19,9 @@
 #include <QMenuBar>
 #include <QTimer>
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 struct EstadoGuion {
@@ -115,6 +118,21 @@ Paso Pulsando(const char *titulo, const char *boton) {
 
 Paso ConEscape(const char *titulo) {
     return {titulo, [](QDialog &d) { QTest::keyClick(&d, Qt::Key_Escape); }};
+}
+
+double Contraste(const QColor &a, const QColor &b) {
+    const auto luz = [](const QColor &c) {
+        const auto parte = [](double v) {
+            return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * parte(c.redF()) + 0.7152 * parte(c.greenF()) + 0.0722 * parte(c.blueF());
+    };
+    const double x = luz(a), y = luz(b);
+    return (std::max(x, y) + 0.05) / (std::min(x, y) + 0.05);
+}
+
+QPalette Paleta(bool oscura) {
+    return oscura ? QPalette(QColor(53, 53, 53), QColor(42, 42, 42)) : QPalette(QColor(239, 239, 239));
 }
 
 void Activar(QDialog &d) {

@@ -8,6 +8,7 @@
 
 #include <QDialog>
 #include <QMessageBox>
+#include <QPalette>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -54,6 +55,12 @@ template <class Control> Control *Hijo(QWidget &w, const char *nombre) {
     if (hijo == nullptr) ADD_FAILURE() << "no control " << nombre << " in " << w.windowTitle().toStdString();
     return hijo;
 }
+
+// The ratio of two luminances, as the guidelines for accessible documents define it: from 1 to 21.
+double Contraste(const QColor &a, const QColor &b);
+
+// The colours of a light desktop, and of a dark one.
+QPalette Paleta(bool oscura);
 
 // Gives the window the keyboard, as a window manager does with a new one.
 void Activar(QDialog &d);

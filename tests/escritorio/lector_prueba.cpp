@@ -19,8 +19,6 @@
 #include <QTextBlock>
 #include <QTextBrowser>
 
-#include <cmath>
-
 namespace {
 
 class Lector : public Escritorio {
@@ -141,16 +139,6 @@ TEST_F(Lector, Buscar) {
 // ----- The tutorial
 
 namespace {
-
-// Contrast of two colours by WCAG 2.
-double Luminancia(const QColor &c) {
-    const auto canal = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
-    return 0.2126 * canal(c.redF()) + 0.7152 * canal(c.greenF()) + 0.0722 * canal(c.blueF());
-}
-double Contraste(const QColor &a, const QColor &b) {
-    const double x = Luminancia(a), y = Luminancia(b);
-    return (std::max(x, y) + 0.05) / (std::min(x, y) + 0.05);
-}
 
 QTextBlock BloqueQueEmpieza(const QTextBrowser &b, const char *texto) {
     for (QTextBlock bloque = b.document()->begin(); bloque.isValid(); bloque = bloque.next())

@@ -15,6 +15,8 @@
 #include <QTextBlock>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace {
 
 constexpr const char *Titulo = "Mínimos cuadrados ordinarios";
@@ -73,6 +75,34 @@ TEST_F(RegistroAbierto, SeAbreYSeCierra) {
     EXPECT_FALSE(Panel().isVisible());
     Abrir();
     EXPECT_EQ(Mostrado(), "CAL 2 + 3\n; [Resultado] 5.0000\nESC A = 1\nESC B = 1\n");
+}
+
+// A report is read whole where the window has room for it and as much for the statements.
+TEST_F(RegistroAbierto, TieneSitioParaUnInforme) {
+    const int informe = QFontMetrics(Texto().font()).horizontalAdvance(QString(72, u'-'));
+    constexpr int Orla = 50; // bars, margins, frames
+    ASSERT_TRUE(QTest::qWaitFor([&] { return ventana->isMaximized(); }));
+    Abrir();
+    QCoreApplication::processEvents();
+    const int mitad = ventana->width() / 2 - Orla;
+    EXPECT_GE(Texto().viewport()->width(), std::min(informe, mitad));
+    EXPECT_GE(ventana->PantallaEdicion->width(), mitad);
+}
+
+// What a box said is told from a statement, and read on any paper, also where that changes.
+TEST_F(RegistroAbierto, SeLeeEnClaroYOscuro) {
+    const QPalette antes = QApplication::palette();
+    Correr("CAL 2 + 3", {Caja("Resultado", "   5.0000 ")});
+    Abrir();
+    for (const bool oscura : {false, true, false}) {
+        QApplication::setPalette(Paleta(oscura));
+        EXPECT_EQ(Mostrado(), "CAL 2 + 3\n; [Resultado] 5.0000\n");
+        const QColor papel = Texto().palette().color(QPalette::Base);
+        const QTextCursor caja = Texto().document()->find(QStringLiteral("Resultado"));
+        EXPECT_GE(Contraste(caja.charFormat().foreground().color(), papel), 4.5) << oscura;
+        EXPECT_NE(caja.charFormat().foreground().color(), Texto().palette().color(QPalette::Text));
+    }
+    QApplication::setPalette(antes);
 }
 
 // A double click or Enter on any line of a report opens it as it was, and leaves no trace of its own.

@@ -8,6 +8,7 @@
 #include <QHash>
 #include <QMessageBox>
 #include <QScreen>
+#include <QStyle>
 
 namespace {
 
@@ -61,15 +62,17 @@ private:
         const QSize lado = ajustes.value(nombre + QStringLiteral("Lado")).toSize().expandedTo(pedido);
         const QScreen *pantalla = QGuiApplication::screenAt(ajustes.value(nombre).toPoint());
         if (pantalla == nullptr) pantalla = ventana.screen();
-        const QRect sitio = DentroDe(pantalla->availableGeometry(), {ajustes.value(nombre).toPoint(), lado});
-        ventana.resize(sitio.size());
-        ventana.move(sitio.topLeft());
+        // On some desktops its frame isn't known until it is seen: the place is that of what is within, and its bar,
+        // which must stay at hand, is taken to be as high as the toolkit's own.
+        QRect libre = pantalla->availableGeometry();
+        libre.setTop(libre.top() + ventana.style()->pixelMetric(QStyle::PM_TitleBarHeight));
+        ventana.setGeometry(DentroDe(libre, {ajustes.value(nombre).toPoint(), lado}));
     }
 
     // A size that nobody changed isn't the user's: the next text may ask for a smaller window.
     static void Guardar(const QWidget &ventana, const QString &nombre) {
         QSettings ajustes = Ajustes();
-        ajustes.setValue(nombre, ventana.pos());
+        ajustes.setValue(nombre, ventana.geometry().topLeft());
         if (ventana.size() != ventana.property("ladoPedido").toSize())
             ajustes.setValue(nombre + QStringLiteral("Lado"), ventana.size());
     }

@@ -8,6 +8,7 @@
 #include "platform/qt/ventana_qt.h"
 #include "platform/texto.h"
 #include "shell/registro.h"
+#include "shell/ventanas/colores_sentencias.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -26,9 +27,12 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int MaxLineasALaVista = 20'000; // the oldest go; a copy and a file have all that the log keeps
+constexpr int ColumnasALaVista = 76;      // a report's lines and a gap
 
 class PanelRegistro;
 PanelRegistro *EnPantalla = nullptr; // the program has one main window
@@ -71,8 +75,10 @@ public:
         connect(buscar, &QLineEdit::returnPressed, this, [this] { Buscar(); });
         connect(copiar, &QPushButton::clicked, this, [this] { Copiar(); });
         connect(guardar, &QPushButton::clicked, this, [this] { Guardar(); });
-        connect(this, &QDockWidget::visibilityChanged, this, [this](bool visible) {
-            if (visible) Refrescar();
+        connect(this, &QDockWidget::visibilityChanged, this, [this, &principal](bool visible) {
+            if (!visible) return;
+            if (ultima == 0) TomarSitio(principal);
+            Refrescar();
         });
         reloj.setSingleShot(true);
         connect(&reloj, &QTimer::timeout, this, [this] {
@@ -105,7 +111,22 @@ protected:
         return QDockWidget::eventFilter(objeto, suceso);
     }
 
+    void changeEvent(QEvent *suceso) override {
+        QDockWidget::changeEvent(suceso);
+        if (suceso->type() != QEvent::PaletteChange || ultima == 0) return;
+        texto->clear(); // its inks are those of before
+        ultima = 0;
+        if (isVisible()) Refrescar();
+    }
+
 private:
+    // Room for a report, where the statements keep as much.
+    void TomarSitio(QMainWindow &principal) {
+        const int ancho = QFontMetrics(texto->font()).horizontalAdvance(u'0') * ColumnasALaVista +
+                          texto->verticalScrollBar()->sizeHint().width();
+        principal.resizeDocks({this}, {std::min(ancho, principal.width() / 2)}, Qt::Horizontal);
+    }
+
     // Adds the entries that aren't shown yet; each of their lines knows its entry.
     void Refrescar() {
         const bool alFinal = texto->verticalScrollBar()->value() == texto->verticalScrollBar()->maximum();
@@ -117,7 +138,7 @@ private:
             ultima = e.numero;
             QTextCharFormat formato;
             if (e.clase == EntradaCaja || e.clase == EntradaNota)
-                formato.setForeground(palette().brush(QPalette::PlaceholderText));
+                formato.setForeground(TintaDeTrozo(TrozoComentario, EsOscura(palette())));
             // The last line is always the empty one behind the last end.
             const QString lineas = QDe1252(e.texto);
             QTextBlock bloque = c.block();
