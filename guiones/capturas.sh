@@ -1,19 +1,26 @@
 #!/usr/bin/env bash
 # Takes the pictures of docs/capturas/: the program as a user sees it, in a display of its own, at 100 % and 200 %, driven by
-# its keyboard alone but for what a chart does with the mouse. It takes the programs of ./ejecutar.sh. Each subject is a file
-# guiones/capturas_SUBJECT.sh; with all of them it also writes the table of docs/capturas/README.md.
+# its keyboard alone but for what only the mouse does. It takes the programs of ./ejecutar.sh. Each subject is a file
+# guiones/capturas_SUBJECT.sh; some are taken in a dark theme, too. With all of them it also writes the table of
+# docs/capturas/README.md.
 #   [ESCALAS=1] guiones/capturas.sh [PROGRAM [SUBJECT...]]      default: build/entrega/src/shell/tabira, all subjects
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source guiones/preparar.sh
 source guiones/pantalla.sh
-TEMAS=(trabajo datos estimacion contrastes traza analisis graficos ayuda)
+TEMAS=(trabajo comodidades datos estimacion contrastes traza analisis graficos ayuda)
+OSCUROS=' comodidades traza ' # those with a dark theme
 temas=("${@:2}")
 [ ${#temas[@]} -gt 0 ] || temas=("${TEMAS[@]}")
 for tema in "${temas[@]}"; do source "guiones/capturas_$tema.sh"; done
 destino=$PWD/docs/capturas
 mkdir -p "$destino"
 preparar_pantalla "${1:-}"
+instalar qt6ct
+mkdir -p "$temporal/.config/qt6ct"
+printf '[Appearance]\ncolor_scheme_path=/usr/share/qt6ct/colors/darker.conf\ncustom_palette=true\nstyle=Fusion\n
+[Fonts]\nfixed="monospace,9"\ngeneral="Sans Serif,9"\n' \
+    >"$temporal/.config/qt6ct/qt6ct.conf"
 sin_ventanas=$(dirname "$programa")/../lote/tabira-lote
 [ -x "$sin_ventanas" ] || rendirse "falta $sin_ventanas: ejecute antes ./ejecutar.sh"
 
@@ -30,10 +37,10 @@ mkdir "$trabajos" "$temporal/tomas"
 # Starts the program anew, until its window stands.
 abrir_programa() {
     terminar
-    QT_SCALE_FACTOR=$escala "$programa" 2>/dev/null &
+    QT_SCALE_FACTOR=$escala QT_QPA_PLATFORMTHEME=${luz:+qt6ct} "$programa" 2>/dev/null &
     proceso=$!
-    sleep 1.5
     activar
+    reposo
 }
 # The same; with a name, with that work.
 empezar() { # [NAME]
@@ -47,11 +54,9 @@ volver() {
     for ((i = 0; i < 10; ++i)); do
         [[ $(xdotool getactivewindow getwindowname 2>/dev/null) != Tabira* ]] || return 0
         teclas Escape
-        sleep 0.4
     done
     rendirse 'no se vuelve a la ventana principal'
 }
-proceso=
 terminar() {
     [ -n "$proceso" ] || return 0
     kill "$proceso"
@@ -63,13 +68,11 @@ procesar() { # LINE...: the statements, alone in the edit screen
     teclas ctrl+a Delete
     escribir "$@"
     teclas ctrl+a alt+p p
-    sleep 0.4
 }
 estimar() { # EQUATION: by the dialog, which the restricted model and the listings ask for
     abrir 'Mínimos cuadrados ordinarios' alt+t m
     escribir "$1"
     teclas Return
-    sleep 0.4
     volver
 }
 pulsar() { # X Y: the left button of the mouse, at the place of 100 %
@@ -77,14 +80,23 @@ pulsar() { # X Y: the left button of the mouse, at the place of 100 %
     xdotool mousemove 0 0
 }
 seccion() { # TITLE: heads the pictures that follow in the table
-    [ "$escala" = 2 ] || printf '\n## %s\n\n| | 100 %% | 200 %% |\n|---|---|---|\n' "$1" >>"$temporal/tabla"
+    [ -z "$sufijo" ] || return 0
+    local columnas='| 100 % | 200 % |' raya='|---|---|---|'
+    [ ${#luces[@]} -eq 1 ] || columnas+=' Oscuro | Oscuro, 200 % |' raya+='---|---|'
+    printf '\n## %s\n\n| %s\n%s\n' "$1" "$columnas" "$raya" >>"$temporal/tabla"
 }
 # What stands on the screen; with a title, once the window with the keyboard bears it.
 captura() { # NAME CAPTION [TITLE]
     [ $# -lt 3 ] || esperar "$3"
-    sleep 0.4
+    sleep 0.2
+    reposo
     import -window root -quality 10 "$temporal/tomas/$1$sufijo.png"
-    [ "$escala" = 2 ] || echo "| $2 | ![$2]($1.png) | ![$2, al 200 %]($1_200.png) |" >>"$temporal/tabla"
+    [ -z "$sufijo" ] || return 0
+    local fila="| $2 |" luz
+    for luz in "${luces[@]}"; do
+        fila+=" ![$2${luz:+, oscuro}]($1$luz.png) | ![$2${luz:+, oscuro}, al 200 %]($1${luz}_200.png) |"
+    done
+    echo "$fila" >>"$temporal/tabla"
 }
 # A palette is plenty for windows, and a third of the size.
 guardar_capturas() {
@@ -97,17 +109,21 @@ guardar_capturas() {
 }
 
 for escala in ${ESCALAS:-1 2}; do
-    sufijo=$([ "$escala" = 1 ] || echo _200)
     abrir_pantalla $((1024 * escala)) $((768 * escala))
     for tema in "${temas[@]}"; do
-        decir "Capturas al $((escala * 100)) %: $tema"
-        "capturas_$tema"
-        terminar
-        guardar_capturas
+        luces=('')
+        [[ $OSCUROS != *" $tema "* ]] || luces+=(_oscuro)
+        for luz in "${luces[@]}"; do
+            sufijo=$luz$([ "$escala" = 1 ] || echo _200)
+            decir "Capturas al $((escala * 100)) %: $tema${luz:+, oscuro}"
+            "capturas_$tema"
+            terminar
+            guardar_capturas
+        done
     done
     cerrar_pantalla
 done
 [ "${temas[*]} en ${ESCALAS:-todas}" != "${TEMAS[*]} en todas" ] || {
-    printf '# Las ventanas de Tabira\n\nHechas por `guiones/capturas.sh`, al 100 %% y al 200 %%.\n'
+    printf '# Las ventanas de Tabira\n\nHechas por `guiones/capturas.sh`, al 100 %% y al 200 %%; algunas, también con un tema oscuro.\n'
     cat "$temporal/tabla"
 } >"$destino/README.md"

@@ -11,7 +11,4 @@ capturas_ayuda() {
     teclas alt+y o; captura ayuda_metodos 'Ayuda: métodos y contrastes' 'Métodos y contrastes'; abrir Tabira Escape
     teclas alt+y n; captura ayuda_control 'Ayuda: control de flujo' 'Control de flujo y otros'; abrir Tabira Escape
     teclas alt+y a; captura acerca_de 'Acerca de' 'Acerca de..'; abrir Tabira Escape
-    abrir Ayuda F1
-    teclas alt+t; captura tutorial 'El tutorial'; abrir Tabira Escape
-    teclas Menu e; captura ejemplos 'Los ejemplos'; teclas Escape Escape Escape
 }

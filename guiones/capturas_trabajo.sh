@@ -1,4 +1,4 @@
-# Data types, statements, the sample, the lists, the files, the recovered copy.
+# Data types, statements, the sample, the lists, the files.
 
 capturas_trabajo() {
     seccion 'El trabajo'
@@ -8,7 +8,6 @@ capturas_trabajo() {
     sentencias
     listas
     ficheros
-    recuperacion
 }
 tipos_de_datos() { # every kind and its dialogs
     teclas alt+d t; captura tipos_datos 'El tipo de datos' 'Tipos de datos'
@@ -77,13 +76,4 @@ ficheros() {
     teclas alt+u g; captura guardar_sentencias 'Guardar las sentencias' '*.TXT'; teclas Escape
     teclas alt+u a; captura abrir_sentencias 'Abrir sentencias' '*.TXT'; teclas Escape
     teclas alt+F4; captura cierre 'Al cerrar' 'Aviso'; teclas Escape
-}
-# The program ends as with the machine: the copy that Procesar left is offered at the next start.
-recuperacion() {
-    procesar 'SER Z = 1'
-    procesar 'SER W = 2'
-    kill -9 "$proceso"; wait "$proceso" 2>/dev/null || true
-    proceso=
-    abrir_programa
-    captura recuperar 'Trabajo sin guardar' Aviso; teclas Escape
 }

@@ -12,15 +12,33 @@ preparar_pantalla() { # PROGRAM
 # The first display that is free: another of these scripts may be at work.
 abrir_pantalla() { # WIDTH HEIGHT
     mkfifo "$temporal/numero"
-    Xvfb -displayfd 9 -screen 0 "$1x$2x24" -dpi 96 9>"$temporal/numero" >/dev/null 2>&1 &
+    # Without repeating a key: on a busy machine its release may be late.
+    Xvfb -displayfd 9 -screen 0 "$1x$2x24" -dpi 96 -r 9>"$temporal/numero" >/dev/null 2>&1 &
     servidor=$!
     DISPLAY=:$(timeout 30 head -n 1 "$temporal/numero")
     export DISPLAY
     rm "$temporal/numero"
     openbox >/dev/null 2>&1 &
-    sleep 1.5 # a window that is mapped before the window manager stands may stay hidden
+    gestor=$!
+    # A window that is mapped before the window manager stands may stay hidden.
+    timeout 30 bash -c 'until xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q "#"; do sleep 0.1; done'
+    reposo
 }
 cerrar_pantalla() { kill "$servidor"; wait 2>/dev/null || true; }
+# Waits until nobody has anything more to do: the program, its display and the window manager sleep, look after look.
+proceso=
+reposo() {
+    local i p estado dormidos=0
+    for ((i = 0; i < 1000 && dormidos < 4; ++i)); do
+        sleep 0.04
+        dormidos=$((dormidos + 1))
+        for p in "$servidor" "$gestor" $proceso; do
+            estado=S
+            read -r _ _ estado _ 2>/dev/null <"/proc/$p/stat" || true
+            [ "$estado" = S ] || dormidos=0
+        done
+    done
+}
 # Gives the program's window the keyboard.
 activar() {
     ventana=$(timeout 30 xdotool search --sync --onlyvisible --class tabira | head -n 1)
@@ -41,13 +59,19 @@ abrir() { # TITLE KEY...: the keys that open a window, until it has the keyboard
     teclas "${@:2}"
     esperar "$1"
 }
-teclas() { for t in "$@"; do xdotool key --clearmodifiers "$t"; sleep 0.2; done; }
+teclas() { for t in "$@"; do xdotool key --clearmodifiers "$t"; reposo; done; }
 escribir() { # LINE...: each but the last is closed by Enter
     local primera=si linea
     for linea in "$@"; do
         [ "$primera" = si ] || xdotool key Return
         primera=no
+        # xdotool puts a letter with an accent on a spare key for a moment, of which a busy program would hear too late.
+        while [[ $linea =~ ^([^áéíóúñ]*)([áéíóúñ])(.*)$ ]]; do
+            linea=${BASH_REMATCH[3]}
+            xdotool type --delay 8 -- "${BASH_REMATCH[1]}"
+            xdotool type --delay 300 -- "${BASH_REMATCH[2]}"
+        done
         xdotool type --delay 8 -- "$linea"
     done
-    sleep 0.3
+    reposo
 }
