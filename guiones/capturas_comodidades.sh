@@ -76,12 +76,13 @@ lector() { # F1 on a word, with search and with the tutorial; the examples
     abrir Tabira Escape
     teclas Menu e; captura ejemplos 'Los ejemplos'; teclas Escape Escape Escape
 }
-archivos() { # the folders of the files of late
+archivos() { # the files of late
     mkdir -p "$temporal/Curso"
     cp "$trabajos/KLEIN.TR2" "$temporal/Curso/PRACTICA.TR2"
     abrir 'Abrir archivo de trabajo' alt+a a
     escribir "$temporal/Curso/PRACTICA.TR2"; abrir 'Tabira: PRACTICA' Return
-    abrir 'Abrir archivo de trabajo' alt+a a; captura recientes 'Las carpetas recientes'
+    abrir 'Abrir archivo de trabajo' alt+a a
+    teclas alt+r alt+Down; captura recientes 'Los archivos recientes'; teclas Escape
     volver
 }
 # The program ends as with the machine: the copy that Procesar left is offered at the next start.

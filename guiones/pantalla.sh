@@ -7,13 +7,13 @@ preparar_pantalla() { # PROGRAM
     [ -x "$programa" ] || rendirse "falta $programa: ejecute antes ./ejecutar.sh"
     temporal=$(mktemp -d)
     export HOME=$temporal XDG_RUNTIME_DIR=$temporal LC_ALL=C.UTF-8 QT_QPA_PLATFORM=xcb
-    trap 'kill $(jobs -p) 2>/dev/null; rm -rf "$temporal"' EXIT
+    trap 'kill $(jobs -p) 2>/dev/null || true; rm -rf "$temporal"' EXIT
 }
 # The first display that is free: another of these scripts may be at work.
 abrir_pantalla() { # WIDTH HEIGHT
     mkfifo "$temporal/numero"
-    # Without repeating a key: on a busy machine its release may be late.
-    Xvfb -displayfd 9 -screen 0 "$1x$2x24" -dpi 96 -r 9>"$temporal/numero" >/dev/null 2>&1 &
+    # Without repeating a key, whose release may be late on a busy machine, nor beginning anew when the first client goes.
+    Xvfb -displayfd 9 -screen 0 "$1x$2x24" -dpi 96 -r -noreset 9>"$temporal/numero" >/dev/null 2>&1 &
     servidor=$!
     DISPLAY=:$(timeout 30 head -n 1 "$temporal/numero")
     export DISPLAY
