@@ -72,13 +72,13 @@ FuentesDeSalida Fuentes(const std::vector<SerieElegida> &series,
     for (const SerieElegida &s : series) {
         FuentesDeLinea &f = fuentes.emplace_back(FuentesDeLinea{linea++, {}});
         for (const char *medida : {"media", "desviacion", "minimo", "maximo"})
-            f.numeros.push_back({Formatear("%s(%s)", medida, s.codigo.c_str())});
+            f.numeros.push_back({Formatear("%s.%s", medida, s.codigo.c_str())});
     }
     ++linea;
     for (const Correlacion &c : correlaciones)
         fuentes.push_back(
             {linea++,
-             {{Formatear("r(%s,%s)", series[c.primera].codigo.c_str(), series[c.segunda].codigo.c_str())}}});
+             {{Formatear("r.%s.%s", series[c.primera].codigo.c_str(), series[c.segunda].codigo.c_str())}}});
     return fuentes;
 }
 
@@ -139,14 +139,17 @@ namespace {
 // The steps of MedirSerie; x(t) are the values that aren't missing.
 void TrazarMedidas(const SerieElegida &s, const FilasTraza &filas) {
     const char *x = s.codigo.c_str();
+    int n = 0; // observations that aren't missing
+    for (int i = filas.primera; i <= filas.ultima; ++i)
+        n += ArchivoTrabajo.PresenciaObs[i][s.serie] == 1 ? 1 : 0;
     const auto medida = [&](const char *nombre, const std::string &formula, double valor,
                             const char *explicacion) {
-        TrazarEscalar(Formatear("%s(%s)", nombre, x), ConPeriodos(formula, filas), valor, explicacion, filas);
+        TrazarEscalar(Formatear("%s.%s", nombre, x), ConPeriodos(formula, filas), valor, explicacion, filas);
     };
-    medida("media", Formatear("suma de %s(t) / observaciones", x), s.medidas.media,
+    medida("media", Formatear("suma de %s(t) / %d", x, n), s.medidas.media,
            "Media de las observaciones que hay");
-    medida("desviacion", Formatear("RCUAD(suma de (%s(t) - media(%s))^2 / observaciones)", x, x),
-           s.medidas.desviacion, "Desviación típica, con el número de observaciones"_w);
+    medida("desviacion", Formatear("RCUAD(suma de (%s(t) - media.%s)^2 / %d)", x, x, n), s.medidas.desviacion,
+           "Desviación típica, con el número de observaciones"_w);
     medida("minimo", Formatear("el menor %s(t)", x), s.medidas.minimo, "Mínimo"_w);
     medida("maximo", Formatear("el mayor %s(t)", x), s.medidas.maximo, "Máximo"_w);
 }
@@ -157,12 +160,13 @@ void TrazarDescriptivos(const std::vector<SerieElegida> &series,
     for (const SerieElegida &s : series) TrazarMedidas(s, filas);
     for (const Correlacion &c : correlaciones) {
         const char *x = series[c.primera].codigo.c_str(), *z = series[c.segunda].codigo.c_str();
-        TrazarEscalar(Formatear("r(%s,%s)", x, z),
-                      ConPeriodos(Formatear("suma de (%s(t) - media) (%s(t) - media) / "
-                                            "RCUAD(suma de (%s(t) - media)^2 * suma de (%s(t) - media)^2)",
-                                            x, z, x, z),
-                                  filas),
-                      c.r, "Coeficiente de correlación"_w, filas);
+        TrazarEscalar(
+            Formatear("r.%s.%s", x, z),
+            ConPeriodos(Formatear("suma de (%s(t) - media.%s) (%s(t) - media.%s) / "
+                                  "RCUAD(suma de (%s(t) - media.%s)^2 * suma de (%s(t) - media.%s)^2)",
+                                  x, x, z, z, x, x, z, z),
+                        filas),
+            c.r, "Coeficiente de correlación"_w, filas);
     }
 }
 

@@ -68,7 +68,7 @@ int EjecutarConMedidas(const Estimacion &e, std::span<const PasoCadena> pasos) {
         DatoNumero("menosUna", e.observaciones - 1.0),
         DatoNumero("mitad", e.observaciones / 2.0),
         DatoNumero("constante", (std::log(6.283185307179586) + 1.0) * e.observaciones / 2.0),
-        DatoNumero("suma", e.suma),
+        DatoNumero("total", e.suma),
         DatoNumero("media", e.media),
         DatoNumero("variacion", e.variacion),
     };

@@ -37,12 +37,13 @@ void Informar(Estimacion &e) {
 // What the trace calls it.
 const char *NombreDeRegresion(int codigo) {
     switch (codigo) {
-    case OrdenMCP: return "Regresión por mínimos cuadrados ponderados"_w;
+    case OrdenMCP:
+        return "Regresión por mínimos cuadrados ponderados: la dependiente, los regresores y los residuos llevan la ponderación"_w;
     case OrdenCR: return "Regresión del modelo restringido"_w;
-    case OrdenMGN: return "Regresión del numerador: la parte de mayor varianza"_w;
-    case OrdenMGD: return "Regresión del denominador: la parte de menor varianza"_w;
+    case OrdenMGN: return "Regresión del numerador del contraste"_w;
+    case OrdenMGD: return "Regresión del denominador del contraste"_w;
     case OrdenCWH:
-        return "Regresión auxiliar: cuadrados de los residuos sobre regresores, cuadrados y productos"_w;
+        return "Regresión auxiliar de White: cuadrados de los residuos sobre los regresores y sus términos de segundo grado"_w;
     default: return "Regresión por mínimos cuadrados ordinarios"_w;
     }
 }

@@ -49,10 +49,10 @@ inline constexpr PasoCadena PasosCovarianza[] = {
 
 inline constexpr PasoCadena PasosMedidas[] = {
     {PasoMatriz, PrimeraFila, "%(DTE)s", "RCMT(VECT(%(COV)s))",
-     "Desviaciones típicas de los coeficientes: raíces de las varianzas, la diagonal de la matriz de covarianzas"_w,
+     "Desviaciones típicas de los coeficientes: raíces de las varianzas, la diagonal de la matriz de covarianzas; 0 si una es negativa"_w,
      658},
     {PasoEscalar, PrimeraFila, "%(MVD)s", "%(media)10.6f", "Media de la variable dependiente", 659, 6661},
-    {PasoEscalar, PrimeraFila, "%(STVD)s", "%(suma)10.6f", "Suma de la variable dependiente", 6662, 6636},
+    {PasoEscalar, PrimeraFila, "%(STVD)s", "%(total)10.6f", "Suma de la variable dependiente", 6662, 6636},
     {PasoEscalar, PrimeraFila, "%(LV)s", "(%(constante)f + (%(mitad)f * LN(%(SCR)s/%(n)d)))* -1.00",
      "Logaritmo de la función de verosimilitud"_w, 6664, 6665},
     {PasoEscalar, PrimeraFila, "%(AIC)s", "(-2 * (%(LV)s - %(k)d))/%(n)d",
@@ -84,7 +84,7 @@ inline constexpr PasoCadena PasosFinales[] = {
     {PasoEscalar, PrimeraFila, "%(RCC)s", "%(corregido)s",
      "Coeficiente de determinación corregido por los grados de libertad"_w, 81, 82},
     {PasoEscalar, PrimeraFila, "%(ESTF)s", "PROBF(%(FORLA)s,%(ANREG)s,%(NORE)s)",
-     "Probabilidad del estadístico F"_w, 831, 880, GuardarCausa},
+     "Probabilidad del estadístico F que da el coeficiente de determinación"_w, 831, 880, GuardarCausa},
     {PasoEscalar, PrimeraFila, "%(EA1)s", "1.00-(%(DW)s/2.00)",
      "Coeficiente de autocorrelación de primer orden, desde el de Durbin y Watson"_w, 85, 861,
      GuardarSinPunto},
@@ -113,7 +113,8 @@ inline constexpr PasoCadena PasosRestringido[] = {
 // The F of a consistent covariance matrix is the Wald statistic that its steps left.
 inline constexpr PasoCadena PasosWald[] = {
     {PasoEscalar, PrimeraFila, "%(FORLA)s", "ESCAL(_S3)",
-     "Estadístico F: el de Wald de la significación conjunta"_w, 832, 832},
+     "Estadístico F del informe: el de Wald de la significación conjunta, en lugar del que da R2"_w, 832,
+     832},
 };
 
 inline constexpr PasoCadena PasosWhite[] = {

@@ -23,13 +23,12 @@ constexpr int OrdenWallis = 4; // quarters of a year
 constexpr PasoCadena PasosDurbin[] = {
     {PasoEscalar, PrimeraFila, "_TMDU", "%(rho)f * %(raiz)f)",
      "Estadístico h de Durbin: autocorrelación por la raíz de n entre 1 - n por la varianza del coeficiente del retardo"_w},
-    {PasoEscalar, PrimeraFila, "_TMDN", "PROBN(%(producto)f)",
-     "Probabilidad del estadístico h de Durbin, normal"_w},
+    {PasoEscalar, PrimeraFila, "_TMDN", "PROBN(%(h)f)", "Probabilidad del estadístico h de Durbin, normal"_w},
 };
 
 constexpr PasoCadena PasosWallis[] = {
-    {PasoEscalar, PrimeraFila, "_DWWA", "%(d)f",
-     "Estadístico de Wallis: diferencias de los residuos a cuatro períodos entre residuos, al cuadrado"_w}};
+    {PasoEscalar, PrimeraFila, "_DWWA", "%(wallis)f",
+     "Estadístico de Wallis; sus dos sumas empiezan en el quinto residuo, cuando la de abajo es en los manuales la de todos"_w}};
 
 Cadena CadenaDeContraste(LineasSentencia &lineas, Ventana *ventana, const MensajesCadena &mensajes) {
     return {&lineas, ventana, Muestra.InicioRegresion, Muestra.FinRegresion, &mensajes};
@@ -70,7 +69,7 @@ int CalcularDurbin(LineasSentencia &lineas, Ventana *ventana) {
     if (s < 0.0) MensajeAviso(ventana, "El resultado es un número imaginario"_w);
     const double raiz = s < 0.0 ? 0.0 : std::sqrt(s);
     const DatoCadena datos[] = {DatoNumero("rho", rho), DatoNumero("raiz", raiz),
-                                DatoNumero("producto", std::fabs(rho) * raiz)};
+                                DatoNumero("h", std::fabs(rho) * raiz)};
     if (Trazando()) {
         TrazarEscalar("rho", Formatear("1 - (%s/2)", NombreFamilia(FamDW, OrdenMC)), rho,
                       "Coeficiente de autocorrelación de primer orden"_w);
@@ -123,7 +122,7 @@ int ContrasteWallis(LineasSentencia &lineas, Ventana *ventana) {
             "Estadístico de Wallis: diferencias a cuatro períodos entre residuos, desde el quinto residuo"_w,
             filas, NombreFamilia(FamRES, OrdenMC));
     }
-    const DatoCadena datos[] = {DatoNumero("d", d)};
+    const DatoCadena datos[] = {DatoNumero("wallis", d)};
     Cadena c = CadenaDeContraste(lineas, ventana, MensajesAvisoCalculos);
     c.datos = datos;
     const int bien = EjecutarCadena(c, PasosWallis);

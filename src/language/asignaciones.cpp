@@ -107,6 +107,9 @@ int Calcular(LineasSentencia &lineas, int &posicion, Ventana *ventana, int prime
 int AsignarObservacion(LineasSentencia &lineas, int &posicion, const std::string &periodo, Ventana *ventana,
                        int primera, int ultima) {
     if (EvaluarPrimeraFila(lineas, posicion, primera, ultima) != 1) return 0;
+    if (Trazando())
+        TrazarEscalar({}, std::string(Recortado(Evaluador.CodigoSerieDestino)) + "[" + periodo + "]",
+                      ValorSuperior(), "Valor que toma la observación"_w);
     return GuardarObservacion(periodo, ventana);
 }
 

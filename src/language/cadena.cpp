@@ -39,7 +39,7 @@ bool Evaluar(const Cadena &c, const std::string &texto) {
 
 FinesDeFormula MatrizDeFormula(const Cadena &c, std::string_view destino, const std::string &texto,
                                std::string_view explicacion) {
-    const int trazado = AbrirPaso(TrazaMatriz, destino, texto, explicacion, {c.primera, c.ultima});
+    const int trazado = AbrirPaso(TrazaMatriz, destino, texto, explicacion, {c.primera, c.ultima}, c.modelo);
     int nivel = 0, bien = 0;
     if (SubirNivel(c, texto, nivel)) {
         PonerCampo(Evaluador.CodigoMatrizDestino, destino, AnchoCodigo);
@@ -53,7 +53,7 @@ FinesDeFormula MatrizDeFormula(const Cadena &c, std::string_view destino, const 
 
 FinesDeFormula EscalarDeFormula(const Cadena &c, std::string_view destino, const std::string &texto,
                                 std::string_view explicacion, int &causa) {
-    const int trazado = AbrirPaso(TrazaEscalar, destino, texto, explicacion, {c.primera, c.ultima});
+    const int trazado = AbrirPaso(TrazaEscalar, destino, texto, explicacion, {c.primera, c.ultima}, c.modelo);
     PonerCampo(Evaluador.CodigoEscalarDestino, destino, AnchoCodigo);
     causa = 0;
     FinesDeFormula fin = FormulaErronea;
@@ -67,7 +67,7 @@ FinesDeFormula EscalarDeFormula(const Cadena &c, std::string_view destino, const
 
 FinesDeFormula SerieDeFormula(const Cadena &c, std::string_view destino, const std::string &texto,
                               std::string_view explicacion) {
-    const int trazado = AbrirPaso(TrazaSerie, destino, texto, explicacion, {c.primera, c.ultima});
+    const int trazado = AbrirPaso(TrazaSerie, destino, texto, explicacion, {c.primera, c.ultima}, c.modelo);
     PonerCampo(Evaluador.CodigoSerieDestino, destino, AnchoCodigo);
     FinesDeFormula fin = FormulaErronea;
     if (Evaluar(c, texto)) fin = GuardarSerie() == 1 ? FormulaGuardada : FormulaSinGuardar;
@@ -136,7 +136,7 @@ int FallarAlGuardar(const Cadena &c, const PasoCadena &p, int causa) {
 
 int SerieDeMatriz(const Cadena &c, const std::string &destino, const std::string &llaves,
                   std::string_view explicacion) {
-    const int trazado = AbrirPaso(TrazaSerie, destino, llaves, explicacion, {c.primera, c.ultima});
+    const int trazado = AbrirPaso(TrazaSerie, destino, llaves, explicacion, {c.primera, c.ultima}, c.modelo);
     const int bien = SerieDesdeMatriz(destino, llaves, 1, c.ventana);
     CerrarPaso(trazado, bien == 1);
     return bien;
@@ -146,6 +146,7 @@ int EjecutarPaso(Cadena c, const PasoCadena &p) {
     if (p.filas == PrimeraFila) c.ultima = c.primera;
     const std::string destino = TextoDePaso(c, p.destino);
     const std::string formula = TextoDePaso(c, p.formula);
+    c.modelo = p.formula;
     int causa = 0;
     FinesDeFormula fin = FormulaErronea;
     switch (p.clase) {

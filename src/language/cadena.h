@@ -108,6 +108,8 @@ struct Cadena {
     const MensajesCadena *mensajes = &MensajesSecuencia;
     int codigo = 0; // CodigoOrden whose result families the placeholders name
     std::span<const DatoCadena> datos = {};
+    std::string_view modelo =
+        {}; // of the formula at hand, for the trace: a number in it is known by its placeholder
 };
 
 // Runs the steps in order. 1, or 0 after the boxes of the step that failed.

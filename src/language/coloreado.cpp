@@ -28,6 +28,7 @@ constexpr OpcionesDePalabra Opciones[] = {
     {"VSR", {"SI", "NO"}},
     {"MC", {"CN", "CH", "CA"}},
     {"CGQ", {"RA"}},
+    {"CHN", {"IR", "MR", "FR", "BETA"}},
     {"CWH", {"RA", "PC"}},
     {"GRAF", {"INTERX", "INTERY", "MINX", "MAXX", "MINY", "MAXY"}},
 };

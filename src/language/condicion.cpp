@@ -2,6 +2,7 @@
 // runs; the two numbers are compared.
 #include "language/llamada_bloque.h"
 #include "language/lote_sentencias.h"
+#include "language/traza.h"
 #include "platform/campos_texto.h"
 #include "store/archivo.h"
 
@@ -128,10 +129,10 @@ int RecalcularComparacion(EntornoBloque &e, const LlamadaBloque &b) {
     return CorrerSentencia(e, b.izquierda) == 1 && CorrerSentencia(e, b.derecha) == 1 ? 1 : 0;
 }
 
-bool CondicionCierta(const LlamadaBloque &b) {
-    const double izquierda = ValorTemporal("_TMP01");
-    const double derecha = ValorTemporal("_TMP02");
-    switch (b.comparacion) {
+namespace {
+
+bool Comparar(TiposDeComparacion comparacion, double izquierda, double derecha) {
+    switch (comparacion) {
     case Mayor: return izquierda > derecha;
     case Menor: return izquierda < derecha;
     case MayorOIgual: return izquierda >= derecha;
@@ -139,4 +140,19 @@ bool CondicionCierta(const LlamadaBloque &b) {
     case Distinto: return izquierda != derecha;
     default: return izquierda == derecha;
     }
+}
+
+} // namespace
+
+bool CondicionCierta(const LlamadaBloque &b) {
+    const double izquierda = ValorTemporal("_TMP01");
+    const double derecha = ValorTemporal("_TMP02");
+    const bool cierta = Comparar(static_cast<TiposDeComparacion>(b.comparacion), izquierda, derecha);
+    if (Trazando()) {
+        const auto *signo = std::find_if(std::begin(Comparaciones), std::end(Comparaciones),
+                                         [&](const Comparacion &c) { return c.codigo == b.comparacion; });
+        TrazarEscalar({}, "_TMP01 " + std::string(signo->texto) + " _TMP02", cierta ? 1.0 : 0.0,
+                      "Condición del bloque, de sus dos lados: 1 si es cierta, 0 si no"_w);
+    }
+    return cierta;
 }

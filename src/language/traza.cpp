@@ -178,10 +178,16 @@ Abierto Desapilar() {
     return a;
 }
 
-// Why what began at `a` failed.
+// Why what began at `a` failed: the last boxes since, the cause first.
 std::string TextoDeFallo(const Abierto &a) {
     ++Estado.fallos;
-    return UltimaCaja.numero > a.cajas ? UltimaCaja.texto : std::string("No se ha podido calcular");
+    const std::int64_t mostradas = std::min<std::int64_t>(UltimaCaja.numero - a.cajas, CajasRecordadas);
+    if (mostradas <= 0) return "No se ha podido calcular";
+    std::string texto;
+    for (std::int64_t i = UltimaCaja.numero - mostradas; i < UltimaCaja.numero; ++i)
+        texto.append(texto.empty() ? "" : "; ")
+            .append(UltimaCaja.textos[static_cast<std::size_t>(i % CajasRecordadas)]);
+    return texto;
 }
 
 // ----- Operands
@@ -190,12 +196,14 @@ constexpr std::string_view FinesDeNombre = " ()[]{}+-*/:=><?@|'$,;^\t";
 
 void AnadirOperando(std::vector<OperandoTraza> &operandos, std::string_view nombre, const FilasTraza &filas) {
     const auto igual = [&](const OperandoTraza &o) { return o.nombre == nombre; };
-    if (nombre.empty() || nombre.size() >= AnchoCodigo || (nombre[0] >= '0' && nombre[0] <= '9') ||
+    if (nombre.empty() || (nombre[0] >= '0' && nombre[0] <= '9') ||
         std::any_of(operandos.begin(), operandos.end(), igual) || Estado.elementos > MaxElementosOperandos)
         return;
     OperandoTraza o{std::string(nombre), TrazaEscalar, PasoQueDio(nombre), {}};
     if (o.paso >= 0) {
         o.clase = Traza.pasos[static_cast<std::size_t>(o.paso)].clase;
+    } else if (nombre.size() >= AnchoCodigo) {
+        return;
     } else if (const int serie = BuscarSerie(nombre); serie >= 0) {
         o.clase = TrazaSerie;
         o.valor = ValorDeOperandoSerie(serie, filas);
@@ -213,6 +221,16 @@ void LeerOperandos(std::vector<OperandoTraza> &operandos, std::string_view formu
         const std::size_t fin = std::min(formula.find_first_of(FinesDeNombre, i), formula.size());
         AnadirOperando(operandos, formula.substr(i, fin - i), filas);
         i = fin + 1;
+    }
+}
+
+// The numbers of a formula that steps of this statement gave, by the placeholders where they stand.
+void LeerDados(std::vector<OperandoTraza> &operandos, std::string_view modelo, const FilasTraza &filas) {
+    for (std::size_t i = modelo.find("%("); i != modelo.npos; i = modelo.find("%(", i + 2)) {
+        const std::string_view nombre = modelo.substr(i + 2, modelo.find(')', i) - i - 2);
+        const int paso = PasoQueDio(nombre);
+        if (paso >= 0 && Traza.pasos[static_cast<std::size_t>(paso)].sentencia == Estado.sentencia)
+            AnadirOperando(operandos, nombre, filas);
     }
 }
 
@@ -318,7 +336,7 @@ void CerrarGrupo(int grupo, bool bien) {
 // ----- Formulas
 
 int AbrirPaso(ClasesTraza clase, std::string_view destino, std::string_view formula,
-              std::string_view explicacion, const FilasTraza &filas) {
+              std::string_view explicacion, const FilasTraza &filas, std::string_view modelo) {
     if (!Traza.activa) return SinTrazar;
     const int paso = AnadirPaso(clase, formula, explicacion);
     Abrir(true);
@@ -328,6 +346,7 @@ int AbrirPaso(ClasesTraza clase, std::string_view destino, std::string_view form
     p.destino = Recortado(destino);
     p.filas = filas;
     LeerOperandos(p.operandos, p.formula, filas);
+    LeerDados(p.operandos, modelo, filas);
     return paso;
 }
 
@@ -408,6 +427,7 @@ void AnadirReduccion(ClasesTraza clase, std::string_view texto, int nivelLinea, 
     if (paso == PasoContado) return;
     PasoTraza &p = Traza.pasos[static_cast<std::size_t>(paso)];
     p.filas = Estado.filas;
+    LeerOperandos(p.operandos, p.formula, p.filas);
     p.resultado = std::move(valor);
 }
 

@@ -127,8 +127,10 @@ void CerrarGrupo(int grupo, bool bien = true);
 
 // A formula is about to be evaluated and stored as `destino`; its operands are looked up now. Behind it, the result is read
 // from the tables.
+// `modelo`: the formula before its numbers were written into it; a placeholder "%(name)" in it that is the name of a step of the
+// same statement is an operand, too.
 int AbrirPaso(ClasesTraza clase, std::string_view destino, std::string_view formula,
-              std::string_view explicacion, const FilasTraza &filas = {});
+              std::string_view explicacion, const FilasTraza &filas = {}, std::string_view modelo = {});
 void CerrarPaso(int paso, bool bien);
 // The same for a value that isn't stored.
 void CerrarPasoConValor(int paso, double valor);

@@ -304,7 +304,7 @@ void EscribirPasoTexto(const PasoTraza &p) {
         if (i == corte) linea += " ...";
         linea += Formatear(i == 0 ? " = %.10g" : " %.10g", v.valores[i]);
     }
-    if (p.clase != TrazaSentencia) linea += ": " + ExplicacionDePaso(p);
+    if (p.clase != TrazaSentencia) linea += (p.formula.empty() ? "" : ": ") + ExplicacionDePaso(p);
     if (!p.fallo.empty()) linea += " [" + EnUnaLinea(p.fallo) + "]";
     EscribirLinea(Utf8De1252(linea));
 }

@@ -12,7 +12,7 @@ const OperacionesPlataforma *Instalada = nullptr;
 std::string Dado; // the file that was named beforehand
 } // namespace
 
-CajaMostrada UltimaCaja;
+CajasMostradas UltimaCaja;
 
 void InstalarPlataforma(const OperacionesPlataforma &operaciones) {
     Instalada = &operaciones;
@@ -24,8 +24,7 @@ const OperacionesPlataforma &Plataforma() {
 
 Respuesta MostrarCaja(Ventana *ventana, std::string_view texto, std::string_view titulo, Icono icono,
                       Botones botones) {
-    ++UltimaCaja.numero;
-    UltimaCaja.texto = texto;
+    UltimaCaja.textos[static_cast<std::size_t>(UltimaCaja.numero++ % CajasRecordadas)] = texto;
     return Instalada->caja(ventana, texto, titulo, icono, botones);
 }
 

@@ -64,7 +64,7 @@ TEST_P(FallosDePasos, Cajas) {
     ASSERT_EQ(lista.pasos.size(), lista.fallos.size());
     std::vector<DatoCadena> datos;
     for (const char *nombre :
-         {"n",      "k",         "gl",          "menosUna",      "mitad",        "constante", "suma",
+         {"n",      "k",         "gl",          "menosUna",      "mitad",        "constante", "total",
           "media",  "variacion", "series",      "saltos",        "fuera",        "glLargo",   "chi",
           "grados", "cociente",  "glNumerador", "glDenominador", "estadisticoF", "corregido", "peso",
           "d"})

@@ -205,6 +205,38 @@ TEST(TrazaDeComandos, Normalidad) {
     }
 }
 
+// ----- Numbers that go through a text
+
+// A number that stands in a formula in digits leads to the step that computed it.
+constexpr struct {
+    const char *sentencias, *destino, *numeros[2];
+} EnCifras[] = {
+    {"", "_FORLA", {"estadisticoF"}},  {"", "_RCC", {"corregido"}},
+    {"", "_MVD", {"media"}},           {"", "_STVD", {"total"}},
+    {"", "_SCVD", {"variacion"}},      {"", "_DW", {"saltos"}},
+    {"CDU", "_TMDU", {"rho", "raiz"}}, {"CDU", "_TMDN", {"h"}},
+    {"CWA", "_DWWA", {"wallis"}},      {"CWH", "_TM11", {"chi"}},
+    {"CWH", "_TM13", {"chi"}},         {"CGQ (BENEF) 1 10 12 21", "_ESTFG", {"cociente"}},
+};
+
+TEST(TrazaDeNumeros, LosQueVanEnCifrasSonOperandos) {
+    for (const auto &c : EnCifras) {
+        SCOPED_TRACE(c.destino);
+        Trazar(std::string(MC_KLEIN "\n") + c.sentencias);
+        const int paso = PasoQueDio(c.destino);
+        ASSERT_GE(paso, 0);
+        for (const char *numero : c.numeros) {
+            if (numero == nullptr) continue;
+            const auto &operandos = Traza.pasos[static_cast<std::size_t>(paso)].operandos;
+            const auto o = std::find_if(operandos.begin(), operandos.end(),
+                                        [&](const OperandoTraza &x) { return x.nombre == numero; });
+            ASSERT_NE(o, operandos.end()) << numero;
+            EXPECT_LT(o->paso, paso);
+            EXPECT_EQ(Traza.pasos[static_cast<std::size_t>(o->paso)].destino, numero);
+        }
+    }
+}
+
 // ----- The reader itself
 
 // Something that is not so, in a step of the regression.

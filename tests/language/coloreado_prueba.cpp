@@ -39,6 +39,8 @@ constexpr struct {
     {"SER FICTIC X", "PPP.PPPPPP.C"},
     {"MC SALARIO 1 X X(-1)", "PP.CCCCCCC.N.C.C..N."},
     {"MC (CA 4) SALARIO 1 X", "PP..PP.N..CCCCCCC.N.C"},
+    {"CHN IR 2", "PPP.PP.N"},
+    {"chn MR 1 BETA(2)-X", "PPP.PP.N.PPPP.N..C"},
     {"MC (HC) SALARIO 1 X", "PP..dd..CCCCCCC.N.C"},
     {"NADA X", "????.C"},
     {"REPITE I DESDE 1 HASTA 9", "PPPPPP.o.PPPPP.N.PPPPP.N"},

@@ -143,7 +143,8 @@ TEST(TrazaDeFormulas, Series) {
         {"SER S = A[1992]*A",
          {"1 serie S = A[1992]*A -> 3 6 9 12 15 (1990 a 1994)",
           "2 serie A[1992]*A -> 3 6 9 12 15 (1990 a 1994)"}},
-        {"OBS A[1992] = E+1", {"1 serie A = E+1 -> 1 2 8 4 5 (1990 a 1994)", "2 escalar E+1 -> 8"}},
+        {"OBS A[1992] = E+1",
+         {"1 serie A = E+1 -> 1 2 8 4 5 (1990 a 1994)", "2 escalar E+1 -> 8", "2 escalar A[1992] -> 8"}},
         {"MUEST 1991 1993\nSER S = A*2",
          {"1 serie S = A*2 -> 4 6 8 (1991 a 1993)", "2 serie A*2 -> 4 6 8 (1991 a 1993)"}},
         {"SER F = A > 3\nSER FICTIC F",
@@ -207,12 +208,13 @@ TEST(TrazaDeLotes, SentenciasYBloques) {
                             "2 escalar L = 1.000000 -> 1",
                             "1 sentencia ESC L =  2.000000",
                             "2 escalar L = 2.000000 -> 2",
-                            // A condition: its two sides.
+                            // A condition: its two sides, and whether it holds.
                             "0 sentencia SI (K = 2) ENTONCES",
                             "1 sentencia ESC _TMP01 =  (K )",
                             "2 escalar _TMP01 = (K ) -> 1",
                             "1 sentencia ESC _TMP02 = (   2)",
                             "2 escalar _TMP02 = (   2) -> 2",
+                            "1 escalar _TMP01 = _TMP02 -> 0",
                             "1 sentencia ESC K = 4",
                             "2 escalar K = 4 -> 4",
                             "0 sentencia MIENTRAS (K < 5) ENTONCES",
@@ -220,6 +222,7 @@ TEST(TrazaDeLotes, SentenciasYBloques) {
                             "2 escalar _TMP01 = (K ) -> 4",
                             "1 sentencia ESC _TMP02 = (   5)",
                             "2 escalar _TMP02 = (   5) -> 5",
+                            "1 escalar _TMP01 < _TMP02 -> 1",
                             "1 sentencia ESC K = K + 1",
                             "2 escalar K = K + 1 -> 5",
                             "3 escalar K + 1 -> 5",
@@ -227,6 +230,7 @@ TEST(TrazaDeLotes, SentenciasYBloques) {
                             "2 escalar _TMP01 = (K ) -> 5",
                             "1 sentencia ESC _TMP02 = (   5)",
                             "2 escalar _TMP02 = (   5) -> 5",
+                            "1 escalar _TMP01 < _TMP02 -> 0",
                         }));
 }
 
@@ -321,11 +325,13 @@ TEST(TrazaDeOperandos, DeLasTablasODeUnPaso) {
         {"MAT N = {A 1}", 1, {"A serie 1 2 3 4 5"}},
         // The value is that before the statement.
         {"ESC E = E+1", 1, {"E escalar 7"}},
+        // A reduction takes its own.
+        {"SER S = (A + B) * E", 2, {"A serie 1 2 3 4 5", "B serie 10 20 40 50"}},
         // From the step that gave it, the last one.
         {"ESC K = 3\nESC K = 4\nESC L = K*E", 5, {"K escalar del paso 3", "E escalar 7"}},
         {"ESC K = 3\nESC K = K+1", 3, {"K escalar del paso 1"}},
         {"SER S = A\nSER U = S*2", 3, {"S serie del paso 1"}},
-        {"OBS A[1992] = 8\nSER U = A*2", 3, {"A serie del paso 1"}},
+        {"OBS A[1992] = 8\nSER U = A*2", 4, {"A serie del paso 1"}},
     };
     for (const auto &c : Casos) {
         SCOPED_TRACE(c.sentencias);
@@ -355,7 +361,7 @@ TEST(TrazaDeOperandos, ElPasoQueDioUnNombre) {
 TEST(TrazaDeFallos, ElPasoQueFallaLoDice) {
     ComprobarCasos({
         {"MAT N = V*V", {"1 matriz N = V*V ! Dimensiones matrices no válidas. Pto 15"}},
-        {"ESC K = NADIE", {"1 escalar K = NADIE ! ESC K = NADIE. Pto 199"}},
+        {"ESC K = NADIE", {"1 escalar K = NADIE ! Función desconocida [NADIE]; ESC K = NADIE. Pto 199"}},
         {"SER S = A*2+",
          {"1 serie S = A*2+ ! SER S = A*2+. Pto 1129", "2 serie A*2 -> 2 4 6 8 10 (1990 a 1994)"}},
         {"MAT N = {B}", {"1 matriz N = {B} ! Existen valores missing. Pto 62"}},
