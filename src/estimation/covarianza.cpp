@@ -88,7 +88,7 @@ void TrazarCentro(int retardo, const char *destino) {
     if (!Trazando()) return;
     FilasTraza filas = FilasDeRegresion();
     filas.primera += retardo;
-    const int n = UltimaRegresion.RetardosCovarianza + 1;
+    const double n = UltimaRegresion.RetardosCovarianza + 1.0; // the lags can be as many as an int holds
     if (retardo == 0)
         TrazarMatriz(
             destino, ConPeriodos("suma de e(t)^2 x(t) x(t)'", filas),
@@ -97,8 +97,8 @@ void TrazarCentro(int retardo, const char *destino) {
     else
         TrazarMatriz(
             destino,
-            ConPeriodos(Formatear("suma de (1 - %d/%d) e(t) e(t-%d) (x(t) x(t-%d)' + x(t-%d) x(t)')", retardo,
-                                  n, retardo, retardo, retardo),
+            ConPeriodos(Formatear("suma de (1 - %d/%.0f) e(t) e(t-%d) (x(t) x(t-%d)' + x(t-%d) x(t)')",
+                                  retardo, n, retardo, retardo, retardo),
                         filas),
             Formatear("Productos cruzados a distancia %d, ponderados por los residuos, con diez decimales",
                       retardo),
