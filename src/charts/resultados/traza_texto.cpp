@@ -1,13 +1,16 @@
 // Steps as text, as tables and as pages.
 #include "charts/resultados/traza_texto.h"
 
-#include "charts/resultados/partes_informe.h"
 #include "language/traza.h"
 #include "platform/campos_texto.h"
 #include "platform/texto.h"
 #include "store/archivo.h"
 
 #include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdlib>
+#include <iterator>
 #include <string_view>
 
 namespace {
@@ -28,6 +31,17 @@ std::string Plural(int n, const char *uno, const char *varios) {
 }
 
 // ----- Values
+
+// The shortest digits that read back, without an exponent for numbers of a usual size.
+std::string NumeroDePaso(double valor) {
+    const double tamano = std::fabs(valor);
+    const bool usual = tamano == 0.0 || (tamano >= 1e-5 && tamano < 1e15);
+    char texto[40];
+    const auto fin = std::to_chars(std::begin(texto), std::end(texto), valor,
+                                   usual ? std::chars_format::fixed : std::chars_format::scientific)
+                         .ptr;
+    return {texto, fin};
+}
 
 // The row of the first value when there are as many rows as values up to the last one, so that every value has its period; -1
 // for a series with missing values among them.
@@ -50,7 +64,7 @@ FilasDeTexto FilasDeSerie(const ValorTraza &v) {
         if (fila >= 0) periodo = TextoPeriodo(fila + lugar);
         if (i == 0) periodo = v.primerPeriodo;
         if (i > 0 && i == guardados - 1) periodo = v.ultimoPeriodo;
-        filas.push_back({periodo, NumeroExacto(v.valores[static_cast<std::size_t>(i)])});
+        filas.push_back({periodo, NumeroDePaso(v.valores[static_cast<std::size_t>(i)])});
     }
     return filas;
 }
@@ -67,7 +81,7 @@ FilasDeTexto FilasDeMatriz(const ValorTraza &v) {
         std::vector<std::string> fila;
         for (std::size_t j = 0; j < deColumna.size(); ++j) {
             if (hayCorte(deColumna, j)) fila.emplace_back(Corte);
-            fila.push_back(NumeroExacto(v.valores[siguiente++]));
+            fila.push_back(NumeroDePaso(v.valores[siguiente++]));
         }
         if (hayCorte(deFila, i)) filas.emplace_back(fila.size(), Corte);
         filas.push_back(std::move(fila));
@@ -93,7 +107,7 @@ std::string TamanoDe(ClasesTraza clase, const ValorTraza &v) {
 std::string Breve(ClasesTraza clase, const ValorTraza &v) {
     if (v.valores.empty()) return {};
     if (clase == TrazaEscalar || (clase == TrazaMatriz && v.valores.size() == 1))
-        return NumeroExacto(v.valores.front());
+        return NumeroDePaso(v.valores.front());
     if (clase == TrazaMatriz) return Formatear("%d x %d", v.filas, v.columnas);
     return Plural(v.filas, "valor", "valores");
 }
@@ -203,7 +217,7 @@ constexpr const char *Estilo =
     R"(body { font-family: sans-serif; max-width: 60em; margin: 1em auto; padding: 0 1em; }
 section { border-top: 1px solid #888; }
 .formula, .numeros { font-family: monospace; }
-.numeros td { padding: 0 0.6em; text-align: right; }
+.numeros td { padding: 0 0.6em; text-align: right; white-space: nowrap; }
 .fallo { color: #b00020; font-weight: bold; }
 @media (prefers-color-scheme: dark) { body { background: #202020; color: #e8e8e8; } a { color: #8ab4f8; }
   .fallo { color: #ff8a80; } }
@@ -245,6 +259,10 @@ std::string ListaDePasos(int paso) {
         t += std::to_string(p.nivel) + "\t" + p.destino + "\t" + SinTabuladores(p.formula) + "\t" +
              SinTabuladores(p.explicacion) + "\t" + SinTabuladores(resultado) + "\n";
     }
+    // Those left out come behind the last one of the record.
+    const std::string demas = PasosSinGuardar();
+    if (!demas.empty() && DetrasDelPaso(paso) == static_cast<int>(Traza.pasos.size()))
+        t += "\t\t\t" + demas + "\t\n";
     return t;
 }
 
@@ -285,8 +303,11 @@ std::string ResumenDePaso(int paso) {
     const PasoTraza &p = Paso(paso);
     if (!p.fallo.empty()) return "Fallo";
     if (EsGrupo(p)) return {};
-    if (p.clase != TrazaSerie && p.resultado.valores.size() == 1)
-        return Formatear("%.6g", p.resultado.valores.front());
+    if (p.clase != TrazaSerie && p.resultado.valores.size() == 1) {
+        const double valor = p.resultado.valores.front();
+        const std::string corto = Formatear("%.6g", valor);
+        return std::strtod(corto.c_str(), nullptr) == valor ? NumeroDePaso(valor) : corto;
+    }
     return Breve(p.clase, p.resultado);
 }
 
@@ -318,7 +339,8 @@ int BuscarEnTraza(const std::string &texto, int desde, bool haciaDelante) {
     for (int n = 0; n < total; ++n) {
         i = (i + (haciaDelante ? 1 : total - 1)) % total;
         const PasoTraza &p = Paso(i);
-        for (const std::string *campo : {&p.formula, &p.destino, &p.explicacion})
+        const std::string rotulo = RotuloDePaso(i);
+        for (const std::string *campo : {&rotulo, &p.formula, &p.explicacion})
             if (EnMayusculas(*campo).find(buscado) != std::string::npos) return i;
     }
     return -1;
@@ -355,8 +377,16 @@ std::string HtmlDePaso(int paso, const char *enlace, int elemento) {
     return r;
 }
 
+std::string PasosSinGuardar() {
+    const std::int64_t demas = Traza.numero - static_cast<std::int64_t>(Traza.pasos.size());
+    if (demas <= 0) return {};
+    if (demas == 1) return "Se ha hecho otro paso, que no se guarda";
+    return "Se han hecho otros " + std::to_string(demas) + " pasos, que no se guardan";
+}
+
 std::string TextoDeTraza() {
-    std::string texto;
+    std::string texto = PasosSinGuardar();
+    if (!texto.empty()) texto += "\n";
     for (int i = 0; i < static_cast<int>(Traza.pasos.size()); ++i) AnadirLineas(texto, i);
     return texto;
 }
@@ -365,6 +395,7 @@ std::string PaginaDeTraza() {
     std::string r = "<!DOCTYPE html>\n<html lang=\"es\">\n<head>\n<meta charset=\"utf-8\">\n"
                     "<title>Cómo se calcula</title>\n<style>\n"_w +
                     std::string(Estilo) + "</style>\n</head>\n<body>\n<h1>Cómo se calcula</h1>\n"_w;
+    if (const std::string demas = PasosSinGuardar(); !demas.empty()) r += "<p>" + Html(demas) + "</p>\n";
     for (int i = 0; i < static_cast<int>(Traza.pasos.size()); ++i)
         r += "<section id=\"p" + std::to_string(i) + "\">\n" + HtmlDePaso(i, "#p") + "</section>\n";
     return r + "</body>\n</html>\n";

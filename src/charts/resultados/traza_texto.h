@@ -16,16 +16,16 @@ int PasoDeEncima(int paso);
 int SentenciaEnTraza(const std::string &texto);
 
 // In a line: what was computed ("_DW = formula"; of a statement its text, of a group what it is), and what came out: a
-// number of six digits, a size, a failure.
+// number of six digits (all those of a number that has no more), a size, a failure.
 std::string RotuloDePaso(int paso);
 std::string ResumenDePaso(int paso);
 
-// The next step behind `desde`, or before it, whose formula, destination or explanation has this text in it, capital or not;
+// The next step behind `desde`, or before it, whose label, formula or explanation has this text in it, capital or not;
 // round the ends of the record. -1 when there is none. `desde` -1: from the start.
 int BuscarEnTraza(const std::string &texto, int desde, bool haciaDelante);
 
 // A result as rows of cells: a matrix row by row with "…" where its edges are cut; of a series a row for each value, its
-// period in front where it is known. Numbers have all their digits.
+// period in front where it is known. Numbers have all their digits, and an exponent only below 0.00001 and from 1e15 on.
 using FilasDeTexto = std::vector<std::vector<std::string>>;
 FilasDeTexto FilasDelResultado(int paso);
 
@@ -37,6 +37,9 @@ std::string TablaDePaso(int paso);
 // the place of that step. `elemento` of the result, from 0 as FuenteDeNumero has it, is marked; -1 for none.
 std::string HtmlDePaso(int paso, const char *enlace, int elemento = -1);
 
-// All the record: as lines, and as a page in which the links lead from step to step.
+// How many steps the run has made beyond those that the record keeps, as a sentence; empty for none.
+std::string PasosSinGuardar();
+
+// All the record, those left out counted in front: as lines, and as a page in which the links lead from step to step.
 std::string TextoDeTraza();
 std::string PaginaDeTraza();

@@ -101,14 +101,71 @@ TEST(TrazaTexto, Buscar) {
         bool haciaDelante;
         int hallado;
     } Casos[] = {
-        {"mc y", -1, true, 0},  {"mc y", 0, true, 1},  {"mc y", 1, true, 0},    {"mc y", 0, false, 1},
-        {"_beta", -1, true, 2}, {"_beta", 2, true, 3}, {"_beta", -1, false, 3}, {"RAZÓN"_w, -1, true, 3},
-        {"nada", -1, true, -1}, {"  ", -1, true, -1},  {"ESC", 5, true, 5},
+        {"mc y", -1, true, 0},
+        {"mc y", 0, true, 1},
+        {"mc y", 1, true, 0},
+        {"mc y", 0, false, 1},
+        {"_beta", -1, true, 2},
+        {"_beta", 2, true, 3},
+        {"_beta", -1, false, 3},
+        {"RAZÓN"_w, -1, true, 3},
+        {"nada", -1, true, -1},
+        {"  ", -1, true, -1},
+        {"ESC", 5, true, 5},
+        // As it stands in a row.
+        {"_beta = _A$", -1, true, 2},
     };
     for (const auto &c : Casos)
         EXPECT_EQ(BuscarEnTraza(c.texto, c.desde, c.haciaDelante), c.hallado) << c.texto << " " << c.desde;
     PonerPasos({});
     EXPECT_EQ(BuscarEnTraza("MC", -1, true), -1);
+}
+
+// Numbers of a usual size have no exponent; the summary has six digits, or all of those of a number with no more.
+TEST(TrazaTexto, Numeros) {
+    static constexpr struct {
+        double valor;
+        const char *entero, *resumen;
+    } Casos[] = {
+        {0, "0", "0"},
+        {100000, "100000", "100000"},
+        {-250000, "-250000", "-250000"},
+        {1000000, "1000000", "1000000"},
+        {1234567.5, "1234567.5", "1.23457e+06"},
+        {999999999999999, "999999999999999", "1e+15"},
+        {1e15, "1e+15", "1e+15"},
+        {-2.5e300, "-2.5e+300", "-2.5e+300"},
+        {0.1, "0.1", "0.1"},
+        {0.00012, "0.00012", "0.00012"},
+        {1e-5, "0.00001", "0.00001"},
+        {9e-6, "9e-06", "9e-06"},
+        {1.0 / 3.0, "0.3333333333333333", "0.333333"},
+    };
+    for (const auto &c : Casos) {
+        PasoTraza p = Nuevo(TrazaMatriz, 0, "M", "f", "e");
+        p.resultado = Numero(c.valor);
+        PonerPasos({p});
+        EXPECT_EQ(FilasDelResultado(0), (FilasDeTexto{{c.entero}}));
+        EXPECT_EQ(ResumenDePaso(0), c.resumen);
+        EXPECT_NE(TablaDePaso(0).find("\n" + std::string(c.entero) + "\n"), std::string::npos);
+        EXPECT_NE(TextoDeTraza().find(" " + std::string(c.entero) + "\n"), std::string::npos);
+    }
+}
+
+// What leaves the window says how many steps were not kept.
+TEST(TrazaTexto, LosQueNoSeGuardan) {
+    PonerEjemplo();
+    static constexpr const char *Demas = "Se han hecho otros 10004 pasos, que no se guardan";
+    EXPECT_EQ(PasosSinGuardar(), "");
+    Traza.numero += 10004;
+    EXPECT_EQ(PasosSinGuardar(), Demas);
+    EXPECT_TRUE(TextoDeTraza().starts_with(std::string(Demas) + "\nMC Y 1 X\n"));
+    EXPECT_NE(PaginaDeTraza().find("<p>" + std::string(Demas) + "</p>"), std::string::npos);
+    // They come behind the last statement, not in the first one.
+    EXPECT_TRUE(TablaDePaso(5).ends_with("\n\t\t\t" + std::string(Demas) + "\t\n"));
+    EXPECT_EQ(TablaDePaso(0).find(Demas), std::string::npos);
+    Traza.numero = 7;
+    EXPECT_EQ(PasosSinGuardar(), "Se ha hecho otro paso, que no se guarda");
 }
 
 TEST(TrazaTexto, CeldasDeUnaMatriz) {
