@@ -5,6 +5,7 @@
 
 #include "charts/resultados/ventana_resultado.h"
 #include "charts/resultados/ventanas/ventana_resultado_qt.h"
+#include "charts/resultados/ventanas/ventana_traza.h"
 #include "language/traza.h"
 #include "platform/qt/ajustes_qt.h"
 #include "platform/qt/superficie_qt.h"
@@ -25,12 +26,15 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QPushButton>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextTable>
 #include <QToolTip>
 #include <QTreeView>
 #include <QWindow>
+
+#include <set>
 
 namespace {
 
@@ -444,6 +448,103 @@ TEST_F(VentanaDeTraza, UnFallo) {
     ElegirPaso("N = M * M");
     EXPECT_EQ(Arbol().currentIndex().siblingAtColumn(1).data().toString(), QStringLiteral("Fallo"));
     EXPECT_NE(TextoDePagina().find("Fallo: "), std::string::npos) << TextoDePagina();
+}
+
+// A box shows the tree while the step that it is about has no result yet: the row is drawn anew when it has.
+TEST_F(VentanaDeTraza, LasFilasTrasUnaCaja) {
+    Correr("ESC A = 1");
+    F9();
+    std::set<std::string> pintadas;
+    QObject::connect(Arbol().model(), &QAbstractItemModel::dataChanged, Ventana(),
+                     [&](const QModelIndex &desde, const QModelIndex &hasta) {
+                         EXPECT_EQ(hasta.column(), 1);
+                         pintadas.insert(desde.data().toString().toStdString());
+                     });
+    const auto enLaCaja = [&](const char *sentencia) {
+        return [this, sentencia](QDialog &d) {
+            EXPECT_TRUE(QTest::qWaitFor([&] { return Elegido() == sentencia; }, 2000)) << Elegido();
+            EXPECT_EQ(Arbol().model()->rowCount(Arbol().currentIndex()), 1);
+            d.reject();
+        };
+    };
+    Correr("CAL 7 + 4 * 2", {{"Resultado", enLaCaja("CAL 7 + 4 * 2")}});
+    const QModelIndex formula = Arbol().model()->index(0, 0, Arbol().model()->index(0, 0));
+    EXPECT_EQ(formula.siblingAtColumn(1).data().toString(), QStringLiteral("15"));
+    EXPECT_TRUE(pintadas.contains(formula.data().toString().toStdString()));
+    EXPECT_NE(TextoDePagina().find("15"), std::string::npos) << TextoDePagina();
+    pintadas.clear();
+    Correr("SER BAD = BENEF + NOHAY", {{"Proceso cancelado", enLaCaja("SER BAD = BENEF + NOHAY")},
+                                       {"Proceso cancelado", [](QDialog &d) { d.reject(); }}});
+    const QModelIndex sentencia = Arbol().model()->index(0, 0);
+    for (const QModelIndex &fila : {sentencia, Arbol().model()->index(0, 0, sentencia)}) {
+        const std::string rotulo = fila.data().toString().toStdString();
+        EXPECT_TRUE(fila.data(Qt::ForegroundRole).isValid()) << rotulo;
+        EXPECT_TRUE(pintadas.contains(rotulo)) << rotulo;
+    }
+    EXPECT_NE(TextoDePagina().find("Fallo"), std::string::npos) << TextoDePagina();
+}
+
+// However narrow the page is.
+TEST_F(VentanaDeTraza, LosNumerosNoSeParten) {
+    Correr(MC, {NoVer});
+    F9();
+    ElegirPaso("_DTE = ");
+    Ventana()->resize(300, 500);
+    QCoreApplication::processEvents();
+    int numeros = 0;
+    for (QTextBlock b = Pagina().document()->begin(); b.isValid(); b = b.next()) {
+        bool esNumero = false;
+        b.text().toDouble(&esNumero);
+        if (!esNumero) continue;
+        ++numeros;
+        EXPECT_EQ(b.layout()->lineCount(), 1) << b.text().toStdString();
+    }
+    EXPECT_GE(numeros, 3);
+}
+
+// "Atrás" leads back from whatever jumped; the arrows don't.
+TEST_F(VentanaDeTraza, AtrasTrasUnSalto) {
+    Correr("ESC A = 1\nESC B = A + 1\nESC Z = B * A");
+    F9();
+    EXPECT_EQ(Elegido(), "ESC A = 1");
+    Escribir(*Ventana(), "buscarEnTraza", "z = b");
+    QTest::keyClick(Hijo<QLineEdit>(*Ventana(), "buscarEnTraza"), Qt::Key_Return);
+    EXPECT_EQ(Elegido(), "ESC Z = B * A");
+    F9(12);
+    EXPECT_EQ(Elegido(), "ESC B = A + 1");
+    QTest::keyClick(&Arbol(), Qt::Key_Down);
+    for (const char *antes : {"ESC Z = B * A", "ESC A = 1"}) {
+        Pulsar(*Ventana(), "volverTraza");
+        EXPECT_EQ(Elegido(), antes);
+    }
+    EXPECT_FALSE(Hijo<QPushButton>(*Ventana(), "volverTraza")->isEnabled());
+    EnInforme(MC, [&](QDialog &, QAbstractScrollArea &area) {
+        for (const char *numero : {"14.642715", "0.097372"})
+            QTest::mouseClick(area.viewport(), Qt::LeftButton, {}, LugarDe(area, numero));
+        EXPECT_TRUE(Elegido().starts_with("_DTE = ")) << Elegido();
+        Pulsar(*Ventana(), "volverTraza");
+        EXPECT_TRUE(Elegido().starts_with("_BETA = ")) << Elegido();
+    });
+}
+
+TEST(VentanaTraza, LugarQueMenosTapa) {
+    static const struct {
+        QRect otra;
+        QPoint lugar;
+    } Casos[] = {
+        {{100, 50, 800, 600}, {900, 50}},   // to the right
+        {{100, 500, 800, 600}, {900, 430}}, // its bottom within the screen
+        {{100, -20, 800, 600}, {900, 30}},  // and its top
+        {{200, 50, 1600, 300}, {200, 350}}, // below
+        {{1300, 50, 600, 300}, {920, 350}}, // its right side within the screen
+        {{100, 50, 1700, 900}, {920, 430}}, // in the corner
+    };
+    for (const auto &c : Casos) {
+        const QPoint lugar = LugarQueMenosTapa(c.otra, {1000, 600}, {0, 30, 1920, 1000});
+        EXPECT_EQ(lugar, c.lugar) << lugar.x() << " " << lugar.y();
+    }
+    // A screen that has no room for it shows where it begins.
+    EXPECT_EQ(LugarQueMenosTapa({0, 0, 400, 400}, {1000, 600}, {0, 30, 800, 500}), QPoint(0, 30));
 }
 
 // The most that a record holds opens at once, and says what it has left out.

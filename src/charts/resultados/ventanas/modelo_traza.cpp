@@ -26,13 +26,31 @@ bool ModeloTraza::Refrescar() {
         std::vector<int> &hermanos = padre < 0 ? raices : nodos[static_cast<std::size_t>(padre)].hijos;
         const int fila = static_cast<int>(hermanos.size());
         hermanos.push_back(lugar);
-        nodos.push_back({padre, fila, !p.fallo.empty(), {}});
-        for (int i = padre; !p.fallo.empty() && i >= 0; i = nodos[static_cast<std::size_t>(i)].padre)
-            nodos[static_cast<std::size_t>(i)].falla = true;
+        nodos.push_back({padre, fila, false, {}});
+        if (!p.fallo.empty()) MarcarFallo(lugar);
         encima.push_back(lugar);
     }
     endResetModel();
     return true;
+}
+
+void ModeloTraza::MarcarFallo(int paso) {
+    for (int i = paso; i >= 0; i = nodos[static_cast<std::size_t>(i)].padre)
+        nodos[static_cast<std::size_t>(i)].falla = true;
+}
+
+void ModeloTraza::Terminar(int desde, int hasta) {
+    if (corrida != Traza.corrida) return;
+    const auto cambia = [this](int paso) {
+        const QModelIndex indice = IndiceDe(paso);
+        emit dataChanged(indice, indice.siblingAtColumn(ColumnaResumen));
+    };
+    for (int paso = desde; paso < std::min(hasta, static_cast<int>(nodos.size())); ++paso) {
+        cambia(paso);
+        if (Traza.pasos[static_cast<std::size_t>(paso)].fallo.empty()) continue;
+        MarcarFallo(paso);
+        for (int i = paso; i >= 0; i = nodos[static_cast<std::size_t>(i)].padre) cambia(i);
+    }
 }
 
 const std::vector<int> &ModeloTraza::HijosDe(const QModelIndex &padre) const {

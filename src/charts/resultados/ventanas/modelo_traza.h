@@ -17,6 +17,9 @@ public:
     bool Cambiado() const;
     // Takes over what the record has now. False when it has it already.
     bool Refrescar();
+    // The results of the steps [desde, hasta) are known by now: the rows that the tree has of them say so, and those above
+    // them where one failed.
+    void Terminar(int desde, int hasta);
     // The failures, in the colour that the theme asks for.
     void PonerColorDeFallo(const QColor &color) { colorDeFallo = color; }
 
@@ -33,6 +36,8 @@ public:
 
 private:
     const std::vector<int> &HijosDe(const QModelIndex &padre) const;
+    // Marks a step that failed, and those above it.
+    void MarcarFallo(int paso);
 
     struct Nodo {
         int padre;          // -1: of the first level

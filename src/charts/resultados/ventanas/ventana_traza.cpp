@@ -46,6 +46,7 @@ public:
         setObjectName(QStringLiteral("detalleTraza"));
         setAccessibleName(QStringLiteral("El paso elegido"));
         setOpenLinks(false);
+        setWordWrapMode(QTextOption::WordWrap); // a number is never broken
         setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
     }
     // The keyboard, on the first link.
@@ -58,7 +59,8 @@ public:
 
 class VentanaTraza : public QDialog {
 public:
-    explicit VentanaTraza(QWidget *padre)
+    // `abridora`: the window that it is opened from.
+    VentanaTraza(QWidget *padre, const QWidget &abridora)
         : QDialog(padre), buscar(new QLineEdit), arbol(new QTreeView), detalle(new PaginaDePaso),
           anotar(new QCheckBox(QStringLiteral("Anotar los &pasos"))), estado(new QLabel),
           volver(new QPushButton(QStringLiteral("&Atrás"))) {
@@ -103,9 +105,8 @@ public:
         const QSize lado = DentroDeLaPantalla(
             *this, {c * (ColumnasDelArbol + ColumnasDeLaPagina), letra.lineSpacing() * LineasDelArbol});
         resize(lado);
-        // In the corner of the screen, where it hides the least of a result.
-        const QRect pantalla = screen()->availableGeometry();
-        move(pantalla.right() - lado.width() - c, pantalla.bottom() - lado.height() - 4 * letra.height());
+        const QSize conMarco = lado + QSize(c, 4 * letra.height());
+        move(LugarQueMenosTapa(abridora.frameGeometry(), conMarco, abridora.screen()->availableGeometry()));
         const int delArbol = lado.width() * ColumnasDelArbol / (ColumnasDelArbol + ColumnasDeLaPagina);
         partes->setSizes({delArbol, lado.width() - delArbol});
         arbol->header()->resizeSection(ColumnaResumen, c * ColumnasDelResumen);
@@ -128,6 +129,12 @@ public:
         Mostrar();
     }
 
+    // IrA for whatever jumps: from there, "Atrás" leads to where it is now.
+    void Saltar(int paso, int elemento = -1, const QString &aviso = {}) {
+        if (const int antes = PasoElegido(); antes >= 0 && antes != paso) visitados.push_back(antes);
+        IrA(paso, elemento, aviso);
+    }
+
     // In front of the others, whatever holds them, with the keyboard in the tree.
     void Presentar() {
         show();
@@ -145,7 +152,9 @@ public:
         IrA(laMisma ? antes : SentenciaEnTraza({}), laMisma ? elementoMarcado : -1);
     }
 
-    void Avisar() {
+    // The results of these steps are known. Between two of these calls a box may have shown them without.
+    void Avisar(int desde, int hasta) {
+        modelo.Terminar(desde, hasta);
         if (isVisible() && !reloj.isActive()) reloj.start(0);
     }
 
@@ -284,8 +293,8 @@ private:
             texto = QStringLiteral("No hay pasos: procese una sentencia y se anotarán aquí");
         } else if (texto.isEmpty()) {
             texto = guardados == 1 ? QStringLiteral("1 paso") : QStringLiteral("%1 pasos").arg(guardados);
-            if (const std::int64_t demas = Traza.numero - guardados; demas > 0)
-                texto += QStringLiteral("; se han hecho otros %1, que no se guardan").arg(demas);
+            if (const std::string demas = PasosSinGuardar(); !demas.empty())
+                texto += QStringLiteral(". ") + QDe1252(demas);
         }
         estado->setText(texto);
         const QSignalBlocker callado(anotar);
@@ -298,10 +307,10 @@ private:
         modelo.PonerColorDeFallo(QColor(fallo));
         const QPalette &p = palette();
         detalle->document()->setDefaultStyleSheet(
-            QStringLiteral(
-                "h2 { font-size: large; } h3 { font-size: medium; } a { color: %1; } "
-                ".formula, .numeros { font-family: '%2'; } .fallo { color: %3; font-weight: bold; } "
-                "td.elegido { background-color: %4; color: %5; }")
+            QStringLiteral("h2 { font-size: large; } h3 { font-size: medium; } a { color: %1; } "
+                           ".formula, .numeros { font-family: '%2'; } .numeros td { white-space: nowrap; } "
+                           ".fallo { color: %3; font-weight: bold; } "
+                           "td.elegido { background-color: %4; color: %5; }")
                 .arg(p.color(QPalette::Link).name(), FuenteFijaDePantalla().family(), fallo,
                      p.color(QPalette::Highlight).name(), p.color(QPalette::HighlightedText).name()));
     }
@@ -310,9 +319,8 @@ private:
 
     void Seguir(int paso) {
         if (corrida != Traza.corrida) return Refrescar(); // the page is of steps that have gone
-        if (const int antes = PasoElegido(); antes >= 0) visitados.push_back(antes);
         const bool conTeclado = detalle->hasFocus();
-        IrA(paso);
+        Saltar(paso);
         if (conTeclado) detalle->Entrar();
     }
 
@@ -326,7 +334,7 @@ private:
 
     void Buscar(bool haciaDelante) {
         const int paso = BuscarEnTraza(De1252Q(buscar->text()), PasoElegido(), haciaDelante);
-        if (paso >= 0) return IrA(paso);
+        if (paso >= 0) return Saltar(paso);
         avisado = QStringLiteral("Ningún paso lo menciona");
         MostrarEstado();
     }
@@ -370,7 +378,7 @@ private:
     QPushButton *volver;
     QTimer reloj;
     QPointer<QWidget> sosten;   // the window of a result in front of which it stands
-    std::vector<int> visitados; // before links were followed
+    std::vector<int> visitados; // before each jump
     QString avisado;            // stands in the last line
     int elementoMarcado = -1;
     int corrida = 0; // of what is shown
@@ -385,8 +393,8 @@ QWidget *Primera(QWidget *ventana) {
 }
 
 void Abrir(QWidget *duena, int paso, int elemento = -1, const QString &aviso = {}) {
-    if (Abierta.isNull()) Abierta = new VentanaTraza(Primera(duena));
-    Abierta->IrA(paso, elemento, aviso);
+    if (Abierta.isNull()) Abierta = new VentanaTraza(Primera(duena), *duena->window());
+    Abierta->Saltar(paso, elemento, aviso);
     Abierta->Presentar();
 }
 
@@ -397,10 +405,19 @@ QString SinPasos(const MomentoDeTraza &momento) {
 
 } // namespace
 
+QPoint LugarQueMenosTapa(const QRect &otra, const QSize &lado, const QRect &pantalla) {
+    const int x = std::max(pantalla.left(), pantalla.right() + 1 - lado.width());
+    const int y = std::max(pantalla.top(), pantalla.bottom() + 1 - lado.height());
+    if (otra.right() + 1 <= x) return {otra.right() + 1, std::max(pantalla.top(), std::min(otra.top(), y))};
+    if (otra.bottom() + 1 <= y)
+        return {std::max(pantalla.left(), std::min(otra.left(), x)), otra.bottom() + 1};
+    return {x, y};
+}
+
 void IniciarVentanaTraza() {
     PonerTraza(Eleccion(ClaveDeTraza, true));
-    AlTrazar = [](int, int) {
-        if (!Abierta.isNull()) Abierta->Avisar();
+    AlTrazar = [](int desde, int hasta) {
+        if (!Abierta.isNull()) Abierta->Avisar(desde, hasta);
     };
 }
 

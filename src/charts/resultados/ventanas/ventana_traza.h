@@ -4,11 +4,18 @@
 
 #include "charts/resultados/resultado.h"
 
+#include <QPoint>
+#include <QRect>
+#include <QSize>
 #include <QString>
 #include <QWidget>
 
 // From here on the steps are recorded, unless the user has switched that off, and the window follows them.
 void IniciarVentanaTraza();
+
+// Where a window of this size, its frame included, covers the least of another one: to the right of it or below it if the
+// screen has room there, else in the right bottom corner of the screen. All in the coordinates of the desktop.
+QPoint LugarQueMenosTapa(const QRect &otra, const QSize &lado, const QRect &pantalla);
 
 // Each of these opens the window, in front of `duena`, or brings it there.
 // At the last statement of this text, else at the last of all.
