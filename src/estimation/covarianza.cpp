@@ -63,10 +63,9 @@ void SumarTermino(const double *__restrict x, const double *__restrict z, double
         for (int b = a; b < k; ++b) suma[a * k + b] += w * ((0.0 + x[a] * z[b]) + (0.0 + z[a] * x[b]));
 }
 
-void LlenarMitadInferior(std::vector<double> &m, int k) {
+void LlenarMitadInferior(double *m, int k) {
     for (int a = 0; a < k; ++a)
-        for (int b = 0; b < a; ++b)
-            m[static_cast<std::size_t>(a * k + b)] = m[static_cast<std::size_t>(b * k + a)];
+        for (int b = 0; b < a; ++b) m[a * k + b] = m[b * k + a];
 }
 
 std::vector<double> MatrizDeTermino(const Datos &d, int t, int retardo, double w) {
@@ -128,7 +127,7 @@ int SumarCentro(Estimacion &e, const Datos &d, int retardo, double factor, const
         else
             SumarTermino(d.X + t * d.k, d.X + (t - retardo) * d.k, w, d.k, suma.data());
     }
-    LlenarMitadInferior(suma, d.k);
+    LlenarMitadInferior(suma.data(), d.k);
     const std::vector<double> ultimo = MatrizDeTermino(d, d.n - 1, retardo, w);
     if (PonerObservacionDelTermino(e, d, d.n - 1, retardo) == 0) return 0;
     if (Guardar(e, "_S5", ultimo.data(), d.k, d.k) == 0 || Guardar(e, destino, suma.data(), d.k, d.k) == 0)

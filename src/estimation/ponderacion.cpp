@@ -54,7 +54,8 @@ int PonderarDatos(Estimacion &e) {
     std::vector<double> ponderados(static_cast<std::size_t>(n) * static_cast<std::size_t>(k));
     for (int i = 0; i < n; ++i) {
         const double peso = ArchivoTrabajo.ValoresObs[Muestra.InicioRegresion + i][pesos];
-        for (int j = 0; j < k; ++j) ponderados[static_cast<std::size_t>(i * k + j)] = X[i * k + j] * peso;
+        double *fila = ponderados.data() + i * k;
+        for (int j = 0; j < k; ++j) fila[j] = X[i * k + j] * peso;
         y[i] *= peso;
     }
     if (GuardarMatriz("_S2", ponderados.data(), n, k) != MatrizGuardada)

@@ -33,9 +33,7 @@ protected:
         EmpezarCopias("");
         Trabajo = {};
     }
-    void TearDown() override {
-        fs::remove_all(carpeta);
-    }
+    void TearDown() override { fs::remove_all(carpeta); }
     std::string Ruta(const char *nombre) const { return (carpeta / nombre).string(); }
     fs::path carpeta = fs::temp_directory_path() / ("tabira ejemplos " + std::to_string(getpid()));
 };
