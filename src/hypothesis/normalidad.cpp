@@ -61,16 +61,25 @@ void Mostrar(Ventana *ventana, std::string_view serie, const FilasDeMuestra &fil
     MostrarVentanaResultado(ventana, salida);
 }
 
+struct SumasDePotencias {
+    double S2 = 0.0, S3 = 0.0, S4 = 0.0;
+};
+
+SumasDePotencias SumarPotencias(std::span<const double> x) {
+    SumasDePotencias s;
+    for (const double v : x) {
+        s.S2 += v * v;
+        s.S3 += v * v * v;
+        s.S4 += v * v * v * v;
+    }
+    return s;
+}
+
 } // namespace
 
 ContrasteNormalidad ContrastarNormalidad(std::span<const double> x) {
     const double n = static_cast<double>(x.size());
-    double S2 = 0.0, S3 = 0.0, S4 = 0.0;
-    for (const double v : x) {
-        S2 += v * v;
-        S3 += v * v * v;
-        S4 += v * v * v * v;
-    }
+    const auto [S2, S3, S4] = SumarPotencias(x);
     ContrasteNormalidad c = {};
     const double desviacion3 = std::sqrt(S2 / n * (S2 / n) * (S2 / n));
     if (desviacion3 > 0.0) c.asimetria = S3 / n / desviacion3;
@@ -88,12 +97,7 @@ void TrazarContraste(std::string_view serie, std::span<const double> x, const Co
                      const FilasTraza &filas) {
     if (!Trazando()) return;
     const int n = static_cast<int>(x.size());
-    double S2 = 0.0, S3 = 0.0, S4 = 0.0;
-    for (const double v : x) {
-        S2 += v * v;
-        S3 += v * v * v;
-        S4 += v * v * v * v;
-    }
+    const auto [S2, S3, S4] = SumarPotencias(x);
     const std::string codigo(Recortado(serie));
     const auto momento = [&](const char *nombre, int orden, double valor) {
         TrazarEscalar(nombre, ConPeriodos(Formatear("suma de %s(t)^%d", codigo.c_str(), orden), filas), valor,
