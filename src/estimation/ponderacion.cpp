@@ -11,19 +11,6 @@
 #include <algorithm>
 #include <vector>
 
-namespace {
-
-// The weight is typed: the trace shows how it is reduced.
-FinesDeFormula FormulaEscrita(const Estimacion &e, const std::string &formula) {
-    ReducirDesde(Evaluador.NivelLinea + 1);
-    const FinesDeFormula fin =
-        SerieDeFormula(CadenaDe(e), "_VORD", formula, "Ponderación de cada observación"_w);
-    DejarDeReducir();
-    return fin;
-}
-
-} // namespace
-
 int LeerPonderacion(Estimacion &e, const std::string &texto, int &posicion) {
     SaltarBlancos(texto, posicion);
     if (CaracterEn(texto, posicion) != '(') return MensajePunto(e.ventana, "Indroduzca ponderación"_w, 1633);
@@ -33,7 +20,7 @@ int LeerPonderacion(Estimacion &e, const std::string &texto, int &posicion) {
     posicion = std::min(cierre + 1, static_cast<int>(texto.size()));
     if (UltimoNivel()) return MensajePunto(e.ventana, FaltanSeries, 8621);
     UltimaRegresion.TextoPonderacion = formula;
-    switch (FormulaEscrita(e, formula)) {
+    switch (SerieDeFormulaEscrita(CadenaDe(e), "_VORD", formula, "Ponderación de cada observación"_w)) {
     case FormulaErronea: return MensajePunto(e.ventana, formula, 8511);
     case FormulaSinGuardar: return MensajePunto(e.ventana, FaltanSeries, 8628);
     default: UltimaRegresion.Ponderada = 1; return 1;

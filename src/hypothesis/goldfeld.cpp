@@ -134,11 +134,8 @@ int LeerOrdenacion(Goldfeld &g) {
     UltimoContraste.ordenacion = linea.substr(desde, static_cast<std::size_t>(cierre) - desde);
     g.posicion = std::min(cierre + 1, static_cast<int>(linea.size()));
     if (UltimoNivel()) return MensajePunto(g.ventana, FaltanSeries, 8622);
-    ReducirDesde(Evaluador.NivelLinea + 1); // the formula was typed
-    const FinesDeFormula fin =
-        SerieDeFormula(EnLaMuestra(g), "_TMP1", UltimoContraste.ordenacion, "Variable de ordenación"_w);
-    DejarDeReducir();
-    switch (fin) {
+    switch (SerieDeFormulaEscrita(EnLaMuestra(g), "_TMP1", UltimoContraste.ordenacion,
+                                  "Variable de ordenación"_w)) {
     case FormulaErronea: return MensajePunto(g.ventana, UltimoContraste.ordenacion, 8511);
     case FormulaSinGuardar: return MensajePunto(g.ventana, FaltanSeries, 8629);
     default: return 1;

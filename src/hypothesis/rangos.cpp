@@ -100,11 +100,7 @@ int Clasificar(Ventana *ventana, const char *original, int puntoOriginal, bool a
 int LeerOrdenacion(const Cadena &c) {
     const std::string_view linea = Recortado(LineaDelNivel(*c.lineas), RecorteDerecha);
     UltimoContraste.ordenacion = linea.substr(std::min(InicioOrdenacion, linea.size()));
-    ReducirDesde(Evaluador.NivelLinea + 1); // the formula was typed
-    const FinesDeFormula fin =
-        SerieDeFormula(c, "_TMP1", UltimoContraste.ordenacion, "Variable de ordenación"_w);
-    DejarDeReducir();
-    switch (fin) {
+    switch (SerieDeFormulaEscrita(c, "_TMP1", UltimoContraste.ordenacion, "Variable de ordenación"_w)) {
     case FormulaErronea: return MensajeAviso(c.ventana, MensajesAvisoCalculos.alEvaluar);
     case FormulaSinGuardar: return MensajeAviso(c.ventana, MensajesAvisoCalculos.alGuardar);
     default: break;

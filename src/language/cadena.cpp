@@ -75,6 +75,14 @@ FinesDeFormula SerieDeFormula(const Cadena &c, std::string_view destino, const s
     return fin;
 }
 
+FinesDeFormula SerieDeFormulaEscrita(const Cadena &c, std::string_view destino, const std::string &texto,
+                                     std::string_view explicacion) {
+    ReducirDesde(Evaluador.NivelLinea + 1);
+    const FinesDeFormula fin = SerieDeFormula(c, destino, texto, explicacion);
+    DejarDeReducir();
+    return fin;
+}
+
 // ----- Placeholders
 
 namespace {

@@ -133,3 +133,6 @@ FinesDeFormula EscalarDeFormula(const Cadena &c, std::string_view destino, const
                                 std::string_view explicacion, int &causa);
 FinesDeFormula SerieDeFormula(const Cadena &c, std::string_view destino, const std::string &texto,
                               std::string_view explicacion);
+// The same for a formula that the user typed: the trace shows how it is reduced.
+FinesDeFormula SerieDeFormulaEscrita(const Cadena &c, std::string_view destino, const std::string &texto,
+                                     std::string_view explicacion);
